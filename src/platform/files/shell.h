@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/result.h"
+
+#include <QString>
+
+namespace lumen {
+
+/// Opens documents and web pages with the desktop's own programs.
+class Shell
+{
+public:
+    virtual ~Shell() = default;
+    /// A path of the program or an http(s) address. NotFound when the file is missing.
+    virtual Result<Done> open(const QString& target) = 0;
+};
+
+} // namespace lumen

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/jet/recordset.h"
+
+#include <QStringList>
+
+#include <memory>
+
+namespace lumen {
+
+class Connection; // the shared SQLite connection of one file; connection.h
+
+/// What a table recordset needs to be told apart from a query.
+enum class RecordsetType { Automatic, Table, Dynaset };
+
+struct TableDef
+{
+    QString Name;
+};
+
+/// The tables of a store, sorted by name without regard to case; those of the engine begin "MSys".
+class TableDefs
+{
+public:
+    explicit TableDefs(QStringList names) : m_names(std::move(names)) {}
+    int Count() const { return static_cast<int>(m_names.size()); }
+    /// Zero-based; error 3265 outside 0 to Count - 1.
+    TableDef operator()(int index) const;
+
+private:
+    QStringList m_names;
+};
+
+/// An open database. Its recordsets are closed with it.
+class Database
+{
+public:
+    explicit Database(std::shared_ptr<Connection> connection);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    /// `source` is a table's name or the text of a query.
+    std::unique_ptr<Recordset> OpenRecordset(const QString& source,
+                                             RecordsetType type = RecordsetType::Automatic);
+    /// A delete or a select into.
+    void Execute(const QString& sql);
+    int RecordsAffected() const { return m_recordsAffected; }
+    lumen::TableDefs TableDefs() const;
+    /// Makes the writes since `BeginTrans` one step on disk; an exception in between rolls back.
+    void BeginTrans();
+    void CommitTrans();
+    void Rollback();
+    void Close();
+
+private:
+    std::shared_ptr<Connection> m_connection;
+    int m_recordsAffected = 0;
+};
+
+} // namespace lumen

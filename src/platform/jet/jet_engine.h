@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/jet/database.h"
+#include "platform/open_files.h"
+#include "platform/path_resolver.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace lumen {
+
+class ConnectionPool;
+
+/// Where the engine finds its import program and keeps what it converted.
+struct JetEngineOptions
+{
+    QString importProgram; ///< native path of lumen-modules; "" looks beside the program, then libexec
+    QString cacheFolder;   ///< native; "" is $XDG_CACHE_HOME/lumenscript/modules
+};
+
+/// The database engine (the DBEngine of the program). Paths go through the resolver. A genuine
+/// Jet file is converted on opening: a module into the cache folder, a user database in place after
+/// the original was put aside as "<name>.jet".
+class JetEngine : public OpenFiles
+{
+public:
+    explicit JetEngine(const PathResolver& paths, JetEngineOptions options = {});
+    ~JetEngine() override;
+
+    /// 3024 no file, 3343 no database, 3031 password, 3045 when `exclusive` and open already.
+    std::unique_ptr<Database> OpenDatabase(const QString& path, bool exclusive = false,
+                                           bool readOnly = false, const QString& connect = {});
+    /// A compact copy of `src` under `dst`; nothing is left of a failed one. `locale` may carry
+    /// ";pwd=..." for the copy, `password` opens the source.
+    void CompactDatabase(const QString& src, const QString& dst, const QString& locale = {},
+                         const QString& password = {});
+
+    void setDefaultUser(const QString& user) { m_defaultUser = user; }
+    void setDefaultPassword(const QString& password) { m_defaultPassword = password; }
+    const QString& DefaultUser() const { return m_defaultUser; }
+    const QString& DefaultPassword() const { return m_defaultPassword; }
+
+    /// Ends the implicit transaction that writes outside an explicit one have opened. The window
+    /// guard calls the second when a handler failed.
+    void commitAll();
+    void rollbackAll();
+
+    bool isOpen(const QString& nativePath) const override;
+    void commitPending(const QString& nativePath) override;
+
+    /// The shared connection of a file; for data controls.
+    std::shared_ptr<Connection> connect(const QString& path, const QString& connect, bool readOnly);
+
+private:
+    const PathResolver& m_paths;
+    JetEngineOptions m_options;
+    std::unique_ptr<ConnectionPool> m_pool;
+    QString m_defaultUser;
+    QString m_defaultPassword;
+};
+
+} // namespace lumen
