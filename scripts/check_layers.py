@@ -1,0 +1,79 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Reads every #include below src/ and tells those that point upwards.
+
+A folder may include itself and what its row names, directly or through those rows.
+"""
+import pathlib
+import re
+import sys
+
+PLATFORM = ["platform", "platform/jet", "platform/registry", "platform/files"]
+CONTROLS = ["platform/controls", "platform/dialogs", "platform/printing", "platform/mail"]
+LAYERS = {
+    "canon": [],
+    "text": ["canon"],
+    "platform": ["text"],
+    "platform/jet": ["platform", "text"],
+    "platform/registry": ["platform", "text"],
+    "platform/files": ["platform", "text"],
+    "data": PLATFORM,
+    "platform/controls": ["data"],
+    "platform/dialogs": ["platform/controls"],
+    "platform/printing": ["platform/controls"],
+    "platform/mail": ["platform/controls"],
+    "forms": CONTROLS,
+    "print": ["forms"],
+    "panel": ["forms"],
+    "records": ["print"],
+    "search": ["panel", "print"],
+    "tools": ["panel", "print"],
+    "reader": ["panel", "print"],
+    "app": ["reader", "search", "tools", "records"],
+}
+INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+# What only platform/ may name: the rest of the program meets it through narrow interfaces.
+GUARDED = re.compile(
+    r"\b(QMessageBox|QFileDialog|QDialog::exec|QDateTime::currentDateTime|QDesktopServices|"
+    r"QSettings|QProcess|QPrinterInfo|sqlite3_\w+)\b"
+)
+
+
+def reachable(folder):
+    seen, todo = {folder}, [folder]
+    while todo:
+        for below in LAYERS[todo.pop()]:
+            if below not in seen:
+                seen.add(below)
+                todo.append(below)
+    return seen
+
+
+def folder_of(path):
+    parts = pathlib.PurePosixPath(path).parent.parts
+    two = "/".join(parts[:2])
+    return two if two in LAYERS else parts[0] if parts else ""
+
+
+def faults(root):
+    allowed = {folder: reachable(folder) for folder in LAYERS}
+    for file in sorted(root.rglob("*")):
+        if file.suffix not in (".h", ".cpp"):
+            continue
+        name = file.relative_to(root).as_posix()
+        own = folder_of(name)
+        if own not in LAYERS:
+            yield f"{name}: the folder is in no layer"
+            continue
+        for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+            found = INCLUDE.match(line)
+            if found and folder_of(found.group(1)) not in allowed[own]:
+                yield f"{name}:{number}: includes {found.group(1)}, which lies above {own}"
+            if not own.startswith("platform") and GUARDED.search(line.split("//")[0]):
+                yield f"{name}:{number}: names {GUARDED.search(line).group(1)} outside platform/"
+
+
+if __name__ == "__main__":
+    found = list(faults(pathlib.Path(__file__).resolve().parent.parent / "src"))
+    print("\n".join(found) if found else "layers: in order")
+    sys.exit(1 if found else 0)
