@@ -1,21 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "platform/message_text.h"
+
 #include <QString>
 
 class QWidget;
 
 namespace lumen {
-
-/// A message word for word. Flags: low four bits for the buttons (0 확인; 1 확인, 취소;
-/// 3 예, 아니요, 취소; 4 예, 아니요) plus the icon (16 critical, 32 question, 48 warning,
-/// 64 information).
-struct MessageText
-{
-    const char16_t* title;
-    const char16_t* text;
-    int flags;
-};
 
 enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "data/version_font.h"
+
+#include <QString>
+
+#include <array>
+#include <set>
+
+namespace lumen {
+
+/// What CheckData found at start. Nothing changes it afterwards: a new module takes a restart.
+struct InstalledFlags
+{
+    std::set<int> versions;     ///< codes whose <nnn>.dts is there, user slots among them
+    std::set<int> concordances; ///< codes whose <nnn>c.dts is there
+
+    bool cRef = false;
+    bool ekDic = false;
+    bool bibleDic = false;
+    bool mhcc = false;
+    bool wesley = false;
+    bool myc = false;
+    bool z101 = false;
+
+    /// The table names of the user slots, slot i at index i - 1; "" when absent or without a table.
+    std::array<QString, kUserVersionCount> userTables;
+    int versionCount = 0;
+    QString firstVersion;
+
+    bool hasVersion(int code) const { return versions.count(code) > 0; }
+    bool hasConcordance(int code) const { return concordances.count(code) > 0; }
+};
+
+/// What the windows share; made in `Main` and passed by reference.
+struct AppState
+{
+    QString AppPath; ///< ends in a backslash only when it is a drive's root
+    QString CdDrive; ///< such as "D:"
+    InstalledFlags installed;
+    FontSettings fonts = defaultFontSettings();
+    /// True adds a blank line at the head of the text view.
+    bool LanguageBarRunning = false;
+};
+
+} // namespace lumen

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace lumen {
+
+class DataControl;
+class Recordset;
+
+/// One verse of a version as its module holds it.
+struct VerseRow
+{
+    QString key;                 ///< the VerseIndex
+    int verse = 0;               ///< 1-based
+    std::optional<QString> cont; ///< stored form; nothing for Null
+    QString part;                ///< "" for Null
+    QString miniTitle;           ///< "" for Null
+};
+
+/// The readable text of a verse; "" for Null.
+QString verseText(const VerseRow& row);
+
+/// The query of a chapter for a slot of the reader: 0 the base version, 1 to 3 the parallel ones.
+/// The book is zero-based.
+QString chapterQuery(const QString& table, int book, int chapter, int slot);
+/// The same chapter as the print preview asks for it.
+QString previewChapterQuery(const QString& table, int book, int chapter, int slot);
+
+/// Points a data control at a version's module and reads a query; throws JetError.
+QList<VerseRow> readVerses(DataControl& control, const QString& databaseName, const QString& query);
+/// The rows of an open recordset from its first to its last; it is left on the first one.
+QList<VerseRow> versesOf(Recordset& rows);
+
+} // namespace lumen

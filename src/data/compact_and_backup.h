@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace lumen {
+
+class FileSystem;
+class JetEngine;
+
+/// One user file as the window that closes it treats it. All names stand in the folder \Data.
+struct UserFile
+{
+    QStringView name; ///< "\myc.mdb"
+    QStringView copy; ///< of the compact copy, "\mycc.mdb"; "" for a file that isn't compacted
+    QStringView backup;
+    QStringView formerBackup;
+    /// Known to the engine as default password and given to the copy; "" for none.
+    QStringView password;
+    /// The test for a left-over copy makes a doubled backslash a blank and a backslash, so that it
+    /// never finds one in a drive's root. That is how these windows do it.
+    bool oddTest = false;
+};
+
+namespace user_file {
+inline constexpr UserFile kNotes{u"\\myc.mdb", u"\\mycc.mdb", u"\\myc.mdb", u"\\mycbak.mdb"};
+inline constexpr UserFile kBookmarks{u"\\bmk.bmf", u"", u"\\bmk.bmf", u"\\bmkbak.bmf"};
+inline constexpr UserFile kSermons{u"\\설교매니저.mdb",
+                                   u"\\설교매니저c.mdb",
+                                   u"\\설교매니저.mdb",
+                                   u"\\설교매니저bak.mdb",
+                                   u"",
+                                   true};
+inline constexpr UserFile kAddresses{u"\\전자우편주소록.mdb",
+                                     u"\\전자우편주소록c.mdb",
+                                     u"\\전자우편주소록.mdb",
+                                     u"\\전자우편주소록bak.mdb",
+                                     u"",
+                                     true};
+inline constexpr UserFile kQuietTime{u"\\QT.mdb",    u"\\QTc.mdb", u"\\QT.mdb",
+                                     u"\\QTbak.mdb", u"",          true};
+inline constexpr UserFile kIllustrations{u"\\예화.dts",    u"\\예화c.dts", u"\\예화.dts",
+                                         u"\\예화bak.dts", u"qolvetrinam", true};
+} // namespace user_file
+
+/// Compacts a user file in \Data and copies it to the folder \OrvaneBackup of the program's drive,
+/// which keeps the last two generations. The file must be closed. Every step runs whether or not
+/// the one before failed, and no failure is told: it never keeps a window open. A failed compaction
+/// leaves the file as it was. A file without a compact copy is backed up only when it exists.
+void CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
+                      FileSystem& files);
+
+} // namespace lumen
