@@ -17,7 +17,7 @@ struct UserFile
     QStringView backup;
     QStringView formerBackup;
     /// Known to the engine as default password and given to the copy; "" for none.
-    QStringView password;
+    QStringView password = {};
     /// The test for a left-over copy makes a doubled backslash a blank and a backslash, so that it
     /// never finds one in a drive's root. That is how these windows do it.
     bool oddTest = false;

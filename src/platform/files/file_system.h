@@ -9,8 +9,8 @@
 namespace lumen {
 
 /// File operations on the program's paths ("C:\lumenscript\data\bmk.bmf"). What is open in the
-/// database engine is neither overwritten nor deleted (FailureKind::InUse); a pending transaction on
-/// it is written before it is copied.
+/// database engine is neither overwritten nor deleted (FailureKind::InUse); a pending transaction
+/// on it is written before it is copied.
 class FileSystem
 {
 public:

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/files/shell.h"
+#include "platform/path_resolver.h"
+
+namespace lumen {
+
+/// Opens files and pages with the programs that the desktop has set for them. Invalid for any
+/// address but http and https, System when the desktop has no program.
+class DesktopShell : public Shell
+{
+public:
+    explicit DesktopShell(const PathResolver& paths) : m_paths(paths) {}
+    Result<Done> open(const QString& target) override;
+
+private:
+    const PathResolver& m_paths;
+};
+
+} // namespace lumen
