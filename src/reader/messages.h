@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/message_text.h"
+
+namespace lumen::messages {
+
+inline constexpr MessageText kBadReference{
+    u"입력 오류",
+    u"입력이 잘못되었습니다. '요 3:16' 또는 '요한복음 3:16'과 같은 방식으로 입력하시기 바랍니다.",
+    48};
+// Both limits have the verse's title.
+inline constexpr MessageText kChapterTooLarge{
+    u"절 입력 오류", u"입력하신 장이 실제 장 수보다 큽니다. 마지막 장을 선택합니다.", 48};
+inline constexpr MessageText kVerseTooLarge{
+    u"절 입력 오류", u"입력하신 절이 실제 절 수보다 큽니다. 마지막 절을 선택합니다.", 48};
+
+inline constexpr MessageText kNotePlaceTaken{
+    u"추가 불능", u"동일한 장절에 대한 개인 주석이 이미 존재합니다.", 48};
+inline constexpr MessageText kDeleteNote{u"삭제 확인", u"현재의 개인 주석을 삭제하시겠습니까?", 49};
+
+} // namespace lumen::messages

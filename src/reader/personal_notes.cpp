@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/personal_notes.h"
+
+#include "canon/canon_table.h"
+#include "platform/jet/data_control.h"
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString chapterQuery(const QString& chapter)
+{
+    return u"select * from myc where index like '"_s + chapter + u"*'"_s;
+}
+
+void deleteAll(Recordset& records)
+{
+    while (!records.Eof()) {
+        records.Delete();
+        records.MoveNext();
+    }
+}
+
+void addAll(Recordset& records, const std::vector<Note>& notes)
+{
+    int sequence = 0;
+    for (const Note& note : notes) {
+        // The first note without text ends the saving: it and all behind it are dropped, also
+        // those with text. This is meant.
+        if (note.text.isEmpty())
+            return;
+        records.AddNew();
+        records.Fields(u"seq").setValue(sequence++);
+        records.Fields(u"Index").setValue(note.place);
+        records.Fields(u"note").setValue(note.text);
+        records.Update();
+    }
+}
+
+} // namespace
+
+QString noteChapter(int book, int chapter)
+{
+    return bookAbbreviation(book) + QString::number(chapter) + u':';
+}
+
+PersonalNotes::PersonalNotes(DataControl& dacPersnote, QString databasePath)
+    : m_dacPersnote(dacPersnote), m_databasePath(std::move(databasePath))
+{
+}
+
+bool PersonalNotes::isOpen() const
+{
+    return m_dacPersnote.Recordset() != nullptr;
+}
+
+std::vector<Note> PersonalNotes::load(const QString& chapter)
+{
+    open(chapterQuery(chapter) + u" order by seq"_s);
+    std::vector<Note> notes;
+    Recordset& records = *m_dacPersnote.Recordset();
+    while (!records.Eof()) {
+        notes.push_back({Text(records.Fields(u"Index")), Text(records.Fields(u"note"))});
+        records.MoveNext();
+    }
+    return notes;
+}
+
+void PersonalNotes::save(const QString& chapter, const std::vector<Note>& notes)
+{
+    open(chapterQuery(chapter));
+    Database& database = *m_dacPersnote.Database();
+    database.BeginTrans();
+    try {
+        deleteAll(*m_dacPersnote.Recordset());
+        addAll(*m_dacPersnote.Recordset(), notes);
+        database.CommitTrans();
+    } catch (...) {
+        database.Rollback();
+        throw;
+    }
+    m_dacPersnote.Refresh();
+}
+
+void PersonalNotes::open(const QString& query)
+{
+    m_dacPersnote.DatabaseName = m_databasePath;
+    m_dacPersnote.RecordSource = query;
+    m_dacPersnote.Refresh();
+}
+
+} // namespace lumen

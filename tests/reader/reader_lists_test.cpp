@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/bookmark_list.h"
+#include "reader/move_history.h"
+#include "reader/note_list.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace lumen {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(MoveHistoryTest, TheNewestMoveStandsFirst)
+{
+    MoveHistory history;
+    EXPECT_TRUE(history.add(u"창1:1"_s, u"창1:1"_s));
+    EXPECT_TRUE(history.add(u"요 3:16"_s, u"요3:16"_s));
+    EXPECT_EQ(history.entries(), (QStringList{u"요3:16"_s, u"창1:1"_s}));
+}
+
+TEST(MoveHistoryTest, AnEntryThatIsTypedAgainStaysWhereItIs)
+{
+    MoveHistory history;
+    history.add(u"창1:1"_s, u"창1:1"_s);
+    history.add(u"창1:2"_s, u"창1:2"_s);
+    EXPECT_FALSE(history.add(u"창1:1"_s, u"창1:1"_s));
+    EXPECT_EQ(history.entries(), (QStringList{u"창1:2"_s, u"창1:1"_s}));
+}
+
+TEST(MoveHistoryTest, ThePlaceIsLookedForAsItWasTyped)
+{
+    MoveHistory history;
+    history.add(u"창 1:1"_s, u"창1:1"_s);
+    EXPECT_TRUE(history.add(u"창 1:1"_s, u"창1:1"_s));
+    EXPECT_EQ(history.entries().size(), 2);
+}
+
+TEST(MoveHistoryTest, TheThirtyFirstMovePushesTheOldestOut)
+{
+    MoveHistory history;
+    for (int verse = 1; verse <= 31; ++verse) {
+        const QString place = u"시119:%1"_s.arg(verse);
+        history.add(place, place);
+    }
+    EXPECT_EQ(history.entries().size(), 30);
+    EXPECT_EQ(history.entries().first(), u"시119:31"_s);
+    EXPECT_EQ(history.entries().last(), u"시119:2"_s);
+}
+
+TEST(BookmarkListTest, ANewBookmarkStandsAboveTheOthersAndIsSelected)
+{
+    BookmarkList list;
+    list.add(u"창1:1"_s);
+    list.add(u"출2:3"_s);
+    EXPECT_EQ(list.references(), (QStringList{u"출2:3"_s, u"창1:1"_s}));
+    EXPECT_EQ(list.selected(), 0);
+}
+
+TEST(BookmarkListTest, AVerseThatIsMarkedAlreadyChangesNothing)
+{
+    BookmarkList list({u"출2:3"_s, u"창1:1 "_s});
+    list.select(0);
+    list.add(u"창1:1"_s);
+    EXPECT_EQ(list.references(), (QStringList{u"출2:3"_s, u"창1:1 "_s}));
+    EXPECT_EQ(list.selected(), 0);
+}
+
+TEST(BookmarkListTest, RemovingSelectsWhatTookThePlaceOrTheNewLast)
+{
+    BookmarkList list({u"a"_s, u"b"_s, u"c"_s});
+    list.remove();
+    EXPECT_EQ(list.references().size(), 3) << "nothing was selected";
+    list.select(1);
+    list.remove();
+    EXPECT_EQ(list.references(), (QStringList{u"a"_s, u"c"_s}));
+    EXPECT_EQ(list.selected(), 1);
+    list.remove();
+    EXPECT_EQ(list.selected(), 0);
+    list.remove();
+    EXPECT_EQ(list.selected(), -1);
+    list.remove();
+    EXPECT_TRUE(list.references().isEmpty());
+}
+
+TEST(BookmarkListTest, MovingKeepsTheSelectionAndStopsAtTheEnds)
+{
+    BookmarkList list({u"a"_s, u"b"_s, u"c"_s});
+    list.select(1);
+    list.moveUp();
+    list.moveUp();
+    EXPECT_EQ(list.references(), (QStringList{u"b"_s, u"a"_s, u"c"_s}));
+    EXPECT_EQ(list.selected(), 0);
+    list.moveDown();
+    list.moveDown();
+    list.moveDown();
+    EXPECT_EQ(list.references(), (QStringList{u"a"_s, u"c"_s, u"b"_s}));
+    EXPECT_EQ(list.selected(), 2);
+}
+
+std::vector<Note> threeNotes()
+{
+    return {{u"요3:1"_s, u"하나"_s}, {u"요3:2"_s, u"둘"_s}, {u"요3:3"_s, u"셋"_s}};
+}
+
+TEST(NoteListTest, APlaceHasOneNoteOnly)
+{
+    NoteList list;
+    list.fill(threeNotes());
+    EXPECT_FALSE(list.add(u"요3:2"_s));
+    EXPECT_EQ(list.editedRow(), 0);
+    EXPECT_TRUE(list.add(u"요3:2-3"_s));
+    EXPECT_EQ(list.editedRow(), 3);
+    EXPECT_EQ(list.notes().back(), (Note{u"요3:2-3"_s, QString()}));
+}
+
+TEST(NoteListTest, WhatIsTypedGoesToTheEditedRowAlone)
+{
+    NoteList list;
+    list.setText(u"nowhere"_s);
+    EXPECT_TRUE(list.empty());
+    list.fill(threeNotes());
+    list.edit(1);
+    list.setText(u"고침"_s);
+    list.edit(7);
+    EXPECT_EQ(list.editedRow(), 1) << "there is no such row";
+    EXPECT_EQ(list.notes()[0].text, u"하나"_s);
+    EXPECT_EQ(list.editedText(), u"고침"_s);
+    EXPECT_EQ(list.notes()[2].text, u"셋"_s);
+}
+
+TEST(NoteListTest, RemovingAndMovingFollowTheEditedNote)
+{
+    NoteList list;
+    list.fill(threeNotes());
+    EXPECT_FALSE(list.moveUp());
+    EXPECT_TRUE(list.moveDown());
+    EXPECT_EQ(list.editedText(), u"하나"_s);
+    EXPECT_EQ(list.editedRow(), 1);
+    EXPECT_TRUE(list.moveDown());
+    EXPECT_FALSE(list.moveDown());
+    list.remove();
+    EXPECT_EQ(list.editedText(), u"셋"_s) << "the new last note is edited";
+    list.edit(0);
+    list.remove();
+    EXPECT_EQ(list.editedText(), u"셋"_s);
+    list.remove();
+    EXPECT_EQ(list.editedRow(), -1);
+    EXPECT_TRUE(list.empty());
+}
+
+} // namespace
+} // namespace lumen
