@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace lumen {
+
+/// The literal between the wildcards of a search: the word as the modules store it, then quoted, so
+/// that a character that is stored as a wildcard stands for itself too.
+QString searchLiteral(const QString& word);
+
+/// "(Cont like '*...*')" for one text; an empty one fits every verse.
+QString easyCriterion(const QString& text);
+
+/// How a search comes to its records.
+enum class SearchPath {
+    Query,    ///< anew, by a query over the version
+    Narrow,   ///< by a filter on the open result
+    StartOver ///< within results, but there are none: the whole range instead, with a message
+};
+
+/// `openCount` is the number of records of the open result, nothing when none is open.
+SearchPath searchPath(const QString& scopeTag, std::optional<int> openCount);
+
+} // namespace lumen

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/message_text.h"
+
+namespace lumen::messages {
+
+inline constexpr MessageText kNoSearchText{
+    u"검색 문자열이 없음", u"검색하고자 하는 문자열을 입력한 후 [검색] 단추를 누르시기 바랍니다.",
+    64};
+inline constexpr MessageText kNoFirstSearchText{u"검색 문자열이 없음",
+                                                u"첫번째 검색 대상은 반드시 입력되어야 합니다. "
+                                                u"검색하고자 하는 문자열을 입력한 후 [검색] 단추를 "
+                                                u"누르시기 바랍니다.",
+                                                64};
+inline constexpr MessageText kNoEarlierResult{
+    u"안내", u"앞서 검색된 내용이 없으므로 전체 범위에 대하여 검색합니다.", 48};
+inline constexpr MessageText kNoBookChosen{u"선택된 책 없음",
+                                           u"선택된 책이 없습니다. 그대로 문서창을 닫을까요?", 52};
+
+} // namespace lumen::messages
