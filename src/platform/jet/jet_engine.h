@@ -16,8 +16,9 @@ class ConnectionPool;
 /// Where the engine finds its import program and keeps what it converted.
 struct JetEngineOptions
 {
-    QString importProgram; ///< native path of lumen-modules; "" looks beside the program, then libexec
-    QString cacheFolder;   ///< native; "" is $XDG_CACHE_HOME/lumenscript/modules
+    /// Native path of lumen-modules; "" looks beside the program, then in the libexec folder.
+    QString importProgram;
+    QString cacheFolder; ///< native; "" is $XDG_CACHE_HOME/lumenscript/modules
 };
 
 /// The database engine (the DBEngine of the program). Paths go through the resolver. A genuine

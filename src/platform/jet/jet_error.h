@@ -25,11 +25,16 @@ private:
     QByteArray m_utf8;
 };
 
+/// The error of a number with its own Korean text; `detail` (a file, table, column or place in a
+/// statement) is put behind it.
+JetError jetError(int number, const QString& detail = {});
+
 /// The numbers of the engine's errors.
 namespace ErrorNumber {
 inline constexpr int kFileInUse = 70;
 inline constexpr int kInvalidPattern = 93;
 inline constexpr int kInvalidArgument = 3001;
+inline constexpr int kTableExists = 3010;
 inline constexpr int kNoSuchIndex = 3015;
 inline constexpr int kNoIndexSet = 3019;
 inline constexpr int kUpdateWithoutEdit = 3020;

@@ -71,7 +71,7 @@ public:
     Recordset& operator=(const Recordset&) = delete;
 
     int RecordCount() const;
-    /// Before the first record / past the last; both on an empty recordset. ("EOF" is a macro of C.)
+    /// Before the first record / past the last; both on an empty recordset. ("EOF" is a macro.)
     bool Bof() const;
     bool Eof() const;
     void MoveFirst();

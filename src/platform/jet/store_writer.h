@@ -41,8 +41,8 @@ struct TableSchema
 };
 
 /// Writes a new store: tables, indexes, rows, password and origin go into a temporary file beside
-/// the destination, which commit() renames into place. Destroyed without commit() it leaves nothing.
-/// Paths are native. Errors are JetErrors.
+/// the destination, which commit() renames into place. Destroyed without commit() it leaves
+/// nothing. Paths are native. Errors are JetErrors.
 class StoreWriter
 {
 public:
