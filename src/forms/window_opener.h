@@ -4,13 +4,7 @@
 namespace lumen {
 
 /// The windows that others may ask for.
-enum class WindowId {
-    Search,
-    Extract,
-    Preferences,
-    UserVersionPreferences,
-    About
-};
+enum class WindowId { Search, Extract, Preferences, UserVersionPreferences, About };
 
 /// Opens, raises or runs a window, so that windows need not know each other.
 class WindowOpener

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "text/basic_text.h"
+
+#include <QAbstractTableModel>
+#include <QFont>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace lumen {
+
+/// Where the text of a cell stands.
+enum class GridAlign { Inherit, Left, Center, Right };
+
+/// The look of a cell. What is left open comes from the column, then from the grid.
+struct CellStyle
+{
+    QString family;
+    double points = 0;
+    std::optional<bool> bold;
+    std::optional<RgbLong> color;
+    std::optional<RgbLong> back;
+    GridAlign align = GridAlign::Inherit;
+
+    friend bool operator==(const CellStyle&, const CellStyle&) = default;
+};
+
+/// Texts and looks of a FlexGrid. Rows and columns are those of the grid, the header row among
+/// them; the view shows the rows from fixedRows() on.
+class GridModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    explicit GridModel(QObject* parent = nullptr);
+
+    int rows() const { return static_cast<int>(m_rows.size()); }
+    int cols() const { return m_cols; }
+    int fixedRows() const { return m_fixedRows; }
+    void setRows(int rows);
+    void setCols(int cols);
+    void setFixedRows(int rows);
+    void insertEmptyRow(int row);
+    void removeGridRow(int row);
+    void clear();
+
+    const QString& text(int row, int col) const;
+    void setText(int row, int col, const QString& text);
+    void setColStyle(int col, const CellStyle& style);
+    void setCellStyle(int row, int col, const CellStyle& style);
+    void setHeaderStyle(const CellStyle& style);
+    /// Cell, then column, then grid; complete but for the colours.
+    CellStyle style(int row, int col) const;
+    QFont font(int row, int col) const;
+    void setBaseFont(const QFont& font) { m_baseFont = font; }
+
+    /// The first column of a row's merged stretch, -1 when it has none.
+    int mergedFrom(int row) const;
+    void setMergedFrom(int row, int firstCol);
+    bool hasMergedRows() const;
+
+    /// While held, views are not told of new texts and looks.
+    void setHeld(bool held);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    struct Cell
+    {
+        QString text;
+        int style = 0; // in m_styles
+    };
+    struct Row
+    {
+        std::vector<Cell> cells;
+        int mergedFrom = -1;
+    };
+
+    int internStyle(const CellStyle& style);
+    void tell(int row, int col);
+
+    std::vector<Row> m_rows;
+    std::vector<CellStyle> m_styles{CellStyle{}};
+    std::vector<CellStyle> m_colStyles;
+    CellStyle m_headerStyle;
+    QFont m_baseFont;
+    int m_cols = 0;
+    int m_fixedRows = 1;
+    bool m_held = false;
+};
+
+} // namespace lumen
