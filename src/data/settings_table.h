@@ -2,6 +2,7 @@
 #pragma once
 
 #include "data/version_font.h"
+#include "text/basic_text.h"
 
 #include <QString>
 #include <QStringView>
@@ -34,29 +35,22 @@ QString settingsPath(QStringView subkey);
 enum class ViewMode { Table, Text };
 enum class PanelState { Collapsed, Expanded };
 
-/// Colours as RGB longs, red in the low byte.
+/// The colours that the user may set.
 struct ReaderColors
 {
-    int DefVerColor;
-    std::array<int, 3> verColors; ///< Ver1Color to Ver3Color
-    int AltColor;
-    int BackColor;
+    RgbLong DefVerColor;
+    std::array<RgbLong, 3> verColors; ///< Ver1Color to Ver3Color
+    RgbLong AltColor;
+    RgbLong BackColor;
 
     friend bool operator==(const ReaderColors&, const ReaderColors&) = default;
 };
 
-/// An RGB long of its three parts, each 0 to 255.
-constexpr int rgbLong(int red, int green, int blue)
-{
-    return red | green << 8 | blue << 16;
-}
-
 /// The colours of a fresh program and of the reset button.
-inline constexpr ReaderColors kDefaultColors{
-    rgbLong(0, 0, 0),
-    {rgbLong(136, 33, 28), rgbLong(0, 89, 53), rgbLong(47, 60, 106)},
-    rgbLong(245, 245, 245),
-    rgbLong(255, 255, 255)};
+inline constexpr ReaderColors kDefaultColors{RGB(0, 0, 0),
+                                             {RGB(136, 33, 28), RGB(0, 89, 53), RGB(47, 60, 106)},
+                                             RGB(245, 245, 245),
+                                             RGB(255, 255, 255)};
 
 /// What a copied verse carries; the initialisers are the defaults.
 struct CopyOptions

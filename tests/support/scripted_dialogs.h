@@ -20,18 +20,18 @@ public:
     ~ScriptedFileDialogs() override;
 
     std::optional<QString> save(QWidget* parent, const SaveRequest& request) override;
-    std::optional<int> color(QWidget* parent, int color) override;
+    std::optional<RgbLong> color(QWidget* parent, RgbLong color) override;
 
     /// The answer of the next save dialog, nothing for a cancel.
     void answerSave(std::optional<QString> path) { m_saves.append(std::move(path)); }
-    void answerColor(std::optional<int> color) { m_colors.append(color); }
+    void answerColor(std::optional<RgbLong> color) { m_colors.append(color); }
     /// What the dialogs were asked with.
     QList<SaveRequest> saveRequests;
-    QList<int> colorRequests;
+    QList<RgbLong> colorRequests;
 
 private:
     QList<std::optional<QString>> m_saves;
-    QList<std::optional<int>> m_colors;
+    QList<std::optional<RgbLong>> m_colors;
 };
 
 /// Runs modal dialogs as a test scripts them: the dialog is shown, the queued function does what a

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include <QColor>
+#include "text/basic_text.h"
+
 #include <QString>
 
 #include <optional>
@@ -25,8 +26,7 @@ public:
     virtual ~FileDialogs() = default;
     /// Asks no question about an existing file: the caller does, in its own words.
     virtual std::optional<QString> save(QWidget* parent, const SaveRequest& request) = 0;
-    /// `color` and the answer are RGB longs, red in the low byte.
-    virtual std::optional<int> color(QWidget* parent, int color) = 0;
+    virtual std::optional<RgbLong> color(QWidget* parent, RgbLong color) = 0;
 };
 
 } // namespace lumen

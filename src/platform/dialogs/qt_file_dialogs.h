@@ -12,7 +12,7 @@ class QtFileDialogs : public FileDialogs
 {
 public:
     std::optional<QString> save(QWidget* parent, const SaveRequest& request) override;
-    std::optional<int> color(QWidget* parent, int color) override;
+    std::optional<RgbLong> color(QWidget* parent, RgbLong color) override;
 };
 
 /// "텍스트 파일 (*.txt)|*.txt" as the toolkit wants it, a filter an item: "텍스트 파일 (*.txt)".
