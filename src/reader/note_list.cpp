@@ -70,4 +70,11 @@ void NoteList::swapWith(int row)
     m_editedRow = row;
 }
 
+std::vector<Note> storableNotes(const std::vector<Note>& notes)
+{
+    const auto firstEmpty = std::find_if(notes.cbegin(), notes.cend(),
+                                         [](const Note& note) { return note.text.isEmpty(); });
+    return {notes.cbegin(), firstEmpty};
+}
+
 } // namespace lumen

@@ -47,4 +47,8 @@ private:
     int m_editedRow = -1;
 };
 
+/// The notes that a save stores: those before the first one without text. That one and all behind
+/// it are dropped, also those with text; this is meant.
+std::vector<Note> storableNotes(const std::vector<Note>& notes);
+
 } // namespace lumen

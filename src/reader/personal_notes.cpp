@@ -26,11 +26,7 @@ void deleteAll(Recordset& records)
 void addAll(Recordset& records, const std::vector<Note>& notes)
 {
     int sequence = 0;
-    for (const Note& note : notes) {
-        // The first note without text ends the saving: it and all behind it are dropped, also
-        // those with text. This is meant.
-        if (note.text.isEmpty())
-            return;
+    for (const Note& note : storableNotes(notes)) {
         records.AddNew();
         records.Fields(u"seq").setValue(sequence++);
         records.Fields(u"Index").setValue(note.place);

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/personal_notes_tab.h"
+
+#include "data/app_state.h"
+#include "data/module_path.h"
+#include "forms/reader_place.h"
+#include "platform/controls/colors.h"
+#include "platform/dialogs/message_boxes.h"
+#include "reader/messages.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPalette>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPlaceColumn = 0;
+constexpr int kNoteColumn = 1;
+constexpr RgbLong kGreyedBox = RGB(200, 200, 200);
+/// Place and range have to fit into the 255 characters of the place column.
+constexpr int kLongestRange = 200;
+
+/// The box knows "\n" only; the table keeps the line ends that users' files have always had.
+QString boxText(QString note)
+{
+    return note.replace(u"\r\n"_s, u"\n"_s);
+}
+
+QString noteText(QString shown)
+{
+    return shown.replace(u'\n', u"\r\n"_s);
+}
+
+} // namespace
+
+PersonalNotesTab::PersonalNotesTab(Services& services, const AppState& state,
+                                   const ReaderPlace& reader, DataControl& dacPersnote)
+    : m_page(new QWidget), m_services(services), m_state(state), m_reader(reader),
+      m_notes(dacPersnote, joinedPath(state.AppPath, u"\\Data\\myc.mdb"))
+{
+    tx개인주석절범위->setMaxLength(kLongestRange);
+    tx개인주석절범위->setAccessibleName(u"절 범위"_s);
+    flex개인주석목록->setAccessibleName(u"개인 주석 목록"_s);
+    flex개인주석목록->setFixedRows(0);
+    flex개인주석목록->setCols(2);
+    flex개인주석목록->setColHidden(kNoteColumn, true);
+    flex개인주석목록->setStretchFrom(kPlaceColumn);
+    flex개인주석목록->setRows(0);
+    tx개인주석본문->setAccessibleName(u"개인 주석 본문"_s);
+    tx개인주석본문->setTabChangesFocus(true);
+    layOut();
+    wire();
+    rowChanged();
+}
+
+void PersonalNotesTab::layOut()
+{
+    auto* place = new QHBoxLayout;
+    place->addWidget(lbl개인주석책장);
+    place->addWidget(tx개인주석절범위, 1);
+    auto* buttons = new QGridLayout;
+    buttons->addWidget(cmd개인주석추가, 0, 0);
+    buttons->addWidget(cmd개인주석삭제, 0, 1);
+    buttons->addWidget(cmd개인주석위로, 1, 0);
+    buttons->addWidget(cmd개인주석아래로, 1, 1);
+    auto* list = new QVBoxLayout;
+    list->addLayout(place);
+    list->addWidget(flex개인주석목록, 1);
+    list->addLayout(buttons);
+    auto* layout = new QHBoxLayout(m_page);
+    layout->addLayout(list, 1);
+    layout->addWidget(tx개인주석본문, 2);
+}
+
+void PersonalNotesTab::wire()
+{
+    QObject::connect(cmd개인주석추가, &QPushButton::clicked, m_page,
+                     [this] { Proc개인주석추가(); });
+    QObject::connect(cmd개인주석삭제, &QPushButton::clicked, m_page,
+                     [this] { cmd개인주석삭제_Click(); });
+    QObject::connect(cmd개인주석위로, &QPushButton::clicked, m_page,
+                     [this] { moved(m_list.moveUp()); });
+    QObject::connect(cmd개인주석아래로, &QPushButton::clicked, m_page,
+                     [this] { moved(m_list.moveDown()); });
+    QObject::connect(tx개인주석본문, &QPlainTextEdit::textChanged, m_page,
+                     [this] { textChanged(); });
+    QObject::connect(tx개인주석절범위, &QLineEdit::returnPressed, m_page,
+                     [this] { Proc개인주석추가(); });
+    auto* remove =
+        new QShortcut(Qt::Key_Delete, flex개인주석목록, nullptr, nullptr, Qt::WidgetShortcut);
+    QObject::connect(remove, &QShortcut::activated, m_page, [this] { cmd개인주석삭제_Click(); });
+    flex개인주석목록->onSelChange = [this] {
+        if (flex개인주석목록->Row() >= 0)
+            m_list.edit(flex개인주석목록->Row());
+        rowChanged();
+    };
+}
+
+void PersonalNotesTab::enter()
+{
+    setStatus(QString());
+    m_page->setEnabled(m_state.installed.myc);
+    Proc개인주석저장();
+    Proc개인주석표시();
+}
+
+void PersonalNotesTab::showSelection()
+{
+    if (m_chapter == noteChapter(m_reader.book(), m_reader.chapter()))
+        tx개인주석절범위->setText(m_reader.GetCurVerseRange());
+}
+
+void PersonalNotesTab::Proc개인주석표시()
+{
+    if (!m_state.installed.myc)
+        return;
+    const QString chapter = noteChapter(m_reader.book(), m_reader.chapter());
+    // Before the labels change: a save that fails leaves notes and labels of the former chapter.
+    if (chapter != m_chapter)
+        Proc개인주석저장();
+    lbl개인주석책장->setText(chapter);
+    tx개인주석절범위->setText(m_reader.GetCurVerseRange());
+    if (chapter == m_chapter && m_notes.isOpen())
+        return;
+
+    m_stored = m_notes.load(chapter);
+    m_list.fill(m_stored);
+    m_chapter = chapter;
+    fillGrid();
+    rowChanged();
+}
+
+void PersonalNotesTab::Proc개인주석추가()
+{
+    if (m_chapter.isEmpty())
+        return;
+    const QString place =
+        Trim(lbl개인주석책장->text()).toString() + Trim(tx개인주석절범위->text()).toString();
+    if (!m_list.add(place)) {
+        m_services.messages.show(m_page, messages::kNotePlaceTaken);
+        return;
+    }
+    flex개인주석목록->AddItem({place, QString()});
+    flex개인주석목록->AutoSize();
+    showGridRow(m_list.editedRow());
+    rowChanged();
+    tx개인주석본문->setFocus();
+}
+
+void PersonalNotesTab::Proc개인주석저장()
+{
+    if (windowIsMinimized && windowIsMinimized())
+        return;
+    const std::vector<Note> notes = storableNotes(m_list.notes());
+    if (m_chapter.isEmpty() || notes == m_stored)
+        return;
+    m_notes.save(m_chapter, notes);
+    m_stored = notes;
+}
+
+void PersonalNotesTab::fillGrid()
+{
+    const RedrawHold hold(*flex개인주석목록);
+    flex개인주석목록->setRows(0);
+    for (const Note& note : m_list.notes())
+        flex개인주석목록->AddItem({note.place, note.text});
+    flex개인주석목록->AutoSize();
+    showGridRow(m_list.editedRow());
+}
+
+void PersonalNotesTab::showGridRow(int row)
+{
+    if (row < 0)
+        return;
+    flex개인주석목록->setRow(row);
+    flex개인주석목록->ShowRow(row);
+}
+
+void PersonalNotesTab::rowChanged()
+{
+    const bool hasNote = m_list.editedRow() >= 0;
+    m_showing = true;
+    tx개인주석본문->setPlainText(boxText(m_list.editedText()));
+    m_showing = false;
+    tx개인주석본문->setEnabled(hasNote);
+    QPalette palette; // the application's own colours
+    if (!hasNote)
+        palette.setColor(QPalette::Base, toColor(kGreyedBox));
+    tx개인주석본문->setPalette(palette);
+}
+
+void PersonalNotesTab::textChanged()
+{
+    if (m_showing || m_list.editedRow() < 0)
+        return;
+    m_list.setText(noteText(tx개인주석본문->toPlainText()));
+    flex개인주석목록->setTextMatrix(m_list.editedRow(), kNoteColumn, m_list.editedText());
+}
+
+void PersonalNotesTab::cmd개인주석삭제_Click()
+{
+    if (m_list.empty())
+        return;
+    if (m_services.messages.show(m_page, messages::kDeleteNote) != Answer::Ok)
+        return;
+    flex개인주석목록->RemoveItem(m_list.editedRow());
+    m_list.remove();
+    showGridRow(m_list.editedRow());
+    rowChanged();
+}
+
+void PersonalNotesTab::moved(bool hasMoved)
+{
+    if (hasMoved)
+        fillGrid();
+}
+
+} // namespace lumen
