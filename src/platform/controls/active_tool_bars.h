@@ -100,8 +100,11 @@ private:
 
     Entry& entryFor(const ToolRow& row);
     void addRow(const ToolRow& row);
-    void placeOnBar(Entry& entry, const ToolRow& row);
-    void placeInMenu(Entry& entry, QMenu& target);
+    void makeMenu(Entry& entry);
+    void makeAction(Entry& entry);
+    void makeCombo(Entry& entry, QToolBar& bar);
+    static void finishAction(Entry& entry);
+    void placeOnBar(Entry& entry, QToolBar& bar);
     QToolBar& barFor(QStringView caption);
     void clicked(const QString& toolId) const;
 

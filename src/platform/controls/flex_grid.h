@@ -12,11 +12,11 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace lumen {
 
-class GridDelegate;
 class RowHeights;
 
 /// Whether a click selects a whole row or a single cell.
@@ -71,7 +71,8 @@ public:
     /// also when the grid is resized; row heights follow. -1 ends it.
     void setStretchFrom(int firstCol);
 
-    /// Computes the heights of all rows. Also runs by itself when a width changes.
+    /// Computes the heights of all rows, now and from then on whenever widths change or a fill
+    /// under setRedraw(false) ends.
     void AutoSize();
     /// False holds painting, heights and merged rows back until it is true again. See RedrawHold.
     void setRedraw(bool redraw);
@@ -104,11 +105,11 @@ public:
     /// Ranges of a cell that are painted as found words; the text stays as it is.
     std::function<QList<TextRange>(int row, int col, const QString& text)> highlight;
 
-    /// Position of the viewport. Also over the header and the empty ground.
+    /// A button released below the header, also over the empty ground; position of the viewport.
     std::function<void(Qt::MouseButton button, const QPoint& position)> onMouseUp;
     /// A click with the left button on a row below the header.
     std::function<void()> onClick;
-    /// The row and column of a double click; row 0 is the header.
+    /// A double click below the header.
     std::function<void(int row, int col)> onDblClick;
     std::function<void(int key)> onKeyUp;
     std::function<void()> onEnter;
@@ -133,26 +134,28 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    friend class GridDelegate;
-
-    int viewRow(int row) const { return row - FixedRows(); }
-    int gridRow(int viewRow) const { return viewRow + FixedRows(); }
+    /// Runs something that changes the selection without telling it as the user's.
+    template <typename Change>
+    void quietly(Change change);
+    QModelIndex cellIndex(int row, int col);
+    std::pair<int, int> selectedRows() const;
     void wireHeader();
     void applyMergedRows();
+    void applyHeights();
+    int rowHeight(int row, const std::vector<int>& widths) const;
     void stretchColumns();
-    void widthsChanged();
-    bool inGrid(int row, int col) const;
+    void columnsResized();
 
     GridModel* m_model;
-    GridDelegate* m_delegate;
     std::unique_ptr<RowHeights> m_heights;
     QTimer m_resizeTimer;
     QString m_tag;
+    GridSelection m_mode = GridSelection::Rows;
     int m_stretchFrom = -1;
     bool m_redraw = true;
     bool m_sized = false;
-    bool m_selectingInCode = false;
-    bool m_fittingColumns = false;
+    bool m_inCode = false;
+    bool m_fitting = false;
 };
 
 /// Holds a grid's painting back for as long as it lives, also when an exception ends the fill.

@@ -62,8 +62,10 @@ public:
     void setMergedFrom(int row, int firstCol);
     bool hasMergedRows() const;
 
-    /// While held, views are not told of new texts and looks.
+    /// While held, views are told nothing: they keep the row count they know, and texts of rows
+    /// that have gone read as "". sync() brings their row count up to date.
     void setHeld(bool held);
+    void sync();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -85,6 +87,8 @@ private:
 
     int internStyle(const CellStyle& style);
     void tell(int row, int col);
+    bool holds(int row, int col) const;
+    void resizeRows(int rows);
 
     std::vector<Row> m_rows;
     std::vector<CellStyle> m_styles{CellStyle{}};
@@ -94,6 +98,8 @@ private:
     int m_cols = 0;
     int m_fixedRows = 1;
     bool m_held = false;
+    int m_shownRows = 0; // what views know while held, fixed rows among them
+    int m_keptRows = 0;  // the first rows, which stayed throughout the hold
 };
 
 } // namespace lumen

@@ -73,13 +73,13 @@ public:
     int FindListItem(const QString& text) const;
 
     std::function<void()> onClick;
+    /// A double click on an item, or Enter on the chosen one.
     std::function<void()> onDblClick;
     /// A button released over the list; the position is global.
     std::function<void(Qt::MouseButton button, const QPoint& position)> onMouseUp;
     std::function<void(int key)> onKeyUp;
 
 protected:
-    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -87,6 +87,7 @@ protected:
 
 private:
     void clicked();
+    int sortedPlace(const QString& text) const;
 
     bool m_sorted = false;
 };

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/controls/text_range.h"
-#include "platform/result.h"
 #include "text/basic_text.h"
 
 #include <QTextEdit>
@@ -10,6 +9,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace lumen {
 
@@ -23,8 +24,8 @@ public:
     explicit TextControl(QWidget* parent = nullptr);
     ~TextControl() override;
 
-    /// Shows an RTF document (code page 949). What cannot be read leaves the view as it was.
-    Result<Done> LoadRtf(const QByteArray& rtf);
+    /// Shows an RTF document (code page 949); bytes that are no RTF come in as plain text.
+    void LoadRtf(const QByteArray& rtf);
     /// Shows a document that was made elsewhere and owns it; the caret goes to 0. Line spacing and
     /// tab width of this control are put on it.
     void takeDocument(std::unique_ptr<QTextDocument> content);
@@ -63,6 +64,7 @@ public:
     std::function<void(int key, Qt::KeyboardModifiers modifiers)> onKeyUp;
     /// The context menu was asked for by mouse or key; the position is global.
     std::function<void(const QPoint& position)> onContextMenu;
+    /// The user moved the caret or changed the selection; code that selects is not told.
     std::function<void()> onSelectionChange;
     /// The copy key; without it the control copies its selection itself.
     std::function<void()> onCopy;
@@ -70,6 +72,7 @@ public:
     std::function<void()> onResizeEnded;
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -78,14 +81,21 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void applyParagraphFormat(QTextDocument& content) const;
+    static constexpr int kSingleSpacing = 100; // percent
 
-    std::unique_ptr<QTextDocument> m_content;
+    void show(std::unique_ptr<QTextDocument> content);
+    void applyTabs(QTextDocument& content) const;
+    void applySpacing(QTextDocument& content) const;
+
+    void reportSelection();
+
+    QTextDocument* m_content = nullptr; // a child; nullptr while the toolkit's own is shown
     QTimer m_resizeTimer;
+    std::pair<int, int> m_reported{0, 0}; // anchor and position last told
     int m_lastWidth = 0;
     int m_tabWidth = 0;
-    int m_paragraphSpacing = 0;
-    int m_lineSpacing = 100;
+    std::optional<int> m_paragraphSpacing; // as the document has it
+    int m_lineSpacing = kSingleSpacing;
     int m_clickedPosition = 0;
     bool m_loading = false;
 };

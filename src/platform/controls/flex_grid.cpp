@@ -1,0 +1,536 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/controls/flex_grid.h"
+
+#include "platform/controls/colors.h"
+#include "platform/controls/grid_delegate.h"
+#include "platform/controls/grid_layout.h"
+#include "platform/controls/twips.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace lumen {
+namespace {
+
+// How long column widths must stand still before texts are divided anew, milliseconds.
+constexpr int kResizeRest = 150;
+constexpr int kLeastColumn = 24; // pixels
+
+} // namespace
+
+FlexGrid::FlexGrid(QWidget* parent)
+    : QTableView(parent), m_model(new GridModel(this)), m_heights(std::make_unique<RowHeights>())
+{
+    m_model->setBaseFont(font());
+    setModel(m_model);
+    setItemDelegate(new GridDelegate(*this, *m_model));
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setTabKeyNavigation(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(GridSelection::Rows);
+    QPalette look = palette();
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+        look.setColor(QPalette::Inactive, role, look.color(QPalette::Active, role));
+    setPalette(look);
+    m_resizeTimer.setParent(this);
+    m_resizeTimer.setSingleShot(true);
+    m_resizeTimer.setInterval(kResizeRest);
+    wireHeader();
+}
+
+FlexGrid::~FlexGrid() = default;
+
+void FlexGrid::wireHeader()
+{
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setMinimumSectionSize(kLeastColumn);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        // A drag of the user's tells every pixel; heights follow once it rests.
+        if (!m_fitting)
+            m_resizeTimer.start();
+    });
+    connect(&m_resizeTimer, &QTimer::timeout, this, [this] {
+        columnsResized();
+        if (onResizeEnded)
+            onResizeEnded();
+    });
+}
+
+template <typename Change>
+void FlexGrid::quietly(Change change)
+{
+    const bool before = std::exchange(m_inCode, true);
+    change();
+    m_inCode = before;
+}
+
+int FlexGrid::Rows() const
+{
+    return m_model->rows();
+}
+
+void FlexGrid::setRows(int rows)
+{
+    quietly([&] { m_model->setRows(rows); });
+}
+
+int FlexGrid::Cols() const
+{
+    return m_model->cols();
+}
+
+void FlexGrid::setCols(int cols)
+{
+    quietly([&] { m_model->setCols(cols); });
+    stretchColumns();
+}
+
+int FlexGrid::FixedRows() const
+{
+    return m_model->fixedRows();
+}
+
+void FlexGrid::setFixedRows(int rows)
+{
+    quietly([&] { m_model->setFixedRows(rows); });
+    horizontalHeader()->setVisible(rows > 0);
+}
+
+void FlexGrid::Clear()
+{
+    m_model->clear();
+    clearSpans();
+}
+
+QString FlexGrid::TextMatrix(int row, int col) const
+{
+    return m_model->text(row, col);
+}
+
+void FlexGrid::setTextMatrix(int row, int col, const QString& text)
+{
+    m_model->setText(row, col, text);
+}
+
+int FlexGrid::AddItem(const QStringList& cells)
+{
+    const int row = Rows();
+    setRows(row + 1);
+    for (int col = 0; col < cells.size(); ++col)
+        m_model->setText(row, col, cells[col]);
+    return row;
+}
+
+void FlexGrid::RemoveItem(int row)
+{
+    quietly([&] { m_model->removeGridRow(row); });
+}
+
+void FlexGrid::setColStyle(int col, const CellStyle& style)
+{
+    m_model->setColStyle(col, style);
+}
+
+void FlexGrid::setCellStyle(int row, int col, const CellStyle& style)
+{
+    m_model->setCellStyle(row, col, style);
+}
+
+void FlexGrid::setHeaderStyle(const CellStyle& style)
+{
+    m_model->setHeaderStyle(style);
+}
+
+void FlexGrid::setMergedRow(int row, int firstCol)
+{
+    m_model->setMergedFrom(row, firstCol);
+    if (m_redraw)
+        applyMergedRows();
+}
+
+void FlexGrid::applyMergedRows()
+{
+    clearSpans();
+    if (!m_model->hasMergedRows())
+        return;
+    for (int row = FixedRows(); row < Rows(); ++row) {
+        const int from = m_model->mergedFrom(row);
+        if (from >= 0 && from < Cols() - 1)
+            setSpan(row - FixedRows(), from, 1, Cols() - from);
+    }
+}
+
+void FlexGrid::setBackColor(RgbLong color)
+{
+    QPalette look = palette();
+    const QColor ground = toColor(color);
+    look.setColor(QPalette::Base, ground);
+    look.setColor(QPalette::Text, readableOn(ground, look.color(QPalette::Text)));
+    setPalette(look);
+}
+
+void FlexGrid::setBackColorAlternate(RgbLong color)
+{
+    static_cast<GridDelegate*>(itemDelegate())->setAlternate(toColor(color));
+    viewport()->update();
+}
+
+void FlexGrid::setSelectionColors(RgbLong back, RgbLong fore)
+{
+    QPalette look = palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        look.setColor(group, QPalette::Highlight, toColor(back));
+        look.setColor(group, QPalette::HighlightedText, toColor(fore));
+    }
+    setPalette(look);
+}
+
+int FlexGrid::ColWidth(int col) const
+{
+    return toTwips(columnWidth(col));
+}
+
+void FlexGrid::setColWidth(int col, int twips)
+{
+    const bool before = std::exchange(m_fitting, true);
+    setColumnWidth(col, toPixels(twips));
+    m_fitting = before;
+    stretchColumns();
+    columnsResized();
+}
+
+bool FlexGrid::ColHidden(int col) const
+{
+    return isColumnHidden(col);
+}
+
+void FlexGrid::setColHidden(int col, bool hidden)
+{
+    setColumnHidden(col, hidden);
+    stretchColumns();
+    columnsResized();
+}
+
+void FlexGrid::setStretchFrom(int firstCol)
+{
+    m_stretchFrom = firstCol;
+    // A bar that comes with the rows would change all widths and heights once more.
+    setVerticalScrollBarPolicy(firstCol < 0 ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOn);
+    stretchColumns();
+    columnsResized();
+}
+
+void FlexGrid::stretchColumns()
+{
+    if (m_stretchFrom < 0)
+        return;
+    int room = viewport()->width();
+    QList<int> stretched;
+    for (int col = 0; col < Cols(); ++col) {
+        if (isColumnHidden(col))
+            continue;
+        if (col < m_stretchFrom)
+            room -= columnWidth(col);
+        else
+            stretched.append(col);
+    }
+    const bool before = std::exchange(m_fitting, true);
+    for (qsizetype left = stretched.size(); left > 0; --left) {
+        const int width = std::max(kLeastColumn, room / static_cast<int>(left));
+        setColumnWidth(stretched[stretched.size() - left], width);
+        room -= width;
+    }
+    m_fitting = before;
+}
+
+void FlexGrid::AutoSize()
+{
+    m_sized = true;
+    if (m_redraw)
+        applyHeights();
+}
+
+void FlexGrid::columnsResized()
+{
+    if (m_sized && m_redraw)
+        applyHeights();
+}
+
+void FlexGrid::applyHeights()
+{
+    const int top = TopRow();
+    std::vector<int> widths(static_cast<std::size_t>(Cols()));
+    for (int col = Cols() - 1; col >= 0; --col)
+        widths[static_cast<std::size_t>(col)] = isColumnHidden(col) ? 0 : columnWidth(col);
+    const int gridLine = showGrid() ? 1 : 0;
+    {
+        // The header would have the view lay itself out again for each row.
+        const QSignalBlocker quiet(verticalHeader());
+        for (int row = FixedRows(); row < Rows(); ++row)
+            verticalHeader()->resizeSection(row - FixedRows(), rowHeight(row, widths) + gridLine);
+    }
+    updateGeometries();
+    viewport()->update();
+    if (top > FixedRows())
+        setTopRow(top);
+}
+
+int FlexGrid::rowHeight(int row, const std::vector<int>& widths) const
+{
+    const int merged = m_model->mergedFrom(row);
+    const int gridLine = showGrid() ? 1 : 0;
+    int height = fontMetrics().height() + 2 * kCellMarginY;
+    for (int col = 0; col < Cols(); ++col) {
+        int width = widths[static_cast<std::size_t>(col)] - gridLine;
+        const QString& text = m_model->text(row, col);
+        if (merged == col)
+            for (int next = col + 1; next < Cols(); ++next)
+                width += widths[static_cast<std::size_t>(next)];
+        if (width > 0 && !text.isEmpty())
+            height = std::max(height, m_heights->cellHeight(text, m_model->font(row, col), width));
+        if (merged == col)
+            break;
+    }
+    return height;
+}
+
+void FlexGrid::setRedraw(bool redraw)
+{
+    if (redraw == m_redraw)
+        return;
+    m_redraw = redraw;
+    if (!redraw) {
+        setUpdatesEnabled(false);
+        m_model->setHeld(true);
+        return;
+    }
+    quietly([&] { m_model->setHeld(false); });
+    applyMergedRows();
+    if (m_sized)
+        applyHeights();
+    setUpdatesEnabled(true);
+}
+
+QModelIndex FlexGrid::cellIndex(int row, int col)
+{
+    quietly([&] { m_model->sync(); });
+    return m_model->index(row - FixedRows(), std::max(col, 0));
+}
+
+std::pair<int, int> FlexGrid::selectedRows() const
+{
+    const QItemSelection ranges = selectionModel()->selection();
+    if (ranges.isEmpty())
+        return {-1, -1};
+    int first = ranges.first().top();
+    int last = ranges.first().bottom();
+    for (const QItemSelectionRange& range : ranges) {
+        first = std::min(first, range.top());
+        last = std::max(last, range.bottom());
+    }
+    return {first + FixedRows(), last + FixedRows()};
+}
+
+int FlexGrid::Row() const
+{
+    const auto [first, last] = selectedRows();
+    return RowSel() == first ? last : first;
+}
+
+int FlexGrid::RowSel() const
+{
+    const auto [first, last] = selectedRows();
+    const int current = currentIndex().row() + FixedRows();
+    return currentIndex().isValid() && current >= first && current <= last ? current : last;
+}
+
+int FlexGrid::Col() const
+{
+    const QItemSelection ranges = selectionModel()->selection();
+    if (ranges.isEmpty())
+        return -1;
+    return ColSel() == ranges.first().left() ? ranges.first().right() : ranges.first().left();
+}
+
+int FlexGrid::ColSel() const
+{
+    const QItemSelection ranges = selectionModel()->selection();
+    return ranges.isEmpty() ? -1 : std::max(currentIndex().column(), ranges.first().left());
+}
+
+void FlexGrid::setRow(int row)
+{
+    if (m_mode == GridSelection::Cells)
+        setCell(row, std::max(currentIndex().column(), 0));
+    else
+        select(row, row);
+}
+
+void FlexGrid::select(int row, int rowSel)
+{
+    const QModelIndex from = cellIndex(row, 0);
+    const QModelIndex to = cellIndex(rowSel, 0);
+    quietly([&] {
+        if (!from.isValid() || !to.isValid()) {
+            clearSelection();
+            return;
+        }
+        const QItemSelection rows(from.row() <= to.row() ? from : to,
+                                  from.row() <= to.row() ? to : from);
+        selectionModel()->setCurrentIndex(to, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(rows,
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    });
+}
+
+void FlexGrid::setCell(int row, int col)
+{
+    const QModelIndex cell = cellIndex(row, col);
+    quietly([&] {
+        selectionModel()->setCurrentIndex(cell, m_mode == GridSelection::Rows
+                                                    ? QItemSelectionModel::ClearAndSelect |
+                                                          QItemSelectionModel::Rows
+                                                    : QItemSelectionModel::ClearAndSelect);
+    });
+}
+
+void FlexGrid::setSelectionMode(GridSelection mode)
+{
+    m_mode = mode;
+    setSelectionBehavior(mode == GridSelection::Rows ? SelectRows : SelectItems);
+    QTableView::setSelectionMode(ContiguousSelection);
+}
+
+void FlexGrid::ShowRow(int row)
+{
+    scrollTo(cellIndex(row, 0), EnsureVisible);
+}
+
+void FlexGrid::setTopRow(int row)
+{
+    scrollTo(cellIndex(row, 0), PositionAtTop);
+}
+
+int FlexGrid::TopRow() const
+{
+    return rowAtPoint({0, 0});
+}
+
+int FlexGrid::rowAtPoint(const QPoint& point) const
+{
+    const int row = rowAt(point.y());
+    return row < 0 ? -1 : row + FixedRows();
+}
+
+int FlexGrid::colAtPoint(const QPoint& point) const
+{
+    return columnAt(point.x());
+}
+
+QString FlexGrid::selectionText() const
+{
+    const QItemSelection ranges = selectionModel()->selection();
+    if (ranges.isEmpty())
+        return {};
+    const auto [first, last] = selectedRows();
+    QStringList lines;
+    for (int row = first; row <= last; ++row) {
+        QStringList cells;
+        for (int col = ranges.first().left(); col <= ranges.first().right(); ++col)
+            if (!isColumnHidden(col))
+                cells << m_model->text(row, col);
+        lines << cells.join(u'\t');
+    }
+    return lines.join(QStringLiteral("\r\n"));
+}
+
+void FlexGrid::mouseReleaseEvent(QMouseEvent* event)
+{
+    const Qt::MouseButton button = event->button();
+    const QPoint position = event->position().toPoint();
+    QTableView::mouseReleaseEvent(event);
+    if (button == Qt::LeftButton && onClick && rowAtPoint(position) >= 0)
+        onClick();
+    if (onMouseUp)
+        onMouseUp(button, position);
+}
+
+void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QPoint position = event->position().toPoint();
+    const int row = rowAtPoint(position);
+    QTableView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && onDblClick && row >= 0)
+        onDblClick(row, colAtPoint(position));
+}
+
+void FlexGrid::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy)) {
+        if (onCopy)
+            onCopy();
+        return;
+    }
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && onEnter)
+        onEnter();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void FlexGrid::keyReleaseEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    QTableView::keyReleaseEvent(event);
+    if (onKeyUp)
+        onKeyUp(key);
+}
+
+void FlexGrid::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() != QContextMenuEvent::Mouse && onContextMenu)
+        onContextMenu(event->globalPos());
+    else
+        QTableView::contextMenuEvent(event);
+}
+
+void FlexGrid::resizeEvent(QResizeEvent* event)
+{
+    const int top = TopRow();
+    QTableView::resizeEvent(event);
+    if (event->size().width() == event->oldSize().width() || m_stretchFrom < 0)
+        return;
+    stretchColumns();
+    columnsResized();
+    if (top > FixedRows())
+        setTopRow(top);
+    m_resizeTimer.start();
+}
+
+void FlexGrid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (!m_inCode && onSelChange)
+        onSelChange();
+}
+
+void FlexGrid::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() != QEvent::FontChange)
+        return;
+    m_model->setBaseFont(font());
+    columnsResized();
+}
+
+} // namespace lumen

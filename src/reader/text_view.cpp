@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/text_view.h"
+
+#include "platform/controls/text_control.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+
+TextView::TextView(TextControl& txCont) : m_txCont(txCont) {}
+
+void TextView::show(const ComposedChapter& chapter)
+{
+    m_positions = chapter.positions;
+    if (chapter.rtf.isEmpty()) {
+        m_txCont.setText(QString());
+        return;
+    }
+    m_txCont.LoadRtf(toRtfBytes(chapter.rtf));
+}
+
+int TextView::currentVerse() const
+{
+    return m_positions.verseAt(m_txCont.SelStart());
+}
+
+QString TextView::currentRange() const
+{
+    const int start = m_txCont.SelStart();
+    const int length = m_txCont.SelLength();
+    // A selection that ends where the next verse begins does not reach into that verse, though a
+    // caret there stands in it.
+    const int end = length > 0 ? start + length - 1 : start;
+    return verseRangeText(m_positions.verseAt(start), m_positions.verseAt(end));
+}
+
+void TextView::selectVerse(int verse)
+{
+    const std::optional<VersePosition> place = m_positions.find(verse);
+    if (!place)
+        return;
+    // Without the verse's last paragraph end, which would draw the selection into the next line.
+    // Selecting scrolls to the caret at its end, so the verse's start is brought up afterwards.
+    m_txCont.select(place->start, place->length - 1);
+    m_txCont.scrollToPosition(place->start);
+}
+
+QString verseRangeText(int first, int last)
+{
+    if (last < first)
+        std::swap(first, last);
+    return first == last ? QString::number(first) : u"%1-%2"_s.arg(first).arg(last);
+}
+
+} // namespace lumen
