@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "text/rtf_content_builder.h"
+
+#include <utility>
+
+namespace lumen {
+
+void RtfContentBuilder::addUnit(char16_t unit)
+{
+    if (unit < 0x20 && unit != u'\t')
+        return;
+    const bool isReserved = unit == 0xFDD0 || unit == 0xFDD1 || unit == 0xFFFC;
+    m_content.text += isReserved ? QChar(QChar::ReplacementCharacter) : QChar(unit);
+}
+
+void RtfContentBuilder::setStyle(const RtfCharStyle& style)
+{
+    if (style == m_style)
+        return;
+    closeRun();
+    m_style = style;
+}
+
+int RtfContentBuilder::styleIndex()
+{
+    const auto bits = [](int value) { return static_cast<quint64>(value) & 0xFFF; };
+    const quint64 key = (static_cast<quint64>(m_style.font) & 0xFFFF) << 48 |
+                        bits(m_style.halfPoints) << 36 | bits(m_style.color) << 24 |
+                        bits(m_style.background) << 12 | m_style.flags;
+    const auto found = m_styleIndexes.constFind(key);
+    if (found != m_styleIndexes.cend())
+        return *found;
+    const auto index = static_cast<int>(m_content.styles.size());
+    m_content.styles.push_back(m_style);
+    m_styleIndexes.insert(key, index);
+    return index;
+}
+
+void RtfContentBuilder::closeRun()
+{
+    const qsizetype end = m_content.text.size();
+    if (end == m_runStart)
+        return;
+    const int style = styleIndex();
+    auto& runs = m_content.runs;
+    if (runs.size() > m_firstRun && runs.back().style == style)
+        runs.back().length += end - m_runStart;
+    else
+        runs.push_back({m_runStart, end - m_runStart, style});
+    m_runStart = end;
+}
+
+void RtfContentBuilder::pushParagraph(const RtfParagraphStyle& style)
+{
+    closeRun();
+    RtfParagraph paragraph;
+    paragraph.end = m_content.text.size();
+    paragraph.firstRun = m_firstRun;
+    paragraph.runCount = m_content.runs.size() - m_firstRun;
+    paragraph.endStyle = styleIndex();
+    paragraph.style = style;
+    m_content.paragraphs.push_back(paragraph);
+}
+
+void RtfContentBuilder::endParagraph(const RtfParagraphStyle& style)
+{
+    pushParagraph(style);
+    m_content.text += u'\n';
+    m_runStart = m_content.text.size();
+    m_firstRun = m_content.runs.size();
+}
+
+RtfContent RtfContentBuilder::take(const RtfParagraphStyle& lastParagraph)
+{
+    pushParagraph(lastParagraph);
+    return std::exchange(m_content, {});
+}
+
+} // namespace lumen

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "text/rtf_content.h"
+
+#include <string_view>
+
+namespace lumen {
+
+/// What a control word does.
+enum class RtfAction : quint8 {
+    None,
+    AnsiCodePage,
+    DefaultFont,
+    DefaultTab,
+    FontTable,
+    ColorTable,
+    SkipDestination,
+    FontCharset,
+    Red,
+    Green,
+    Blue,
+    Font,
+    FontSize,
+    Color,
+    Background,
+    SetFlag,   ///< value: the flag; a parameter of 0 clears it
+    ClearFlag, ///< value: the flags
+    PlainText,
+    Alignment, ///< value: RtfAlignment
+    LeftIndent,
+    FirstLineIndent,
+    RightIndent,
+    PlainParagraph,
+    ParagraphEnd,
+    Character, ///< value: the UTF-16 unit
+    Unicode,
+    UnicodeSkip,
+    Binary,
+};
+
+struct RtfControlWord
+{
+    std::string_view name;
+    RtfAction action = RtfAction::None;
+    int value = 0;
+};
+
+/// The row of a control word, nullptr for one that the program passes over.
+const RtfControlWord* findRtfControlWord(std::string_view name);
+
+} // namespace lumen
