@@ -38,4 +38,7 @@ inline constexpr MessageText kExtractOverwrite{
 inline constexpr MessageText kExtractFileFailed{
     u"파일 저장 실패", u"텍스트 파일을 저장할 수 없습니다. 저장할 위치를 확인하시기 바랍니다.", 48};
 
+inline constexpr MessageText kSettingsNotSaved{
+    u"설정 저장 실패", u"설정을 저장할 수 없습니다. 저장할 디스크를 확인하시기 바랍니다.", 48};
+
 } // namespace lumen::messages
