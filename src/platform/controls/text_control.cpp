@@ -69,7 +69,7 @@ void TextControl::LoadRtf(const QByteArray& rtf)
     options.pixelsPerTwip = double(screenDpi()) / kTwipsPerInch;
     auto content = std::make_unique<QTextDocument>();
     readRtf(rtf, *content, options);
-    show(std::move(content));
+    display(std::move(content));
 }
 
 void TextControl::takeDocument(std::unique_ptr<QTextDocument> content)
@@ -78,10 +78,10 @@ void TextControl::takeDocument(std::unique_ptr<QTextDocument> content)
     applyTabs(*content);
     if (m_lineSpacing != kSingleSpacing || m_paragraphSpacing)
         applySpacing(*content);
-    show(std::move(content));
+    display(std::move(content));
 }
 
-void TextControl::show(std::unique_ptr<QTextDocument> content)
+void TextControl::display(std::unique_ptr<QTextDocument> content)
 {
     m_loading = true;
     setUpdatesEnabled(false);

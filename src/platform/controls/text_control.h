@@ -83,7 +83,7 @@ protected:
 private:
     static constexpr int kSingleSpacing = 100; // percent
 
-    void show(std::unique_ptr<QTextDocument> content);
+    void display(std::unique_ptr<QTextDocument> content);
     void applyTabs(QTextDocument& content) const;
     void applySpacing(QTextDocument& content) const;
 

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/bible_window.h"
+
+#include "canon/canon_table.h"
+#include "canon/verse_index.h"
+#include "data/module_path.h"
+#include "forms/guarded.h"
+#include "forms/window_opener.h"
+#include "platform/dialogs/modal.h"
+#include "reader/personal_notes_tab.h"
+#include "reader/reader_tools.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+
+namespace {
+
+constexpr int kTabWidth = 350; // twips: the indent behind the verse numbers
+
+} // namespace
+
+frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
+    : panel(new ReferencePanel(services)), m_services(services), m_state(state), m_windows(windows),
+      m_slots(services, state), m_dacPersnote(services.jet),
+      m_bookmarkFile(services.files, joinedPath(state.AppPath, u"\\data\\bmk.bmf"))
+{
+    setObjectName(u"frm성서"_s);
+    setWindowTitle(u"루멘 스크립트"_s);
+    atbar.add(kReaderTools);
+    addGeneratedTools();
+    layOut();
+    bindTools();
+    atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };
+    atbar.onComboChange = [this](const QString& toolId) { atbar_event10(toolId); };
+    wireTextView();
+    wireTableView();
+    wirePanes();
+}
+
+frm성서::~frm성서() = default;
+
+void frm성서::layOut()
+{
+    auto* texts = new QWidget;
+    auto* textLayout = new QVBoxLayout(texts);
+    textLayout->setContentsMargins(0, 0, 0, 0);
+    textLayout->addWidget(txCont);
+    textLayout->addWidget(hflex본문);
+    hflex본문->hide();
+    hflex본문->setSelectionMode(GridSelection::Rows);
+    txCont->setTabWidth(kTabWidth);
+
+    auto* sideLayout = new QVBoxLayout(m_sidePane);
+    sideLayout->setContentsMargins(0, 0, 0, 0);
+    sideLayout->addWidget(quickMove, 1);
+    sideLayout->addWidget(bookmarks, 1);
+    m_sidePane->setFixedWidth(m_sidePane->sizeHint().width());
+
+    m_split->addWidget(texts);
+    m_split->addWidget(panel);
+    m_split->setChildrenCollapsible(false);
+
+    auto* center = new QWidget;
+    auto* row = new QHBoxLayout(center);
+    row->setContentsMargins(2, 2, 2, 2);
+    row->addWidget(m_sidePane);
+    row->addWidget(m_split, 1);
+    setCentralWidget(center);
+
+    statusPanel1->setMinimumWidth(220);
+    sb상황판->addWidget(statusPanel1);
+    sb상황판->addPermanentWidget(statusPanel2);
+    setStatusBar(sb상황판);
+}
+
+void frm성서::layOutPanel()
+{
+    // Collapsed, the headers lie below the text as a strip; expanded, the panel stands beside it.
+    const bool expanded = panel->state() == PanelState::Expanded;
+    m_split->setOrientation(expanded ? Qt::Horizontal : Qt::Vertical);
+    panel->setMaximumHeight(expanded ? QWIDGETSIZE_MAX : panel->sst관주사전->headerHeight());
+    m_split->handle(1)->setEnabled(expanded);
+    m_split->setRatio(expanded ? m_settings.RefBarRatio : 1.0);
+    atbar.tool(u"ID_Panel").setChecked(expanded);
+}
+
+void frm성서::wireTextView()
+{
+    txCont->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {
+        if (button == Qt::RightButton)
+            return;
+        placeChanged();
+    };
+    txCont->onKeyUp = [this](int, Qt::KeyboardModifiers) { placeChanged(); };
+    txCont->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
+    txCont->onSelectionChange = [this] {
+        guarded(m_services, this, [this] { panel->showSelection(); });
+    };
+    txCont->onCopy = [this] { copySelection(false); };
+    txCont->onResizeEnded = [this] {
+        // The lines of Hebrew verses are cut to the width of the view.
+        if (m_settings.ViewMode == ViewMode::Text && m_slots.holdsHebrew())
+            FillBibleText();
+    };
+}
+
+void frm성서::wireTableView()
+{
+    hflex본문->onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
+        if (button == Qt::RightButton)
+            atbar.popUp(u"ID_편집");
+        const int row = hflex본문->rowAtPoint(position);
+        if (row < 1)
+            return;
+        m_tableView.markRow(row);
+        placeChanged();
+    };
+    hflex본문->onKeyUp = [this](int) {
+        m_tableView.markRow(hflex본문->RowSel());
+        placeChanged();
+    };
+    hflex본문->onSelChange = [this] {
+        guarded(m_services, this, [this] { panel->showSelection(); });
+    };
+    hflex본문->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
+    hflex본문->onCopy = [this] { copySelection(false); };
+    hflex본문->onResizeEnded = [this] {
+        if (m_settings.ViewMode == ViewMode::Table && m_slots.holdsHebrew())
+            FillBibleText();
+    };
+}
+
+void frm성서::wirePanes()
+{
+    quickMove->onMove = [this](QString& reference) { Proc이동(reference); };
+    bookmarks->onMove = [this](const QString& reference) {
+        QString target = reference;
+        Proc이동(target);
+    };
+    bookmarks->currentReference = [this] {
+        QString reference;
+        guarded(m_services, this, [this, &reference] {
+            const int verse = GetCurVerse();
+            Recordset* const rows = m_slots.dacBasis().Recordset();
+            if (verse < 1 || rows == nullptr || verse > rows->RecordCount())
+                return;
+            rows->setAbsolutePosition(verse - 1);
+            reference = BibleCode::IndexToRef(Text(rows->Fields(u"Index")));
+        });
+        return reference;
+    };
+
+    auto notes = std::make_unique<PersonalNotesTab>(m_services, m_state, *this, m_dacPersnote);
+    m_notesTab = notes.get();
+    m_notesTab->windowIsMinimized = [this] { return m_isMinimized; };
+    panel->addTab(std::move(notes));
+    panel->onStatus = [this](const QString& text) { statusPanel1->setText(text); };
+    panel->onLayout = [this] { layOutPanel(); };
+    m_split->onMoved = [this] {
+        if (panel->state() == PanelState::Expanded)
+            m_settings.RefBarRatio = m_split->ratio();
+    };
+}
+
+void frm성서::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (m_shownOnce)
+        return;
+    m_shownOnce = true;
+    // While the window was hidden no Hebrew verse could be divided.
+    if (m_slots.holdsHebrew())
+        FillBibleText();
+}
+
+void frm성서::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    // The notes are saved before the window counts as minimised: from then on nothing is saved.
+    if (isMinimized() && !m_isMinimized)
+        guarded(m_services, this, [this] { panel->leave(); });
+    m_isMinimized = isMinimized();
+}
+
+void frm성서::closeEvent(QCloseEvent* event)
+{
+    if (m_unloaded || Form_Unload()) {
+        m_unloaded = true;
+        event->accept();
+        return;
+    }
+    event->ignore();
+}
+
+void frm성서::bringToFront()
+{
+    if (isMinimized())
+        showNormal();
+    show();
+    raise();
+    activateWindow();
+}
+
+} // namespace lumen

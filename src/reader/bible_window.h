@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "data/app_state.h"
+#include "data/settings_table.h"
+#include "forms/edit_commands.h"
+#include "forms/reader_place.h"
+#include "forms/services.h"
+#include "panel/reference_panel.h"
+#include "platform/controls/active_tool_bars.h"
+#include "platform/controls/flex_grid.h"
+#include "platform/controls/named.h"
+#include "platform/controls/splitter.h"
+#include "platform/controls/text_control.h"
+#include "platform/controls/tool_dispatch.h"
+#include "reader/bookmark_file.h"
+#include "reader/bookmark_pane.h"
+#include "reader/quick_move_pane.h"
+#include "reader/table_view.h"
+#include "reader/text_view.h"
+#include "reader/version_slots.h"
+#include "text/hebrew_division.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QStatusBar>
+
+namespace lumen {
+
+class HotMoveWindow;
+class PersonalNotesTab;
+class StartupProgress;
+class WindowOpener;
+
+/// The main window: owner of the place, of the versions in use and of the view mode. All its
+/// commands come in by atbar_event9 (tool clicks) and atbar_event10 (tool combos).
+class frm성서 : public QMainWindow, public ReaderPlace // no Q_OBJECT: moc cannot read the name
+{
+public:
+    frm성서(Services& services, AppState& state, WindowOpener& windows);
+    ~frm성서() override;
+
+    /// Brings everything up behind the splash window, up to the first chapter. False, after a
+    /// message, when no version is installed: the program has to end.
+    bool Form_Load(StartupProgress& splash);
+    /// Takes the tool windows down at the end; false keeps the reader open.
+    std::function<bool()> closeToolWindows;
+
+    void atbar_event9(const QString& toolId);
+    void atbar_event10(const QString& toolId);
+
+    // ReaderPlace
+    int book() const override;
+    int chapter() const override;
+    QString versionName(int slot) const override;
+    int versionCode(int slot) const override;
+    int GetCurVerse() const override;
+    QString GetCurVerseRange() const override;
+    void Proc이동(QString& reference) override;
+    void goTo(int book, int chapter, int verse) override;
+    void FillBibleText() override;
+    void applySettings() override;
+    void bringToFront() override;
+
+    void ShowTableView();
+    void HideTableView();
+    void ShowTextView();
+    void HideTextView();
+    /// Marks a verse in the open view and scrolls to it.
+    void Proc절선택표시(int verse);
+    /// Writes the place into the second panel of the status bar.
+    void Proc현재위치표시();
+    /// Selects the word under the pointer in the text view, blanks being its bounds.
+    void SelectClickedWord();
+    void ProcChangeBaseVersion();
+    void ProcChangeParallelVersion(int slot);
+    void SaveBibleSettings();
+    void Load책갈피();
+    void Save책갈피();
+
+    ActiveToolBars atbar{*this};
+    TextControl* txCont = named<TextControl>(u"txCont", u"성서 본문");
+    FlexGrid* hflex본문 = named<FlexGrid>(u"hflex본문", u"성서 본문 표");
+    QStatusBar* sb상황판 = named<QStatusBar>(u"sb상황판");
+    QLabel* statusPanel1 = named<QLabel>(u"sb상황판(1)");
+    QLabel* statusPanel2 = named<QLabel>(u"sb상황판(2)");
+    QuickMovePane* quickMove = new QuickMovePane;
+    BookmarkPane* bookmarks = new BookmarkPane;
+    ReferencePanel* panel;
+
+    const ToolDispatch& toolClicks() const { return m_tools; }
+    const ToolDispatch& toolCombos() const { return m_combos; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    /// Holds fills back while several combos change; one fill runs at its end if any was asked for.
+    class FillHold;
+
+    void layOut();
+    void layOutPanel();
+    void addGeneratedTools();
+    void bindTools();
+    void bindViewTools();
+    void bindMoveTools();
+    void bindWindowTools();
+    void wireTextView();
+    void wireTableView();
+    void wirePanes();
+
+    // Form_Load, step by step
+    void setUpVersionLists(StartupProgress& splash);
+    void loadView();
+    void loadPlace();
+    void loadVersions();
+
+    bool Form_Unload();
+    void compactAndBackUp();
+
+    ComboBox& toolCombo(QStringView id) const { return atbar.tool(id).combo(); }
+    ComboBox& versionCombo(int slot) const;
+    void bookChanged();
+    void selectBookAndChapter(int book, int chapter);
+    void stepChapter(int step);
+    void openHotMove(int book);
+    void chooseVersion(int slot);
+    void setViewMode(ViewMode mode);
+    void showViewMode();
+    void setLineSpacing(int percent);
+    void setFontSize(int step);
+    void applyColors();
+    void setBarVisible(QStringView barTool, bool visible);
+    void openPage(QStringView file);
+    void tellMissing(const QString& file);
+    void copySelection(bool unicode);
+    bool copiesVerses() const;
+    void bringEditToolsUpToDate();
+    void runEdit(EditCommand command);
+
+    void fillChapter();
+    void fillTextView(const std::vector<ChapterSource>& sources);
+    void fillTableView(const std::vector<ChapterSource>& sources);
+    QString divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf);
+    void placeChanged();
+
+    Services& m_services;
+    AppState& m_state;
+    WindowOpener& m_windows;
+    ReaderSettings m_settings; ///< as they are in use now
+    VersionSlots m_slots;
+    DataControl m_dacPersnote;
+    BookmarkFile m_bookmarkFile;
+    FontLineBreaker m_lineBreaker;
+    TextView m_textView{*txCont};
+    mutable TableView m_tableView{*hflex본문};
+    std::vector<ChapterSource> m_chapter; ///< what is on show
+    ToolDispatch m_tools;
+    ToolDispatch m_combos;
+    Splitter* m_split = named<Splitter>(u"RefBarSplit");
+    QWidget* m_sidePane = named<QWidget>(u"SidePane");
+    PersonalNotesTab* m_notesTab = nullptr; ///< owned by the panel
+
+    bool m_loading = false;
+    int m_fillHolds = 0;
+    bool m_fillWanted = false;
+    int m_askedVerse = 0; ///< the verse that the next fill selects; 0 for none
+    bool m_shownOnce = false;
+    bool m_isMinimized = false; ///< follows the window's state once the notes are saved
+    bool m_closeRefused = false;
+    bool m_unloaded = false;
+};
+
+} // namespace lumen

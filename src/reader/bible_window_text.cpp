@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "canon/canon_table.h"
+#include "canon/verse_index.h"
+#include "forms/book_combo.h"
+#include "forms/guarded.h"
+#include "forms/wait_pointer.h"
+#include "platform/dialogs/message_boxes.h"
+#include "platform/registry/registry_store.h"
+#include "reader/fill_hold.h"
+#include "reader/messages.h"
+#include "reader/typed_reference.h"
+#include "text/hebrew_division.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+
+int frm성서::book() const
+{
+    return std::max(0, toolCombo(u"ID_cb책명").ListIndex());
+}
+
+int frm성서::chapter() const
+{
+    return std::max(0, toolCombo(u"ID_cb장").ListIndex()) + 1;
+}
+
+QString frm성서::versionName(int slot) const
+{
+    return m_slots(slot).table;
+}
+
+int frm성서::versionCode(int slot) const
+{
+    return m_slots(slot).code;
+}
+
+int frm성서::GetCurVerse() const
+{
+    if (m_loading || !isVisible())
+        return 0;
+    return m_settings.ViewMode == ViewMode::Text ? m_textView.currentVerse()
+                                                 : m_tableView.currentVerse();
+}
+
+QString frm성서::GetCurVerseRange() const
+{
+    if (m_loading || !isVisible())
+        return {};
+    return m_settings.ViewMode == ViewMode::Text ? m_textView.currentRange()
+                                                 : m_tableView.currentRange();
+}
+
+void frm성서::ShowTableView()
+{
+    hflex본문->show();
+}
+
+void frm성서::HideTableView()
+{
+    hflex본문->hide();
+}
+
+void frm성서::ShowTextView()
+{
+    txCont->show();
+}
+
+void frm성서::HideTextView()
+{
+    txCont->hide();
+}
+
+void frm성서::SelectClickedWord()
+{
+    txCont->SelectClickedWord();
+}
+
+void frm성서::bookChanged()
+{
+    const FillHold hold(*this);
+    ComboBox& chapters = toolCombo(u"ID_cb장");
+    fillChapterCombo(chapters, book());
+    chapters.setListIndex(0);
+}
+
+void frm성서::selectBookAndChapter(int book, int chapter)
+{
+    ComboBox& books = toolCombo(u"ID_cb책명");
+    if (books.ListIndex() != book)
+        books.setListIndex(book);
+    toolCombo(u"ID_cb장").setListIndex(chapter - 1);
+}
+
+void frm성서::stepChapter(int step)
+{
+    // The chapters of a book go round: behind the last one comes its first.
+    ComboBox& chapters = toolCombo(u"ID_cb장");
+    const int count = chapters.ListCount();
+    if (count == 0)
+        return;
+    hflex본문->setTag(u"1"_s);
+    chapters.setListIndex((chapters.ListIndex() + step + count) % count);
+}
+
+void frm성서::Proc이동(QString& reference)
+{
+    std::optional<TypedReference> typed = parseTypedReference(reference);
+    if (!typed) {
+        m_services.messages.show(this, messages::kBadReference);
+        return;
+    }
+    reference = typed->reference;
+    {
+        const FillHold hold(*this);
+        m_fillWanted = true; // also when book and chapter stay: the text is filled again
+        const LimitedNumber wanted = limitedTo(chapterCount(typed->book), typed->chapter);
+        selectBookAndChapter(typed->book, 1);
+        if (wanted.wasTooLarge)
+            m_services.messages.show(this, messages::kChapterTooLarge);
+        selectBookAndChapter(typed->book, std::max(1, wanted.value));
+    }
+    const int verses = m_slots.baseRecordCount();
+    if (verses == 0)
+        return;
+    const LimitedNumber verse = limitedTo(verses, typed->verse);
+    if (verse.wasTooLarge)
+        m_services.messages.show(this, messages::kVerseTooLarge);
+    const int shown = std::max(1, verse.value);
+    Proc절선택표시(shown);
+    quickMove->remember(reference,
+                        u"%1%2:%3"_s.arg(bookAbbreviation(book())).arg(chapter()).arg(shown));
+}
+
+void frm성서::goTo(int book, int chapter, int verse)
+{
+    {
+        const FillHold hold(*this);
+        m_fillWanted = true;
+        selectBookAndChapter(std::clamp(book, 0, kBookCount - 1), 1);
+        selectBookAndChapter(this->book(), std::clamp(chapter, 1, chapterCount(this->book())));
+    }
+    Proc절선택표시(verse);
+}
+
+void frm성서::Proc절선택표시(int verse)
+{
+    if (m_settings.ViewMode == ViewMode::Text)
+        m_textView.selectVerse(verse);
+    else
+        m_tableView.selectVerse(verse);
+    placeChanged();
+}
+
+void frm성서::Proc현재위치표시()
+{
+    const int verse = GetCurVerse();
+    statusPanel2->setText(
+        verse == 0 ? QString() : u"%1 %2장 %3절"_s.arg(bookName(book())).arg(chapter()).arg(verse));
+}
+
+void frm성서::placeChanged()
+{
+    guarded(m_services, this, [this] { panel->showPlace(); });
+    Proc현재위치표시();
+}
+
+void frm성서::FillBibleText()
+{
+    if (m_loading || m_fillHolds > 0) {
+        m_fillWanted = true;
+        return;
+    }
+    m_fillWanted = false;
+    if (guarded(m_services, this, [this] { fillChapter(); }))
+        placeChanged();
+}
+
+void frm성서::fillChapter()
+{
+    const WaitPointer wait;
+    m_chapter = m_slots.readChapter(book(), chapter());
+    if (m_settings.ViewMode == ViewMode::Text)
+        fillTextView(m_chapter);
+    else
+        fillTableView(m_chapter);
+}
+
+QString frm성서::divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf)
+{
+    HebrewTarget shown = target;
+    shown.isVisible =
+        isVisible() && (m_settings.ViewMode == ViewMode::Text || hflex본문->isVisible());
+    return DivideHebrewCont(stored, shown, asRtf, m_lineBreaker);
+}
+
+void frm성서::fillTextView(const std::vector<ChapterSource>& sources)
+{
+    ChapterStyle style;
+    style.rtf.mainFont = m_settings.MainFont;
+    style.rtf.defVerColor = m_settings.colors.DefVerColor;
+    style.rtf.ver1Color = m_settings.colors.verColors[0];
+    style.rtf.ver2Color = m_settings.colors.verColors[1];
+    style.rtf.ver3Color = m_settings.colors.verColors[2];
+    style.rtf.fontSize = m_settings.FontSize;
+    for (std::size_t slot = 0; slot < kUserVersionCount; ++slot)
+        style.rtf.userFonts[slot] = m_state.fonts.userFonts[slot].font;
+    style.fonts = m_state.fonts;
+    style.showMiniTitle = m_settings.ShowMiniTitle;
+    style.languageBar = m_state.LanguageBarRunning;
+    style.divideHebrew = [this](const QString& stored, const QString& font, int halfPoints) {
+        return divideHebrew(stored, {font, halfPoints, txCont->textWidth()}, true);
+    };
+    m_textView.show(composeChapter(sources, style));
+}
+
+void frm성서::fillTableView(const std::vector<ChapterSource>& sources)
+{
+    if (sources.empty() || sources.front().verses.empty()) {
+        m_tableView.clear();
+        return;
+    }
+    TableStyle style;
+    style.fontSize = m_settings.FontSize;
+    style.showMiniTitle = m_settings.ShowMiniTitle;
+    style.colors = m_settings.colors;
+    style.fonts = m_state.fonts;
+    style.divideHebrew = [this](const QString& stored, const QString& font, int halfPoints,
+                                int width) {
+        return divideHebrew(stored, {font, halfPoints, width}, false);
+    };
+    QStringList headers;
+    for (const ChapterSource& source : sources)
+        headers << versionCombo(source.slot).Text();
+    m_tableView.show(sources, headers, style);
+}
+
+void frm성서::applyColors()
+{
+    txCont->setBackColor(m_settings.colors.BackColor);
+    hflex본문->setBackColor(m_settings.colors.BackColor);
+}
+
+void frm성서::applySettings()
+{
+    const ReaderSettings stored = readReaderSettings(m_services.registry, kPanelTabCount);
+    m_settings.MainFont = stored.MainFont;
+    m_settings.colors = stored.colors;
+    m_settings.copy = stored.copy;
+    m_state.fonts.mainFont = stored.MainFont;
+    m_state.fonts.userFonts = GetUserFontSize(m_services.registry);
+    applyColors();
+    FillBibleText();
+}
+
+void frm성서::copySelection(bool unicode)
+{
+    static_cast<void>(unicode);
+}
+
+} // namespace lumen

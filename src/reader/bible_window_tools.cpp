@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "canon/canon_table.h"
+#include "data/module_path.h"
+#include "forms/book_combo.h"
+#include "forms/guarded.h"
+#include "forms/version_combo.h"
+#include "forms/window_opener.h"
+#include "platform/dialogs/html_help.h"
+#include "platform/dialogs/message_boxes.h"
+#include "platform/files/shell.h"
+#include "platform/registry/registry_store.h"
+#include "reader/fill_hold.h"
+#include "reader/hot_move_window.h"
+#include "reader/messages.h"
+#include "reader/reader_tools.h"
+
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+
+namespace {
+
+constexpr std::array kSlotCombos{u"ID_cb기본버전", u"ID_cb대역본1", u"ID_cb대역본2",
+                                 u"ID_cb대역본3"};
+constexpr std::array kVersionMenus{u"ID_기본버전", u"ID_대역본1", u"ID_대역본2", u"ID_대역본3"};
+/// The product's web page; the value HomePage of the reader's settings names another one.
+constexpr QStringView kHomePage = u"https://lumenscript.example/";
+
+struct LineSpacingTool
+{
+    QStringView id;
+    int percent;
+};
+constexpr std::array kLineSpacings{LineSpacingTool{u"ID_줄간격1배", 100},
+                                   LineSpacingTool{u"ID_줄간격1.5배", 150},
+                                   LineSpacingTool{u"ID_줄간격2배", 200}};
+
+} // namespace
+
+void frm성서::addGeneratedTools()
+{
+    for (int book = 0; book < kBookCount; ++book) {
+        const bool isOld = book < kFirstNewTestamentBook;
+        const QString menuTool = u"ID_성서책%1"_s.arg(book);
+        const QString button = u"ID_%1"_s.arg(book);
+        const QString name = bookName(book);
+        const QString abbreviation = bookAbbreviation(book);
+        atbar.add(
+            {menuTool, name, ToolKind::Button, isOld ? u"ID_OldTestament" : u"ID_NewTestament"});
+        atbar.add({button, abbreviation, ToolKind::Button,
+                   isOld ? reader_bar::kMove1 : reader_bar::kMove2});
+        atbar.tool(button).action()->setToolTip(name);
+    }
+}
+
+ComboBox& frm성서::versionCombo(int slot) const
+{
+    return toolCombo(kSlotCombos[static_cast<std::size_t>(slot)]);
+}
+
+void frm성서::atbar_event9(const QString& toolId)
+{
+    m_tools.run(toolId);
+}
+
+void frm성서::atbar_event10(const QString& toolId)
+{
+    m_combos.run(toolId);
+}
+
+void frm성서::bindTools()
+{
+    bindViewTools();
+    bindMoveTools();
+    bindWindowTools();
+
+    m_tools.on(u"ID_닫기", [this] { close(); });
+    m_tools.on(u"ID_종료", [this] { close(); });
+    m_tools.on(u"ID_편집", [this] { bringEditToolsUpToDate(); });
+    m_tools.on(u"ID_잘라내기", [this] { runEdit(EditCommand::Cut); });
+    m_tools.on(u"ID_복사", [this] { runEdit(EditCommand::Copy); });
+    m_tools.on(u"ID_UnicodeCopy", [this] { copySelection(true); });
+    m_tools.on(u"ID_붙이기", [this] { runEdit(EditCommand::Paste); });
+    m_tools.on(u"ID_지우기", [this] { runEdit(EditCommand::Delete); });
+    m_tools.on(u"ID_전체선택", [this] { runEdit(EditCommand::SelectAll); });
+    for (int slot = 0; slot < kSlotCount; ++slot) {
+        const auto at = static_cast<std::size_t>(slot);
+        m_combos.on(kSlotCombos[at], [this, slot] { chooseVersion(slot); });
+        // The tool's tag is the place of its version in the slot's combo.
+        m_tools.onFamily(u"ID_대역본%1-"_s.arg(slot), [this, slot](const QString& version) {
+            Tool tool = atbar.tool(u"ID_대역본%1-"_s.arg(slot) + version);
+            const int index = tool.tag().toInt();
+            if (index == versionCombo(slot).ListIndex())
+                tool.setChecked(true);
+            else
+                versionCombo(slot).setListIndex(index);
+        });
+    }
+}
+
+void frm성서::bindViewTools()
+{
+    m_tools.on(u"ID_보기", [] {});
+    m_tools.on(u"ID_표준도구모음", [this] {
+        setBarVisible(u"ID_표준도구모음", !atbar.barVisible(reader_bar::kStandard));
+    });
+    m_tools.on(u"ID_대조도구모음", [this] {
+        setBarVisible(u"ID_대조도구모음", !atbar.barVisible(reader_bar::kVersions));
+    });
+    m_tools.on(u"ID_성서이동도구모음", [this] {
+        setBarVisible(u"ID_성서이동도구모음", !atbar.barVisible(reader_bar::kMove1));
+    });
+    m_tools.on(u"ID_SidePane", [this] {
+        m_sidePane->setVisible(m_sidePane->isHidden());
+        atbar.tool(u"ID_SidePane").setChecked(!m_sidePane->isHidden());
+    });
+    m_tools.on(u"ID_Panel", [this] { panel->toggle(); });
+    m_tools.on(u"ID_텍스트형식", [this] { setViewMode(ViewMode::Text); });
+    m_tools.on(u"ID_테이블형식", [this] { setViewMode(ViewMode::Table); });
+    for (const LineSpacingTool& spacing : kLineSpacings)
+        m_tools.on(spacing.id, [this, percent = spacing.percent] { setLineSpacing(percent); });
+    m_tools.onNumbered(u"ID_글자크기", [this](int step) { setFontSize(step); });
+    m_tools.on(u"ID_소주제표시", [this] {
+        m_settings.ShowMiniTitle = !m_settings.ShowMiniTitle;
+        atbar.tool(u"ID_소주제표시").setChecked(m_settings.ShowMiniTitle);
+        FillBibleText();
+    });
+}
+
+void frm성서::bindMoveTools()
+{
+    m_tools.on(u"ID_이전장", [this] { stepChapter(-1); });
+    m_tools.on(u"ID_다음장", [this] { stepChapter(1); });
+    m_tools.on(u"ID_QuickMove", [this] {
+        m_sidePane->show();
+        atbar.tool(u"ID_SidePane").setChecked(true);
+        quickMove->startTyping();
+    });
+    m_tools.on(u"ID_AddBookmark", [this] { bookmarks->cmd책갈피추가_Click(); });
+    m_tools.onNumbered(u"ID_성서책",
+                       [this](int book) { toolCombo(u"ID_cb책명").setListIndex(book); });
+    m_tools.onNumbered(u"ID_", [this](int book) { openHotMove(book); });
+    m_combos.on(u"ID_cb책명", [this] { bookChanged(); });
+    m_combos.on(u"ID_cb장", [this] {
+        hflex본문->setTag(u"1"_s);
+        FillBibleText();
+    });
+}
+
+void frm성서::bindWindowTools()
+{
+    m_tools.on(u"ID_검색", [this] { m_windows.open(WindowId::Search); });
+    m_tools.on(u"ID_본문추출", [this] { m_windows.open(WindowId::Extract); });
+    m_tools.on(u"ID_환경설정", [this] { m_windows.open(WindowId::Preferences); });
+    m_tools.on(u"ID_사용자역본환경설정",
+               [this] { m_windows.open(WindowId::UserVersionPreferences); });
+    m_tools.on(u"ID_루멘스크립트에대하여", [this] { m_windows.open(WindowId::About); });
+    m_tools.on(u"ID_인터넷", [this] {
+        m_services.registry.OpenKey(settingsPath(settings_key::kBible));
+        const QString own = m_services.registry.GetValue(u"HomePage"_s, ValueKind::String);
+        openPage(own.isEmpty() ? kHomePage : QStringView(own));
+    });
+    for (const ReferencePage& page : kReferencePages)
+        m_tools.on(page.tool, [this, file = page.file] { openPage(file); });
+    const auto help = [this](const Result<Done>& shown) {
+        if (!shown)
+            tellMissing(shown.failure().detail);
+    };
+    m_tools.on(u"ID_목차", [this, help] { help(m_services.help.showPage(u"Lumens_Intro.htm"_s)); });
+    m_tools.on(u"ID_색인", [this, help] { help(m_services.help.showIndex()); });
+    m_tools.on(u"ID_도움말검색", [this, help] { help(m_services.help.showSearch()); });
+}
+
+void frm성서::openPage(QStringView file)
+{
+    const QString target =
+        file.startsWith(u'\\') ? joinedPath(m_state.AppPath, file) : file.toString();
+    if (!m_services.shell.open(target))
+        tellMissing(target);
+}
+
+void frm성서::tellMissing(const QString& file)
+{
+    const MessageText& message = messages::kPageMissing;
+    m_services.messages.show(this, QString::fromUtf16(message.title),
+                             QString::fromUtf16(message.text).arg(file), message.flags);
+}
+
+void frm성서::setBarVisible(QStringView barTool, bool visible)
+{
+    if (barTool == u"ID_표준도구모음") {
+        atbar.setBarVisible(reader_bar::kStandard, visible);
+    } else if (barTool == u"ID_대조도구모음") {
+        atbar.setBarVisible(reader_bar::kVersions, visible);
+    } else {
+        atbar.setBarVisible(reader_bar::kMove1, visible);
+        atbar.setBarVisible(reader_bar::kMove2, visible);
+        m_settings.BookToolbar = visible;
+    }
+    atbar.tool(barTool).setChecked(visible);
+}
+
+void frm성서::setViewMode(ViewMode mode)
+{
+    m_settings.ViewMode = mode;
+    showViewMode();
+    FillBibleText();
+}
+
+void frm성서::showViewMode()
+{
+    const bool table = m_settings.ViewMode == ViewMode::Table;
+    if (table) {
+        HideTextView();
+        ShowTableView();
+    } else {
+        HideTableView();
+        ShowTextView();
+    }
+    atbar.tool(u"ID_테이블형식").setChecked(table);
+    atbar.tool(u"ID_텍스트형식").setChecked(!table);
+    for (const LineSpacingTool& spacing : kLineSpacings)
+        atbar.tool(spacing.id).setEnabled(!table);
+}
+
+void frm성서::setLineSpacing(int percent)
+{
+    m_settings.LineSpacing = percent;
+    for (const LineSpacingTool& spacing : kLineSpacings)
+        atbar.tool(spacing.id).setChecked(spacing.percent == percent);
+    txCont->setLineSpacing(percent);
+    FillBibleText();
+}
+
+void frm성서::setFontSize(int step)
+{
+    m_settings.FontSize = step;
+    atbar.checkOnly(u"ID_글자크기", u"ID_글자크기%1"_s.arg(step));
+    FillBibleText();
+}
+
+void frm성서::chooseVersion(int slot)
+{
+    if (slot == 0)
+        ProcChangeBaseVersion();
+    else
+        ProcChangeParallelVersion(slot);
+}
+
+void frm성서::ProcChangeBaseVersion()
+{
+    ProcChangeParallelVersion(0);
+}
+
+void frm성서::ProcChangeParallelVersion(int slot)
+{
+    ComboBox& combo = versionCombo(slot);
+    const ChosenVersion chosen = m_slots(slot).choice.choose(this, combo.ListIndex(), m_loading);
+    if (!chosen.accepted) {
+        combo.setListIndex(chosen.index); // whose event runs this again
+        return;
+    }
+    m_slots.take(slot, chosen);
+    const QString version = chosen.code == 0 ? u"없음"_s : QString::number(chosen.code);
+    const QString family = u"ID_대역본%1-"_s.arg(slot);
+    atbar.checkOnly(family, family + version);
+    FillBibleText();
+}
+
+void frm성서::openHotMove(int book)
+{
+    auto* chapters = new HotMoveWindow(book, this);
+    chapters->onChapter = [this, book](int chapter) {
+        const FillHold hold(*this);
+        selectBookAndChapter(book, chapter);
+    };
+    const QString bar =
+        (book < kFirstNewTestamentBook ? reader_bar::kMove1 : reader_bar::kMove2).toString();
+    const QWidget* const button =
+        atbar.bar(bar)->widgetForAction(atbar.tool(u"ID_%1"_s.arg(book)).action());
+    const QPoint corner = button != nullptr ? button->mapToGlobal(QPoint(0, button->height()))
+                                            : mapToGlobal(QPoint(0, 0));
+    chapters->openAt(corner);
+}
+
+bool frm성서::copiesVerses() const
+{
+    const QWidget* const target = editTarget(*this);
+    return target == txCont || target == hflex본문;
+}
+
+void frm성서::bringEditToolsUpToDate()
+{
+    showEditState(atbar, editStateOf(editTarget(*this)));
+    atbar.tool(u"ID_UnicodeCopy").setEnabled(copiesVerses());
+}
+
+void frm성서::runEdit(EditCommand command)
+{
+    if (command == EditCommand::Copy && copiesVerses())
+        copySelection(false);
+    else
+        runEditCommand(command, editTarget(*this));
+}
+
+} // namespace lumen

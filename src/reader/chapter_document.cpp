@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/chapter_document.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+
+namespace {
+
+constexpr int kHebrewPointed = 301;
+constexpr int kLanguageBarBlanks = 30;
+// The colour table's entries: base, then the parallel versions behind the mini-title colour.
+constexpr std::array kSlotColor{0, 2, 3, 4};
+
+bool isHebrew(int code)
+{
+    return code >= kHebrewPointed && code <= 303;
+}
+
+/// Collects RTF and counts the characters that the control will show for it.
+class Composer
+{
+public:
+    Composer(const ChapterStyle& style, QString& rtf) : m_style(style), m_rtf(rtf) {}
+
+    void languageBarLine();
+    void row(const ChapterSource& source, const ChapterVerse& verse);
+    int position() const { return m_position; }
+
+private:
+    struct Face
+    {
+        VersionRtfFont font;
+        int halfPoints;
+    };
+
+    Face face(int code) const;
+    void heading(const Face& face, const QString& title);
+    void verseText(const ChapterSource& source, const QString& stored, int halfPoints);
+    void text(const QString& plain);
+
+    const ChapterStyle& m_style;
+    QString& m_rtf;
+    int m_position = 0;
+};
+
+void Composer::text(const QString& plain)
+{
+    m_rtf += RtfEscape(QStringView(plain));
+    m_position += static_cast<int>(plain.size());
+}
+
+void Composer::languageBarLine()
+{
+    m_rtf += QString(kLanguageBarBlanks, u' ') + u"\\par"_s;
+    m_position += kLanguageBarBlanks + 1;
+}
+
+Composer::Face Composer::face(int code) const
+{
+    const VersionRtfFont font = GetVersionRtfFont(code, m_style.fonts).value_or(VersionRtfFont{});
+    const int textSize = rtfSizes(m_style.rtf.fontSize).text;
+    return {font, scaledSize(font.factor, textSize)};
+}
+
+void Composer::heading(const Face& face, const QString& title)
+{
+    const bool preview = m_style.kind == DocumentKind::Preview;
+    m_rtf +=
+        face.font.paragraph + u"\t{\\f%1\\cf1\\b\\fs%2"_s.arg(face.font.font).arg(face.halfPoints);
+    m_rtf += preview ? u"["_s : u"『"_s;
+    text(title);
+    m_rtf += preview ? u"]}\\par\\par"_s : u"』}\\par\\par"_s;
+    m_position += 1 + 2 + 2; // the tab, the marks, two paragraph ends
+}
+
+void Composer::verseText(const ChapterSource& source, const QString& stored, int halfPoints)
+{
+    if (!isHebrew(source.code)) {
+        text(stored);
+        return;
+    }
+    // The order is unscramble, divide, escape; the divider's own "\par" must not be escaped.
+    const QString font = source.code == kHebrewPointed ? u"OrvaneHeb"_s : u"OrvaneHebC"_s;
+    const QStringList lines = m_style.divideHebrew(stored, font, halfPoints).split(u"\\par "_s);
+    for (qsizetype line = 0; line < lines.size(); ++line) {
+        if (line > 0) {
+            m_rtf += u"\\par "_s;
+            ++m_position;
+        }
+        text(lines[line]);
+    }
+}
+
+void Composer::row(const ChapterSource& source, const ChapterVerse& verse)
+{
+    const Face look = face(source.code);
+    const bool decorated = source.slot == 0 && m_style.showMiniTitle;
+    if (decorated && !verse.miniTitle.isEmpty())
+        heading(look, verse.miniTitle);
+
+    const QString number = QString::number(verse.verse);
+    // The codes 300 to 303 run from the right: a tab would throw the text to the other side.
+    const QString separator = source.code >= 300 && source.code <= 303 ? u"   "_s : u"\t"_s;
+    m_rtf += look.font.paragraph +
+             u"{\\f5\\fs%1\\cf5 %2}"_s.arg(rtfSizes(m_style.rtf.fontSize).verseNumber).arg(number);
+    m_rtf += separator + u"\\f%1\\cf%2\\fs%3 "_s.arg(look.font.font)
+                             .arg(kSlotColor[static_cast<size_t>(source.slot)])
+                             .arg(look.halfPoints);
+    m_position += static_cast<int>(number.size() + separator.size());
+    if (decorated)
+        text(verse.part);
+    verseText(source, verse.cont, look.halfPoints);
+    m_rtf += u"\\par "_s;
+    ++m_position;
+}
+
+} // namespace
+
+ComposedChapter composeChapter(const std::vector<ChapterSource>& sources, const ChapterStyle& style)
+{
+    ComposedChapter chapter;
+    if (sources.empty() || sources.front().verses.empty())
+        return chapter;
+
+    chapter.rtf = rtfDocumentHeader(style.rtf);
+    Composer composer(style, chapter.rtf);
+    if (style.languageBar)
+        composer.languageBarLine();
+    const std::vector<ChapterVerse>& base = sources.front().verses;
+    for (size_t row = 0; row < base.size(); ++row) {
+        const int start = composer.position();
+        for (const ChapterSource& source : sources)
+            if (row < source.verses.size())
+                composer.row(source, source.verses[row]);
+        chapter.positions.add({start, composer.position() - start, base[row].verse});
+    }
+    chapter.rtf += u"}"_s;
+    return chapter;
+}
+
+} // namespace lumen

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "data/version_font.h"
+#include "reader/verse_positions.h"
+#include "text/rtf_composer.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace lumen {
+
+/// One verse of a source, unscrambled; a Null text is "".
+struct ChapterVerse
+{
+    int verse = 0;
+    QString cont;
+    QString part;      ///< stands in front of cont, of the base version only
+    QString miniTitle; ///< "" for none
+};
+
+/// The chapter in one version. `slot` is 0 for the base version, 1 to 3 for the parallel ones.
+struct ChapterSource
+{
+    int slot = 0;
+    int code = 0;
+    std::vector<ChapterVerse> verses;
+};
+
+/// Breaks a stored Hebrew verse into display lines, "\par " between them. Size in half points.
+using HebrewDivider =
+    std::function<QString(const QString& stored, const QString& fontName, int halfPoints)>;
+
+/// Reader: the document of the text view. Preview: that of the preview control, whose headings
+/// stand in square brackets.
+enum class DocumentKind { Reader, Preview };
+
+struct ChapterStyle
+{
+    RtfSettings rtf;
+    bool showMiniTitle = true;
+    bool languageBar = false; ///< a blank line first keeps the caret's line clear of the bar
+    DocumentKind kind = DocumentKind::Reader;
+    FontSettings fonts;
+    HebrewDivider divideHebrew;
+};
+
+/// A chapter as one RTF document, and where its verses stand in the text of it.
+struct ComposedChapter
+{
+    QString rtf; ///< "" when the base version has no row
+    VersePositions positions;
+};
+
+/// Composes a chapter. The sources are walked in step: row i of each stands behind row i of the
+/// base, without any comparison of verse numbers; rows beyond the base's last are not shown.
+ComposedChapter composeChapter(const std::vector<ChapterSource>& sources,
+                               const ChapterStyle& style);
+
+} // namespace lumen

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "data/compact_and_backup.h"
+#include "forms/form_geometry.h"
+#include "forms/guarded.h"
+#include "platform/registry/registry_store.h"
+#include "reader/bible_window.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+
+bool frm성서::Form_Unload()
+{
+    if (closeToolWindows && !closeToolWindows())
+        return false;
+    Save책갈피();
+    SaveBibleSettings();
+    // A note that can't be saved keeps the window open once, so that its text can be taken
+    // elsewhere; the user's second try ends the program.
+    if (!guarded(m_services, this, [this] { panel->leave(); }) && !m_closeRefused) {
+        m_closeRefused = true;
+        return false;
+    }
+    compactAndBackUp();
+    return true;
+}
+
+void frm성서::Save책갈피()
+{
+    ignoreFailure(m_bookmarkFile.save(bookmarks->references()),
+                  "a full disc must not keep the program from ending");
+}
+
+void frm성서::SaveBibleSettings()
+{
+    m_settings.BookNum = book();
+    m_settings.ChapNum = chapter() - 1;
+    m_settings.DefVerNum = versionCombo(0).ListIndex();
+    for (int slot = 1; slot < kSlotCount; ++slot)
+        m_settings.Interlinear[static_cast<std::size_t>(slot - 1)] = versionCombo(slot).ListIndex();
+    m_settings.TabNum = panel->sst관주사전->Tab();
+    m_settings.RefBarMode = panel->state();
+    saveFormGeometry(m_services.registry, geometry::kBible, *this);
+    saveReaderSettings(m_services.registry, m_settings, m_state.AppPath);
+    ignoreFailure(m_services.registry.flush(), "a full disc must not keep the program from ending");
+}
+
+void frm성서::compactAndBackUp()
+{
+    // What is open can't be compacted.
+    m_slots.close();
+    m_dacPersnote.Close();
+    CompactAndBackup(m_state.AppPath, user_file::kNotes, m_services.jet, m_services.files);
+    CompactAndBackup(m_state.AppPath, user_file::kBookmarks, m_services.jet, m_services.files);
+}
+
+} // namespace lumen

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/table_view.h"
+
+#include "platform/controls/flex_grid.h"
+#include "reader/text_view.h"
+#include "text/rtf_tables.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+
+namespace {
+
+constexpr int kMarkColumn = 0;
+constexpr int kVerseColumn = 1;
+constexpr int kFirstVersionColumn = 2;
+constexpr int kMarkWidth = 330;  // twips: the mark and a margin
+constexpr int kVerseWidth = 560; // twips: three digits and a margin
+constexpr int kHebrewPointed = 301;
+constexpr RgbLong kMiniTitleColor = RGB(37, 21, 102);
+constexpr double kHeaderPoints = 9;
+
+bool isHebrew(int code)
+{
+    return code >= kHebrewPointed && code <= 303;
+}
+
+RgbLong slotColor(const ReaderColors& colors, int slot)
+{
+    return static_cast<RgbLong>(slot == 0 ? colors.DefVerColor
+                                          : colors.verColors[static_cast<std::size_t>(slot - 1)]);
+}
+
+/// The size of a version's text in half points.
+int textSize(const TableStyle& style, int code)
+{
+    return scaledSize(GetVersionFontEx(code, style.fonts).factor, rtfSizes(style.fontSize).text);
+}
+
+} // namespace
+
+TableView::TableView(FlexGrid& hflex본문) : m_grid(hflex본문)
+{
+    clear();
+}
+
+void TableView::clear()
+{
+    m_grid.setRows(1);
+    m_verseOfRow.assign(1, 0);
+}
+
+void TableView::setUpColumns(const std::vector<ChapterSource>& sources, const QStringList& headers,
+                             const TableStyle& style)
+{
+    m_grid.setCols(kFirstVersionColumn + static_cast<int>(sources.size()));
+    m_grid.setHeaderStyle({.family = u"굴림"_s,
+                           .points = kHeaderPoints,
+                           .bold = {},
+                           .color = {},
+                           .back = {},
+                           .align = GridAlign::Center});
+    m_grid.setTextMatrix(0, kVerseColumn, u"절"_s);
+    m_grid.setColWidth(kMarkColumn, kMarkWidth);
+    m_grid.setColWidth(kVerseColumn, kVerseWidth);
+    CellStyle number;
+    number.align = GridAlign::Center;
+    m_grid.setColStyle(kMarkColumn, number);
+    m_grid.setColStyle(kVerseColumn, number);
+    for (std::size_t at = 0; at < sources.size(); ++at) {
+        const int col = kFirstVersionColumn + static_cast<int>(at);
+        const int code = sources[at].code;
+        m_grid.setTextMatrix(0, col, headers.value(static_cast<qsizetype>(at)));
+        CellStyle look;
+        look.family = GetVersionFontEx(code, style.fonts).font;
+        look.points = textSize(style, code) / 2.0;
+        look.color = slotColor(style.colors, sources[at].slot);
+        look.align = isHebrew(code) ? GridAlign::Right : GridAlign::Left;
+        m_grid.setColStyle(col, look);
+    }
+    m_grid.setStretchFrom(kFirstVersionColumn);
+}
+
+QString TableView::cellText(const ChapterSource& source, const ChapterVerse& verse, int col,
+                            const TableStyle& style) const
+{
+    QString text = verse.cont;
+    if (isHebrew(source.code)) {
+        const QString font = source.code == kHebrewPointed ? u"OrvaneHeb"_s : u"OrvaneHebC"_s;
+        text = style.divideHebrew(text, font, textSize(style, source.code), m_grid.ColWidth(col));
+    }
+    return source.slot == 0 && style.showMiniTitle ? verse.part + text : text;
+}
+
+void TableView::addHeading(const ChapterVerse& verse, const TableStyle& style)
+{
+    if (!style.showMiniTitle || verse.miniTitle.isEmpty())
+        return;
+    const int row = m_grid.Rows();
+    m_grid.setRows(row + 1);
+    m_grid.setTextMatrix(row, kFirstVersionColumn, u"『"_s + verse.miniTitle + u"』"_s);
+    CellStyle look;
+    look.bold = true;
+    look.color = kMiniTitleColor;
+    look.align = GridAlign::Left;
+    m_grid.setCellStyle(row, kFirstVersionColumn, look);
+    m_grid.setMergedRow(row, kFirstVersionColumn);
+    m_verseOfRow.push_back(0);
+}
+
+void TableView::addVerse(const std::vector<ChapterSource>& sources, std::size_t index,
+                         const TableStyle& style)
+{
+    const ChapterVerse& base = sources.front().verses[index];
+    addHeading(base, style);
+    const int row = m_grid.Rows();
+    m_grid.setRows(row + 1);
+    m_grid.setTextMatrix(row, kVerseColumn, QString::number(base.verse));
+    for (std::size_t at = 0; at < sources.size(); ++at) {
+        if (index >= sources[at].verses.size())
+            continue;
+        const int col = kFirstVersionColumn + static_cast<int>(at);
+        m_grid.setTextMatrix(row, col,
+                             cellText(sources[at], sources[at].verses[index], col, style));
+    }
+    m_verseOfRow.push_back(base.verse);
+}
+
+void TableView::show(const std::vector<ChapterSource>& sources, const QStringList& headers,
+                     const TableStyle& style)
+{
+    const RedrawHold hold(m_grid);
+    clear();
+    m_grid.Clear();
+    setUpColumns(sources, headers, style);
+    m_grid.setBackColor(static_cast<RgbLong>(style.colors.BackColor));
+    m_grid.setBackColorAlternate(static_cast<RgbLong>(style.colors.AltColor));
+    if (!sources.empty())
+        for (std::size_t index = 0; index < sources.front().verses.size(); ++index)
+            addVerse(sources, index, style);
+    m_grid.AutoSize();
+    if (m_grid.Rows() > 1)
+        markRow(qBound(1, m_grid.Tag().toInt(), m_grid.Rows() - 1));
+}
+
+int TableView::verseRowFrom(int row) const
+{
+    const int rows = static_cast<int>(m_verseOfRow.size());
+    while (row > 0 && row < rows && m_verseOfRow[static_cast<std::size_t>(row)] == 0)
+        ++row;
+    return row > 0 && row < rows ? row : -1;
+}
+
+int TableView::verseOfRow(int row) const
+{
+    const int verseRow = verseRowFrom(row);
+    return verseRow < 0 ? 0 : m_verseOfRow[static_cast<std::size_t>(verseRow)];
+}
+
+void TableView::markRow(int row)
+{
+    const int marked = verseRowFrom(row);
+    if (marked < 0)
+        return;
+    m_grid.setTextMatrix(m_grid.Tag().toInt(), kMarkColumn, QString());
+    m_grid.setTextMatrix(marked, kMarkColumn, u"▶"_s);
+    m_grid.setTag(QString::number(marked));
+}
+
+int TableView::currentVerse()
+{
+    if (m_grid.Tag().toInt() == 0) {
+        m_grid.setTag(u"1"_s);
+        m_grid.setRow(1);
+    }
+    const int verse = verseOfRow(m_grid.Tag().toInt());
+    return verse == 0 ? 1 : verse;
+}
+
+QString TableView::currentRange()
+{
+    const int first = verseOfRow(m_grid.Row());
+    const int last = verseOfRow(m_grid.RowSel());
+    if (first == 0 || last == 0)
+        return QString::number(currentVerse());
+    return verseRangeText(first, last);
+}
+
+void TableView::selectVerse(int verse)
+{
+    for (std::size_t row = 1; row < m_verseOfRow.size(); ++row) {
+        if (m_verseOfRow[row] != verse)
+            continue;
+        const int found = static_cast<int>(row);
+        m_grid.setRow(found);
+        m_grid.setTopRow(found);
+        markRow(found);
+        return;
+    }
+}
+
+} // namespace lumen

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "reader/chapter_document.h"
+
+namespace lumen {
+
+class TextControl;
+
+/// The chapter as one flowing document in `txCont`, and the way between its caret and the verses.
+class TextView
+{
+public:
+    explicit TextView(TextControl& txCont);
+
+    /// Shows a composed chapter; one without a row empties the view.
+    void show(const ComposedChapter& chapter);
+
+    /// The verse of the caret.
+    int currentVerse() const;
+    /// "3", or "3-5" for a selection over several verses.
+    QString currentRange() const;
+    /// Selects a verse and scrolls to it; a verse that is not there changes nothing.
+    void selectVerse(int verse);
+    const VersePositions& positions() const { return m_positions; }
+
+private:
+    TextControl& m_txCont;
+    VersePositions m_positions;
+};
+
+/// "3" or "3-5" of two verses in either order.
+QString verseRangeText(int first, int last);
+
+} // namespace lumen

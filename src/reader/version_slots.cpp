@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/version_slots.h"
+
+#include "data/chapter_reader.h"
+#include "data/data_store.h"
+#include "forms/services.h"
+
+#include <algorithm>
+
+namespace lumen {
+
+namespace {
+
+VersionChoiceRule ruleOf(int slot)
+{
+    VersionChoiceRule rule;
+    rule.number = slot;
+    rule.missingFile = slot == 0 ? AbsentVersion::BaseFile : AbsentVersion::ParallelFile;
+    return rule;
+}
+
+ChapterSource plainSource(int slot, int code, const QList<VerseRow>& rows)
+{
+    ChapterSource source{slot, code, {}};
+    source.verses.reserve(static_cast<std::size_t>(rows.size()));
+    for (const VerseRow& row : rows)
+        source.verses.push_back({row.verse, verseText(row), row.part, row.miniTitle});
+    return source;
+}
+
+} // namespace
+
+VersionSlot::VersionSlot(Services& services, const AppState& state, const VersionChoiceRule& rule)
+    : choice(services, state, rule), control(services.jet)
+{
+    control.ReadOnly = true;
+}
+
+VersionSlots::VersionSlots(Services& services, const AppState& state)
+{
+    for (int slot = 0; slot < kSlotCount; ++slot)
+        m_slots[static_cast<std::size_t>(slot)] =
+            std::make_unique<VersionSlot>(services, state, ruleOf(slot));
+}
+
+void VersionSlots::take(int slot, const ChosenVersion& chosen)
+{
+    VersionSlot& taken = (*this)(slot);
+    taken.table = chosen.tableName;
+    taken.code = chosen.code;
+    taken.control.DatabaseName = chosen.path;
+    taken.control.Connect = QString::fromUtf16(connect_text::kDataControl);
+    if (!taken.isOpen())
+        taken.control.Close();
+}
+
+bool VersionSlots::holdsHebrew() const
+{
+    return std::any_of(m_slots.begin(), m_slots.end(),
+                       [](const auto& slot) { return slot->code >= 301 && slot->code <= 303; });
+}
+
+std::vector<ChapterSource> VersionSlots::readChapter(int book, int chapter)
+{
+    std::vector<ChapterSource> sources;
+    for (int number = 0; number < kSlotCount; ++number) {
+        VersionSlot& slot = (*this)(number);
+        if (!slot.isOpen())
+            continue;
+        const QList<VerseRow> rows = readVerses(slot.control, slot.control.DatabaseName,
+                                                chapterQuery(slot.table, book, chapter, number));
+        sources.push_back(plainSource(number, slot.code, rows));
+        if (number == 0 && rows.isEmpty())
+            break;
+    }
+    return sources;
+}
+
+int VersionSlots::baseRecordCount() const
+{
+    const Recordset* const rows = (*this)(0).control.Recordset();
+    return rows != nullptr ? rows->RecordCount() : 0;
+}
+
+void VersionSlots::close()
+{
+    for (const auto& slot : m_slots)
+        slot->control.Close();
+}
+
+} // namespace lumen
