@@ -45,9 +45,9 @@ inline constexpr UserFile kIllustrations{u"\\예화.dts",    u"\\예화c.dts", u
 } // namespace user_file
 
 /// Compacts a user file in \Data and copies it to the folder \OrvaneBackup of the program's drive,
-/// which keeps the last two generations. The file must be closed. Every step runs whether or not
-/// the one before failed, and no failure is told: it never keeps a window open. A failed compaction
-/// leaves the file as it was. A file without a compact copy is backed up only when it exists.
+/// which keeps the last two generations. The file must be closed. No failure is told or ends the
+/// routine: it never keeps a window open. A failed compaction leaves the file as it was, and a file
+/// that is gone leaves its backups as they are.
 void CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
                       FileSystem& files);
 
