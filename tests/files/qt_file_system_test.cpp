@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/files/qt_file_system.h"
+#include "platform/files/virtual_drives.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+// Tells that one file is open and notes what was asked to be written first.
+class OneOpenFile : public OpenFiles
+{
+public:
+    bool isOpen(const QString& nativePath) const override { return nativePath == open; }
+    void commitPending(const QString& nativePath) override { committed << nativePath; }
+
+    QString open;
+    QStringList committed;
+};
+
+class QtFileSystemTest : public testing::Test
+{
+protected:
+    static QString path(const QString& name) { return u"C:\\p\\"_s + name; }
+    QString native(const QString& name) const { return folder.filePath(u"p/"_s + name); }
+
+    void SetUp() override { ASSERT_TRUE(QDir().mkpath(folder.filePath(u"p"_s))); }
+
+    QByteArray content(const QString& name) const
+    {
+        const Result<QByteArray> bytes = files.readAll(path(name));
+        return bytes ? bytes.value() : QByteArray("<none>");
+    }
+
+    FailureKind kindOf(const Result<Done>& result) const
+    {
+        EXPECT_FALSE(result);
+        return result ? FailureKind::Cancelled : result.failure().kind;
+    }
+
+    QTemporaryDir folder;
+    VirtualDrives drives{{folder.filePath(u"p"_s), {}}};
+    OneOpenFile openFiles;
+    QtFileSystem files{drives, openFiles};
+};
+
+TEST_F(QtFileSystemTest, FilesAreWrittenReadCopiedAndDeletedInAnyCase)
+{
+    const QByteArray bytes("\x00\xff line\r\n", 8);
+    ASSERT_TRUE(files.writeAll(path(u"Bmk.bmf"_s), bytes));
+    EXPECT_TRUE(files.FileExists(path(u"bmk.BMF"_s)));
+    EXPECT_EQ(content(u"BMK.bmf"_s), bytes);
+    ASSERT_TRUE(files.writeAll(path(u"bmk.bmf"_s), "second"));
+    EXPECT_EQ(QDir(native(u""_s)).entryList(QDir::Files), QStringList{u"Bmk.bmf"_s})
+        << "one file, and no temporary one";
+
+    ASSERT_TRUE(files.writeAll(path(u"target"_s), "former"));
+    ASSERT_TRUE(files.CopyFile(path(u"BMK.BMF"_s), path(u"TARGET"_s)));
+    EXPECT_EQ(content(u"target"_s), "second");
+    ASSERT_TRUE(files.DeleteFile(path(u"TARGET"_s)));
+    EXPECT_FALSE(files.FileExists(path(u"target"_s)));
+}
+
+TEST_F(QtFileSystemTest, ALargeFileIsCopiedWhole)
+{
+    QByteArray bytes(3'000'000, 'x');
+    for (qsizetype i = 0; i < bytes.size(); i += 1000)
+        bytes[i] = static_cast<char>(i / 1000);
+    ASSERT_TRUE(files.writeAll(path(u"a"_s), bytes));
+    ASSERT_TRUE(files.CopyFile(path(u"a"_s), path(u"b"_s)));
+    EXPECT_EQ(content(u"b"_s), bytes);
+}
+
+TEST_F(QtFileSystemTest, WhatIsMissingOrNoFileIsRefused)
+{
+    ASSERT_TRUE(files.CreateFolder(path(u"sub\\deep"_s)));
+    EXPECT_TRUE(files.CreateFolder(path(u"SUB\\deep"_s))) << "one that is there is no failure";
+    EXPECT_TRUE(files.FolderExists(path(u"Sub"_s)));
+    EXPECT_FALSE(files.FileExists(path(u"sub"_s)));
+    ASSERT_TRUE(files.writeAll(path(u"a"_s), "a"));
+    EXPECT_FALSE(files.FolderExists(path(u"a"_s)));
+
+    EXPECT_EQ(kindOf(files.DeleteFile(path(u"none"_s))), FailureKind::NotFound);
+    EXPECT_EQ(kindOf(files.CopyFile(path(u"none"_s), path(u"a"_s))), FailureKind::NotFound);
+    EXPECT_EQ(kindOf(files.CopyFile(path(u"a"_s), path(u"A"_s))), FailureKind::Invalid);
+    EXPECT_EQ(kindOf(files.CopyFile(path(u"a"_s), path(u"sub"_s))), FailureKind::Invalid);
+    EXPECT_EQ(kindOf(files.DeleteFile(path(u"sub"_s))), FailureKind::Invalid);
+    EXPECT_EQ(kindOf(files.writeAll(u"X:\\a"_s, "a")), FailureKind::Invalid);
+    EXPECT_EQ(kindOf(files.CreateFolder(u"X:\\a"_s)), FailureKind::Invalid);
+    EXPECT_EQ(files.readAll(path(u"sub"_s)).failure().kind, FailureKind::NotFound);
+    EXPECT_EQ(content(u"a"_s), "a");
+}
+
+TEST_F(QtFileSystemTest, AnOpenDatabaseIsNeitherOverwrittenNorDeleted)
+{
+    ASSERT_TRUE(files.writeAll(path(u"myc.mdb"_s), "open"));
+    ASSERT_TRUE(files.writeAll(path(u"mycc.mdb"_s), "new"));
+    openFiles.open = native(u"myc.mdb"_s);
+    EXPECT_EQ(kindOf(files.CopyFile(path(u"mycc.mdb"_s), path(u"MYC.mdb"_s))), FailureKind::InUse);
+    EXPECT_EQ(kindOf(files.DeleteFile(path(u"MYC.mdb"_s))), FailureKind::InUse);
+    EXPECT_EQ(kindOf(files.writeAll(path(u"MYC.mdb"_s), "x")), FailureKind::InUse);
+    EXPECT_EQ(content(u"myc.mdb"_s), "open");
+
+    ASSERT_TRUE(files.CopyFile(path(u"myc.mdb"_s), path(u"copy"_s)));
+    EXPECT_EQ(openFiles.committed, QStringList{native(u"myc.mdb"_s)})
+        << "what isn't on disk yet is written before the copy";
+}
+
+TEST_F(QtFileSystemTest, AFolderThatCantBeWrittenToLeavesTheOldFile)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root may write everywhere";
+    ASSERT_TRUE(files.writeAll(path(u"a"_s), "old"));
+    ASSERT_TRUE(files.writeAll(path(u"b"_s), "new"));
+    QFile::setPermissions(native(u""_s), QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_EQ(kindOf(files.writeAll(path(u"a"_s), "x")), FailureKind::NoAccess);
+    EXPECT_EQ(kindOf(files.CopyFile(path(u"b"_s), path(u"a"_s))), FailureKind::NoAccess);
+    EXPECT_EQ(content(u"a"_s), "old");
+    QFile::setPermissions(native(u""_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+} // namespace
+} // namespace lumen
