@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "app/startup.h"
+#include "app/world.h"
+#include "platform/log.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"lumenscript"_s);
+    QApplication::setApplicationDisplayName(u"루멘 스크립트"_s);
+    QApplication::setApplicationVersion(QStringLiteral(LUMEN_VERSION));
+    QApplication::setDesktopFileName(u"lumenscript"_s);
+    lumen::setUpLogging();
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"성경 연구 작업대"_s);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(app);
+
+    lumen::World world(lumen::findDriveFolders());
+    return lumen::Main(world);
+}

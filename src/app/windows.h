@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "forms/window_opener.h"
+
+#include <QPointer>
+
+#include <memory>
+
+namespace lumen {
+
+class ReaderPlace;
+class frm성서검색;
+struct AppState;
+struct Services;
+
+/// Opens the windows of the program. Tool windows are made at their first use and live until the
+/// reader ends; dialogs run modally.
+class Windows : public WindowOpener
+{
+public:
+    Windows(Services& services, AppState& state);
+    ~Windows() override;
+
+    /// The reader that the windows call back into; set once, before anything is opened.
+    void setReader(ReaderPlace* reader) { m_reader = reader; }
+    void open(WindowId window) override;
+    /// Closes the tool windows; false when one refuses.
+    bool closeAll();
+
+private:
+    Services& m_services;
+    AppState& m_state;
+    ReaderPlace* m_reader = nullptr;
+    std::unique_ptr<frm성서검색> m_search;
+};
+
+} // namespace lumen
