@@ -6,17 +6,17 @@
 namespace lumen {
 namespace {
 
-std::vector<TextSpan> joined(std::vector<TextSpan> spans)
+QList<TextRange> joined(QList<TextRange> ranges)
 {
-    std::ranges::sort(spans, {}, &TextSpan::start);
-    std::vector<TextSpan> result;
-    for (const TextSpan& span : spans) {
-        if (result.empty() || span.start > result.back().start + result.back().length) {
-            result.push_back(span);
+    std::ranges::sort(ranges, {}, &TextRange::start);
+    QList<TextRange> result;
+    for (const TextRange& range : ranges) {
+        if (result.empty() || range.start > result.back().start + result.back().length) {
+            result << range;
             continue;
         }
-        TextSpan& last = result.back();
-        last.length = std::max(last.length, span.start + span.length - last.start);
+        TextRange& last = result.back();
+        last.length = std::max(last.length, range.start + range.length - last.start);
     }
     return result;
 }
@@ -36,15 +36,15 @@ void FoundWords::add(const QStringList& words)
             m_words << word;
 }
 
-std::vector<TextSpan> FoundWords::spans(QStringView text) const
+QList<TextRange> FoundWords::ranges(QStringView text) const
 {
-    std::vector<TextSpan> result;
+    QList<TextRange> result;
     for (const QString& word : m_words) {
         // From the next character, not from behind the hit: "aa" marks all of "aaa".
         for (qsizetype at = text.indexOf(word); at >= 0; at = text.indexOf(word, at + 1))
-            result.push_back({at, word.size()});
+            result << TextRange{static_cast<int>(at), static_cast<int>(word.size())};
     }
-    return joined(std::move(result));
+    return joined(result);
 }
 
 } // namespace lumen

@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "platform/controls/text_range.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QStringView>
 
-#include <vector>
-
 namespace lumen {
-
-/// A stretch of a text in UTF-16 units.
-struct TextSpan
-{
-    qsizetype start = 0;
-    qsizetype length = 0;
-
-    friend bool operator==(const TextSpan&, const TextSpan&) = default;
-};
 
 /// The words that the rows of the open result were found by, for marking them in the result cells.
 class FoundWords
@@ -27,9 +19,9 @@ public:
     void replace(const QStringList& words);
     void add(const QStringList& words);
 
-    /// Where the words stand in a text, in order; spans that overlap or touch are one. Case counts,
-    /// as it does in the search.
-    std::vector<TextSpan> spans(QStringView text) const;
+    /// Where the words stand in a text, in order; ranges that overlap or touch are one. Case
+    /// counts, as it does in the search.
+    QList<TextRange> ranges(QStringView text) const;
 
 private:
     QStringList m_words;

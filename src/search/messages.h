@@ -17,5 +17,6 @@ inline constexpr MessageText kNoEarlierResult{
     u"안내", u"앞서 검색된 내용이 없으므로 전체 범위에 대하여 검색합니다.", 48};
 inline constexpr MessageText kNoBookChosen{u"선택된 책 없음",
                                            u"선택된 책이 없습니다. 그대로 문서창을 닫을까요?", 52};
+inline constexpr MessageText kHelpMissing{u"도움말 없음", u"도움말을 열 수 없습니다.\r\n%1", 48};
 
 } // namespace lumen::messages

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "search/easy_panel.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+constexpr int kPageLabelLength = 16; // " 31101 ~  31150"
+constexpr int kHistoryWidth = 130;   // pixels; long texts are cut, the list shows them whole
+
+QToolButton* pageButton(QStringView name, Qt::ArrowType arrow, const QString& tip)
+{
+    auto* button = named<QToolButton>(name);
+    button->setArrowType(arrow);
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace
+
+PageMover::PageMover(QStringView panelName, QStringView previousName, QStringView comboName,
+                     QStringView nextName)
+    : panel(named<QWidget>(panelName)),
+      previous(pageButton(previousName, Qt::LeftArrow, u"이전 쪽"_s)),
+      pages(named<ComboBox>(comboName, u"쪽")),
+      next(pageButton(nextName, Qt::RightArrow, u"다음 쪽"_s))
+{
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(previous);
+    row->addWidget(pages);
+    row->addWidget(next);
+    // A result of a whole Bible has more than 600 pages: their texts aren't measured one by one.
+    pages->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    pages->setMinimumContentsLength(kPageLabelLength);
+}
+
+QLayout* centred(QWidget* panel)
+{
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(panel);
+    row->addStretch();
+    return row;
+}
+
+QLabel* labelFor(QWidget* control, const QString& caption)
+{
+    auto* label = new QLabel(caption);
+    label->setBuddy(control);
+    return label;
+}
+
+EasyPanel::EasyPanel()
+{
+    auto* grid = new QGridLayout(pbxEasySearch);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(labelFor(cb역본, u"역본(&O):"_s), 0, 0);
+    grid->addWidget(cb역본, 0, 1);
+    grid->addWidget(labelFor(cb범위, u"범위(&N):"_s), 0, 2);
+    grid->addWidget(cb범위, 0, 3);
+    grid->addWidget(cmd책별선택, 0, 4, 1, 2);
+    grid->addWidget(labelFor(tx검색, u"검색어(&W):"_s), 1, 0);
+    grid->addWidget(tx검색, 1, 1);
+    grid->addWidget(labelFor(cb검색, u"기록(&Y):"_s), 1, 2);
+    grid->addWidget(cb검색, 1, 3);
+    grid->addWidget(cmd검색, 1, 4);
+    grid->addWidget(cmdKeyboard, 1, 5);
+    cb검색->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cb검색->setMinimumWidth(kHistoryWidth);
+
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(centred(pbxEasySearch));
+    column->addLayout(centred(mover.panel));
+    column->addStretch();
+    // The order of the work: text, search, then what is changed less often.
+    setTabOrder(cb역본, cb범위);
+    setTabOrder(cb범위, cmd책별선택);
+    setTabOrder(cmd책별선택, tx검색);
+    setTabOrder(tx검색, cmd검색);
+    setTabOrder(cmd검색, cb검색);
+    setTabOrder(cb검색, cmdKeyboard);
+}
+
+} // namespace lumen

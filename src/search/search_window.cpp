@@ -1,0 +1,314 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "search/search_window.h"
+
+#include "forms/form_geometry.h"
+#include "forms/guarded.h"
+#include "forms/reader_place.h"
+#include "forms/version_combo.h"
+#include "forms/wait_pointer.h"
+#include "platform/controls/twips.h"
+#include "platform/dialogs/html_help.h"
+#include "platform/dialogs/message_boxes.h"
+#include "platform/registry/registry_store.h"
+#include "search/messages.h"
+#include "search/right_to_left_typing.h"
+#include "search/search_settings.h"
+#include "search/search_tools.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+// Heights of the tab control, twips.
+constexpr int kHeightWithPages = 2235;
+constexpr int kHeightWithoutPages = 1695;
+
+constexpr EditToolIds kEditTools{.paste = u"ID_붙여넣기"};
+constexpr QStringView kHelpPage = u"HowtoSearchBible.htm";
+
+constexpr VersionChoiceRule kVersionRule{.missingFile = AbsentVersion::ComboRow,
+                                         .pastLastRow = PastLastRow::OneBack,
+                                         .afterMissingFile = AfterMissingFile::First};
+
+} // namespace
+
+frm성서검색::frm성서검색(Services& services, AppState& state, ReaderPlace& reader, QWidget* parent)
+    : QMainWindow(parent), m_services(services), m_state(state), m_reader(reader),
+      m_versions(services, state, kVersionRule), m_scopes(services, *this, *easy, *power, *parsing),
+      m_search(services.jet), m_results(*hflex결과, [this](const QString& text, const QString& font,
+                                                           int halfPoints, int width) {
+          return DivideHebrewCont(text, {font, halfPoints, width}, false, m_lineBreaker);
+      })
+{
+    setObjectName(u"frm성서검색"_s);
+    setWindowTitle(u"성서 검색"_s);
+    layOut();
+    addTools();
+    bindTools();
+    wireSearches();
+    wirePages();
+    wireResults();
+}
+
+void frm성서검색::layOut()
+{
+    sstSearch->addTab(easy, u"쉬운 검색"_s);
+    sstSearch->addTab(power, u"파워 검색"_s);
+    sstSearch->addTab(parsing, u"원전분해 검색"_s);
+    auto* central = new QWidget;
+    auto* column = new QVBoxLayout(central);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(sstSearch);
+    column->addWidget(hflex결과, 1);
+    column->addWidget(parsingResults.splitParsing, 1);
+    setCentralWidget(central);
+    sb상황판->addWidget(statusPanel1, 1);
+    sb상황판->addPermanentWidget(statusPanel2);
+    setStatusBar(sb상황판);
+    parsingResults.splitParsing->hide();
+    // What their windows and the engine of the third tab will open.
+    easy->cmdKeyboard->setEnabled(false);
+    power->cmdPKeyboard->setEnabled(false);
+    parsing->cmdParsingSearch->setEnabled(false);
+    for (int condition = 0; condition < kConditionCount; ++condition) {
+        parsing->cmdInput(condition)->setEnabled(false);
+        parsing->cmdSetParsing(condition)->setEnabled(false);
+    }
+}
+
+void frm성서검색::addTools()
+{
+    atbar.add(kSearchTools);
+    for (const ScopeRow& scope : kScopes)
+        atbar.add({scope.toolId, scope.text, ToolKind::Toggle, u"ID_Scope"});
+}
+
+void frm성서검색::bindTools()
+{
+    m_tools.on(u"ID_닫기", [this] { close(); });
+    m_tools.on(u"ID_종료", [] { QApplication::closeAllWindows(); });
+    m_tools.on(u"ID_편집", [this] { UpdateEditMenu(); });
+    m_tools.on(u"ID_잘라내기", [this] { edit(EditCommand::Cut); });
+    m_tools.on(u"ID_복사", [this] { edit(EditCommand::Copy); });
+    m_tools.on(u"ID_붙여넣기", [this] { edit(EditCommand::Paste); });
+    m_tools.on(u"ID_지우기", [this] { edit(EditCommand::Delete); });
+    m_tools.on(u"ID_전체선택", [this] { edit(EditCommand::SelectAll); });
+    for (int index = 0; index < static_cast<int>(kScopes.size()); ++index)
+        m_tools.on(kScopes[static_cast<std::size_t>(index)].toolId,
+                   [this, index] { m_scopes.choose(index); });
+    m_tools.onFamily(u"ID_대역본0-", [this](const QString& code) {
+        easy->cb역본->setListIndex(easy->cb역본->findItemData(code.toInt()));
+    });
+    m_tools.on(u"ID_쉬운검색", [this] { sstSearch->setTab(static_cast<int>(SearchTab::Easy)); });
+    m_tools.on(u"ID_파워검색", [this] { sstSearch->setTab(static_cast<int>(SearchTab::Power)); });
+    m_tools.on(u"ID_원전분해검색",
+               [this] { sstSearch->setTab(static_cast<int>(SearchTab::Parsing)); });
+    m_tools.on(u"ID_MarkHits", [this] {
+        m_settings.MarkHits = !m_settings.MarkHits;
+        hflex결과->viewport()->update();
+    });
+    m_tools.on(u"ID_검색", [this] { startSearch(); });
+    m_tools.on(u"ID_PreviousPage", [this] { turnPage(false); });
+    m_tools.on(u"ID_NextPage", [this] { turnPage(true); });
+    m_tools.on(u"ID_성경창으로이동", [this] { m_reader.bringToFront(); });
+    bindHelp();
+    atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };
+}
+
+void frm성서검색::bindHelp()
+{
+    const auto help = [this](const Result<Done>& shown) {
+        if (shown)
+            return;
+        const MessageText& message = messages::kHelpMissing;
+        m_services.messages.show(this, QString::fromUtf16(message.title),
+                                 QString::fromUtf16(message.text).arg(shown.failure().detail),
+                                 message.flags);
+    };
+    m_tools.on(u"ID_목차", [this, help] { help(m_services.help.showPage(kHelpPage.toString())); });
+    m_tools.on(u"ID_색인", [this, help] { help(m_services.help.showIndex()); });
+    m_tools.on(u"ID_도움말검색", [this, help] { help(m_services.help.showSearch()); });
+}
+
+void frm성서검색::wireSearches()
+{
+    easy->cb역본->onClick = [this] { cb역본_Click(); };
+    power->cbPVersion->onClick = [this] {
+        easy->cb역본->setListIndex(power->cbPVersion->ListIndex());
+    };
+    easy->cb검색->onClick = [this] {
+        easy->tx검색->setText(easy->cb검색->Text());
+        easy->tx검색->setFocus();
+    };
+    m_scopes.onScopeText = [this](const QString& text) {
+        statusPanel1->setText(text);
+        showToolStates();
+    };
+    connect(easy->cmd검색, &QPushButton::clicked, this, [this] { cmd검색_Click(); });
+    connect(power->cmdPSearch, &QPushButton::clicked, this, [this] { cmdPSearch_Click(); });
+    connect(easy->tx검색, &QLineEdit::returnPressed, this, [this] { cmd검색_Click(); });
+    wireTextBox(*easy->tx검색);
+    for (QLineEdit* box : power->boxes()) {
+        connect(box, &QLineEdit::returnPressed, this, [this] { cmdPSearch_Click(); });
+        wireTextBox(*box);
+    }
+    for (QLineEdit* box : parsing->txHGSearch)
+        wireTextBox(*box);
+    sstSearch->onTabClick = [this](int tab, int) {
+        if (!m_loading)
+            sstSearch_Click(static_cast<SearchTab>(tab));
+    };
+}
+
+void frm성서검색::wireTextBox(QLineEdit& box)
+{
+    box.installEventFilter(this);
+    box.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&box, &QLineEdit::customContextMenuRequested, this,
+            [this] { atbar.popUp(u"ID_편집"); });
+}
+
+void frm성서검색::wirePages()
+{
+    for (const PageMover* mover : {&easy->mover, &power->mover}) {
+        ComboBox* pages = mover->pages;
+        pages->onClick = [this, pages] { showPage(pages->ListIndex()); };
+        connect(mover->previous, &QToolButton::clicked, this, [this] { turnPage(false); });
+        connect(mover->next, &QToolButton::clicked, this, [this] { turnPage(true); });
+    }
+}
+
+void frm성서검색::wireResults()
+{
+    hflex결과->onClick = [this] { UpdateEditMenu(); };
+    hflex결과->onDblClick = [this](int row, int) { openVerse(row); };
+    hflex결과->onEnter = [this] { openVerse(hflex결과->Row()); };
+    hflex결과->onCopy = [this] { edit(EditCommand::Copy); };
+    hflex결과->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
+    for (FlexGrid* grid : {hflex결과, parsingResults.flexParsing})
+        grid->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {
+            if (button == Qt::RightButton)
+                atbar.popUp(u"ID_편집");
+        };
+    hflex결과->highlight = [this](int row, int col, const QString& text) {
+        const bool marked = m_settings.MarkHits && row > 0 && col == ResultGrid::kTextColumn;
+        return marked ? m_foundWords.ranges(text) : QList<TextRange>();
+    };
+}
+
+void frm성서검색::Form_Load()
+{
+    m_loading = true;
+    Proc시동크기위치설정(m_services.registry, geometry::kBibleSearch, *this);
+    m_settings = readSearchSettings(m_services.registry);
+    m_paged = true;
+    sstSearch->setTab(static_cast<int>(SearchTab::Easy));
+    Proc성서검색창버전설정();
+    m_scopes.Proc검색범위초기화();
+    for (ComboBox* first : {easy->cb역본, easy->cb범위, power->cbCond1, power->cbCond2})
+        first->setListIndex(0);
+    parsing->reset();
+    parsing->cbParVer->setListIndex(0);
+    for (QLineEdit* box : {easy->tx검색, power->txPSearch1, power->txPSearch2, power->txPSearch3})
+        box->clear();
+    easy->cb검색->Clear();
+    m_results.clear();
+    m_loading = false;
+    // The empty result that the tab begins with.
+    sstSearch_Click(SearchTab::Easy);
+}
+
+void frm성서검색::Proc성서검색창버전설정()
+{
+    m_versions.fill(*easy->cb역본);
+    m_versions.fill(*power->cbPVersion);
+    setUpVersionMenu(atbar, u"ID_버전", SetupMenu(m_state.installed, 0));
+    parsing->cbParVer->Clear();
+    parsing->cbParVer->AddItem(u"히브리어"_s);
+    parsing->cbParVer->AddItem(u"헬라어"_s);
+}
+
+void frm성서검색::Form_Unload()
+{
+    saveFormGeometry(m_services.registry, geometry::kBibleSearch, *this);
+    parsingResults.store(m_settings);
+    saveSearchSettings(m_services.registry, m_settings);
+    ignoreFailure(m_services.registry.flush(), "unsaved settings never keep the window open");
+    m_search.close();
+    m_paged = false;
+}
+
+void frm성서검색::closeEvent(QCloseEvent* event)
+{
+    Form_Unload();
+    QMainWindow::closeEvent(event);
+}
+
+void frm성서검색::Form_Resize()
+{
+    const bool parsingTab = currentTab() == SearchTab::Parsing;
+    easy->mover.panel->setVisible(m_paged);
+    power->mover.panel->setVisible(m_paged);
+    const int height = toPixels(m_paged ? kHeightWithPages : kHeightWithoutPages);
+    // Large fonts need more than the usual height, and so do the conditions of the third tab.
+    QWidget* page = sstSearch->currentWidget();
+    const int needed = page->layout()->totalMinimumSize().height() + sstSearch->headerHeight() +
+                       2 * sstSearch->style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    sstSearch->setFixedHeight(std::max(height, needed));
+    hflex결과->setVisible(!parsingTab);
+    parsingResults.splitParsing->setVisible(parsingTab);
+    for (const QStringView mover : {u"ID_PreviousPage", u"ID_NextPage"})
+        atbar.tool(mover).setEnabled(m_paged && !parsingTab);
+}
+
+bool frm성서검색::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyRelease)
+        if (auto* box = qobject_cast<QLineEdit*>(watched))
+            stepBackAfterTyping(*box, *static_cast<QKeyEvent*>(event), easy->cb역본->Text());
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frm성서검색::atbar_event9(const QString& toolId)
+{
+    m_tools.run(toolId);
+    // A click has turned the tool's own check mark round.
+    showToolStates();
+}
+
+void frm성서검색::showToolStates()
+{
+    const SearchTab tab = currentTab();
+    atbar.tool(u"ID_쉬운검색").setChecked(tab == SearchTab::Easy);
+    atbar.tool(u"ID_파워검색").setChecked(tab == SearchTab::Power);
+    atbar.tool(u"ID_원전분해검색").setChecked(tab == SearchTab::Parsing);
+    atbar.tool(u"ID_MarkHits").setChecked(m_settings.MarkHits);
+    for (int index = 0; index < static_cast<int>(kScopes.size()); ++index)
+        atbar.tool(kScopes[static_cast<std::size_t>(index)].toolId)
+            .setChecked(easy->cb범위->ListIndex() == index);
+    const int code = easy->cb역본->ItemData(easy->cb역본->ListIndex());
+    atbar.checkOnly(u"ID_대역본0-", u"ID_대역본0-"_s + QString::number(code));
+    // The engine of the third tab comes with its windows.
+    atbar.tool(u"ID_검색").setEnabled(tab != SearchTab::Parsing);
+}
+
+void frm성서검색::edit(EditCommand command)
+{
+    runEditCommand(command, editTarget(*this), m_services.clipboard);
+}
+
+void frm성서검색::UpdateEditMenu()
+{
+    showEditState(atbar, editStateOf(editTarget(*this)), kEditTools);
+}
+
+} // namespace lumen
