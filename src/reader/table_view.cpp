@@ -56,12 +56,7 @@ void TableView::setUpColumns(const std::vector<ChapterSource>& sources, const QS
                              const TableStyle& style)
 {
     m_grid.setCols(kFirstVersionColumn + static_cast<int>(sources.size()));
-    m_grid.setHeaderStyle({.family = u"굴림"_s,
-                           .points = kHeaderPoints,
-                           .bold = {},
-                           .color = {},
-                           .back = {},
-                           .align = GridAlign::Center});
+    m_grid.setHeaderStyle({.family = u"굴림"_s, .points = kHeaderPoints, .align = GridAlign::Center});
     m_grid.setTextMatrix(0, kVerseColumn, u"절"_s);
     m_grid.setColWidth(kMarkColumn, kMarkWidth);
     m_grid.setColWidth(kVerseColumn, kVerseWidth);

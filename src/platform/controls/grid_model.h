@@ -18,11 +18,11 @@ enum class GridAlign { Inherit, Left, Center, Right };
 /// The look of a cell. What is left open comes from the column, then from the grid.
 struct CellStyle
 {
-    QString family;
+    QString family = {};
     double points = 0;
-    std::optional<bool> bold;
-    std::optional<RgbLong> color;
-    std::optional<RgbLong> back;
+    std::optional<bool> bold = {};
+    std::optional<RgbLong> color = {};
+    std::optional<RgbLong> back = {};
     GridAlign align = GridAlign::Inherit;
 
     friend bool operator==(const CellStyle&, const CellStyle&) = default;
