@@ -14,6 +14,9 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <utility>
+#include <vector>
+
 namespace lumen {
 
 /// A folder of its own with the program's folder, a disc and the XDG folders in it; sets the XDG
@@ -37,9 +40,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    QByteArray m_formerConfig;
-    QByteArray m_formerCache;
-    QByteArray m_formerData;
+    std::vector<std::pair<const char*, QByteArray>> m_former; // variables as they were
 };
 
 /// Everything a window asks of the world, scripted where a user would answer and real where files
