@@ -27,12 +27,10 @@ struct Command
 };
 
 constexpr std::array kCommands{
+    Command{u"build", runBuild},
     Command{u"check", runCheck},
     Command{u"import", runImport},
-#ifdef LUMEN_HAS_BUILD
-    Command{u"build", runBuild},
     Command{u"list", runList},
-#endif
 };
 
 QString usage()

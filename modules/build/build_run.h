@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "build/build_options.h"
+#include "build/module_task.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace lumen {
+
+/// What is to be made, and what was found on the way that has no place.
+struct BuildPlan
+{
+    std::vector<ModuleTask> tasks;      ///< in the order of the codes
+    std::vector<ModuleOutcome> refused; ///< modules asked for that can't be made
+    QStringList remarks;
+};
+
+/// Puts installed and supplied sources together; a supplied one goes before an installed one.
+Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& folders);
+
+/// Makes the modules of a plan, several at once, and shows how far it has come. The outcomes stand
+/// in the order of the tasks. When the user asks to stop, what isn't finished is Interrupted.
+std::vector<ModuleOutcome> runPlan(const BuildPlan& plan, const QString& outFolder, int jobs);
+
+} // namespace lumen

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "build/build_command.h"
+#include "build/build_options.h"
+#include "build/module_builder.h"
+#include "build/module_stamp.h"
+#include "build/recipes.h"
+#include "common/arguments.h"
+#include "common/console.h"
+
+#include <QFileInfo>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString usage()
+{
+    return uR"(사용법: lumen-modules list [--out 폴더]
+
+공개 자료로 만들 수 있는 모듈과 그 원본이 있는지를 보여 줍니다.
+
+  --out 폴더   모듈이 있는 폴더. 주지 않으면 프로그램의 Data 폴더
+  --help       이 도움말)"_s;
+}
+
+QString stateOf(const ModuleTask& task, const QString& folder)
+{
+    const QString file = moduleFile(folder, task.code);
+    const bool built = QFileInfo::exists(file);
+    if (!sourceIsThere(task.source))
+        return built ? u"만들어져 있음, 원본 없음"_s : task.hint;
+    if (!built)
+        return u"만들 수 있음"_s;
+    return storedStamp(file) == taskStamp(task) ? u"만들어져 있음"_s
+                                                : u"만들어져 있으나 원본이 바뀜"_s;
+}
+
+} // namespace
+
+int runList(const QStringList& args)
+{
+    const auto parsed = parseArguments(args, {u"out"_s}, {u"help"_s});
+    if (!parsed || !parsed.value().positional.isEmpty()) {
+        printError(parsed ? u"인수가 너무 많습니다."_s : parsed.failure().detail);
+        return kExitUsage;
+    }
+    if (parsed.value().has(u"help"_s)) {
+        printLine(usage());
+        return kExitDone;
+    }
+    const QString folder = parsed.value().value(u"out"_s, defaultDataFolder());
+    for (const ModuleTask& task : installedTasks(installedFolders(), Renumbering::Keep))
+        printLine(
+            u"%1 %2: %3 [%4]"_s.arg(task.code).arg(task.name, stateOf(task, folder), task.origin));
+    printLine(u"개역한글(101)과 개역한자(102)는 JSON 파일로, 다른 역본은 SWORD, OSIS, USFM 파일로 "
+              u"만들 수 "
+              "있습니다. \"lumen-modules build --help\"를 보십시오."_s);
+    return kExitDone;
+}
+
+} // namespace lumen

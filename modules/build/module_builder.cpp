@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "build/module_builder.h"
+
+#include "build/module_stamp.h"
+#include "build/version_module_writer.h"
+#include "platform/jet/jet_error.h"
+
+#include <QDate>
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <exception>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Reading takes about this share of the time that a module needs.
+constexpr double kReadShare = 0.4;
+
+ModuleOutcome& failed(ModuleOutcome& outcome, const Failure& failure)
+{
+    const bool cancelled = failure.kind == FailureKind::Cancelled;
+    const bool missing = failure.kind == FailureKind::NotFound;
+    outcome.state = cancelled ? ModuleState::Interrupted
+                    : missing ? ModuleState::SourceMissing
+                              : ModuleState::Failed;
+    outcome.problem = failure.detail;
+    return outcome;
+}
+
+VersionResult preparedText(const ModuleTask& task)
+{
+    VersionResult read = readSource(task.source);
+    if (!read)
+        return read;
+    VersionText& version = read.value();
+    for (const Mend mend : task.mends)
+        mend(version);
+    if (!task.ownMapping.isEmpty()) {
+        const auto renumbered = renumberVerses(version, task.ownMapping, task.englishMapping);
+        if (!renumbered)
+            return renumbered.failure();
+    }
+    arrangeVerses(version);
+    return read;
+}
+
+void describe(const VersionText& version, const ModuleTask& task, ModuleOutcome& outcome)
+{
+    outcome.check = checkAgainstCanon(version, task.numbering);
+    outcome.remarks = version.remarks;
+    const auto& verses = version.verses;
+    outcome.parts = static_cast<int>(
+        std::count_if(verses.begin(), verses.end(), [](const VerseText& v) { return v.part; }));
+    outcome.headings = static_cast<int>(std::count_if(
+        verses.begin(), verses.end(), [](const VerseText& v) { return !v.miniTitle.isEmpty(); }));
+}
+
+ModuleLabel labelOf(const ModuleTask& task, const QString& stamp)
+{
+    return {task.name,
+            {{u"source"_s, task.origin},
+             {u"licence"_s, task.licence},
+             {u"built"_s, QDate::currentDate().toString(Qt::ISODate)},
+             {kStampKey.toString(), stamp}}};
+}
+
+void makeModule(const ModuleTask& task, const QString& file, const BuildAdvance& advance,
+                ModuleOutcome& outcome)
+{
+    const QString stamp = taskStamp(task);
+    if (storedStamp(file) == stamp) {
+        outcome.state = ModuleState::UpToDate;
+        return;
+    }
+    const VersionResult version = preparedText(task);
+    if (!version) {
+        failed(outcome, version.failure());
+        return;
+    }
+    describe(version.value(), task, outcome);
+    const auto written =
+        writeVersionModule(file, labelOf(task, stamp), version.value(), [&advance](double share) {
+            return advance(kReadShare + (1 - kReadShare) * share);
+        });
+    if (!written)
+        failed(outcome, written.failure());
+    else
+        outcome.state = ModuleState::Built;
+}
+
+} // namespace
+
+QString moduleFile(const QString& folder, int code)
+{
+    return u"%1/%2.dts"_s.arg(folder).arg(code);
+}
+
+ModuleOutcome buildModule(const ModuleTask& task, const QString& folder,
+                          const BuildAdvance& advance)
+{
+    ModuleOutcome outcome;
+    outcome.code = task.code;
+    outcome.name = task.name;
+    if (!sourceIsThere(task.source)) {
+        outcome.state = ModuleState::SourceMissing;
+        outcome.problem = task.hint;
+        return outcome;
+    }
+    QElapsedTimer timer;
+    timer.start();
+    try {
+        if (advance(0))
+            makeModule(task, moduleFile(folder, task.code), advance, outcome);
+        else
+            outcome.state = ModuleState::Interrupted;
+    } catch (const JetError& error) {
+        outcome.problem = error.text();
+    } catch (const std::exception& error) {
+        outcome.problem = QString::fromUtf8(error.what());
+    }
+    outcome.seconds = static_cast<double>(timer.elapsed()) / 1000;
+    return outcome;
+}
+
+} // namespace lumen

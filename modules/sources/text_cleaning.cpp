@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "sources/text_cleaning.h"
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QChar kPilcrow(u'\u00B6');
+constexpr QChar kNoBreakSpace(u'\u00A0');
+constexpr QStringView kNoBlankBefore = u",.;:?!";
+
+bool isBlank(QChar c)
+{
+    return c.isSpace() && c != kNoBreakSpace;
+}
+
+} // namespace
+
+QString joinedBlanks(QStringView text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar c : text) {
+        if (!isBlank(c))
+            result += c;
+        else if (!result.isEmpty() && result.back() != u' ')
+            result += u' ';
+    }
+    if (result.endsWith(u' '))
+        result.chop(1);
+    return result;
+}
+
+QString tidyText(QStringView text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar c : text) {
+        if (c == kPilcrow)
+            continue;
+        if (isBlank(c)) {
+            if (!result.isEmpty() && result.back() != u' ')
+                result += u' ';
+            continue;
+        }
+        if (kNoBlankBefore.contains(c) && result.endsWith(u' '))
+            result.chop(1);
+        result += c;
+    }
+    if (result.endsWith(u' '))
+        result.chop(1);
+    return result;
+}
+
+std::optional<QString> textOrNothing(QStringView text)
+{
+    QString tidy = tidyText(text);
+    return tidy.isEmpty() ? std::nullopt : std::optional<QString>(std::move(tidy));
+}
+
+QString divineCapitals(const QString& name)
+{
+    for (const QStringView ending : {QStringView(u"'s"), QStringView(u"\u2019s")})
+        if (name.endsWith(ending))
+            return name.chopped(ending.size()).toUpper() + ending.toString();
+    return name.toUpper();
+}
+
+} // namespace lumen

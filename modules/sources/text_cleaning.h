@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+namespace lumen {
+
+/// Runs of blanks, tabs and line ends made one blank, none at the ends. A no-break space stays.
+QString joinedBlanks(QStringView text);
+
+/// A verse or title out of mark-up: no pilcrow, blanks joined and none before , . ; : ? !
+QString tidyText(QStringView text);
+
+/// Tidy text, or nothing where there is none.
+std::optional<QString> textOrNothing(QStringView text);
+
+/// Capitals as the divine name is printed, but for a genitive ending: "Lord's" gives "LORD's".
+QString divineCapitals(const QString& name);
+
+} // namespace lumen

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "sources/text_mending.h"
+
+#include "canon/canon_table.h"
+#include "sources/text_cleaning.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+namespace lumen::Mending {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPsalms = 18;
+
+QString shortReference(const VerseText& verse)
+{
+    return u"%1%2:%3"_s.arg(bookAbbreviation(verse.book)).arg(verse.chapter).arg(verse.verse);
+}
+
+void remark(VersionText& version, const QString& text, const QStringList& places)
+{
+    if (!places.isEmpty())
+        version.remarks << u"%1 (%2절): %3"_s.arg(text).arg(places.size()).arg(places.join(u' '));
+}
+
+void remark(VersionText& version, const QString& text, int count)
+{
+    if (count > 0)
+        version.remarks << u"%1: %2절"_s.arg(text).arg(count);
+}
+
+// Printed text has none of these; they are left-overs of its typing.
+bool hasStraySign(const QString& text)
+{
+    static const QRegularExpression stray(uR"([_"!0-9\[\].\\/<>|{}])"_s);
+    return text.contains(stray);
+}
+
+bool isKoreanPlaceholder(const QString& text)
+{
+    static constexpr std::array<QStringView, 4> kPlaceholders{u"(없음)", u"(없 음)", u"없음",
+                                                              u"{상동}"};
+    return std::find(kPlaceholders.begin(), kPlaceholders.end(), text) != kPlaceholders.end();
+}
+
+// Drops the closing brackets that close nothing. Brackets may span verses, so that the depth is
+// carried on from verse to verse.
+bool dropDoubledBrackets(QString& text, int& depth)
+{
+    QString kept;
+    kept.reserve(text.size());
+    for (const QChar c : std::as_const(text)) {
+        if (c == u')' && depth == 0)
+            continue;
+        depth += c == u'(' ? 1 : c == u')' ? -1 : 0;
+        kept += c;
+    }
+    const bool dropped = kept.size() != text.size();
+    text = kept;
+    return dropped;
+}
+
+template <typename Change>
+int changeTexts(VersionText& version, Change change)
+{
+    int changed = 0;
+    for (VerseText& verse : version.verses) {
+        if (!verse.text)
+            continue;
+        const QString before = *verse.text;
+        change(verse);
+        if (verse.text != before)
+            ++changed;
+    }
+    return changed;
+}
+
+} // namespace
+
+void korean(VersionText& version)
+{
+    int depth = 0;
+    QStringList doubled;
+    QStringList stray;
+    int braces = 0;
+    for (VerseText& verse : version.verses) {
+        if (!verse.text)
+            continue;
+        QString text = verse.text->normalized(QString::NormalizationForm_C);
+        if (isKoreanPlaceholder(text)) {
+            verse.text.reset();
+            continue;
+        }
+        braces += text.contains(u'{') || text.contains(u'}') ? 1 : 0;
+        text.replace(u'{', u'(').replace(u'}', u')');
+        if (dropDoubledBrackets(text, depth))
+            doubled << shortReference(verse);
+        if (hasStraySign(text))
+            stray << shortReference(verse);
+        verse.text = text;
+    }
+    remark(version, u"중괄호를 소괄호로 바꾸었습니다"_s, braces);
+    remark(version, u"겹친 닫는 괄호를 뺐습니다"_s, doubled);
+    remark(version, u"본문에 드문 부호가 있어 그대로 두었습니다"_s, stray);
+}
+
+void baptist(VersionText& version)
+{
+    const int changed =
+        changeTexts(version, [](VerseText& verse) { verse.text->replace(u"세례"_s, u"침례"_s); });
+    remark(version, u"\"세례\"를 \"침례\"로 바꾸었습니다"_s, changed);
+}
+
+void asv(VersionText& version)
+{
+    // The closing sign is the one that no letter follows: `the king's matter'.
+    static const QRegularExpression added(u"`(.*?)'(?![A-Za-z])"_s);
+    const int changed =
+        changeTexts(version, [](VerseText& verse) { verse.text->replace(added, u"\\1"_s); });
+    remark(version, u"보충한 낱말의 표시를 뺐습니다"_s, changed);
+}
+
+void darby(VersionText& version)
+{
+    static const QRegularExpression title(uR"(^\{([^}]*)\}\s*)"_s);
+    int titles = 0;
+    const int stressed = changeTexts(version, [&titles](VerseText& verse) {
+        const auto match = title.match(*verse.text);
+        if (verse.book == kPsalms && verse.verse == 1 && match.hasMatch()) {
+            verse.part = match.captured(1);
+            verse.text = textOrNothing(verse.text->mid(match.capturedLength()));
+            ++titles;
+        }
+        if (verse.text)
+            verse.text->remove(u'*');
+    });
+    remark(version, u"시편의 표제를 본문에서 떼었습니다"_s, titles);
+    remark(version, u"표제와 강조 표시를 정리했습니다"_s, stressed);
+}
+
+void douay(VersionText& version)
+{
+    static const QRegularExpression lineEnd(uR"(\s*\\$)"_s);
+    QStringList stray;
+    const int changed = changeTexts(version, [&stray](VerseText& verse) {
+        if (*verse.text == u"dummy verses inserted by amos") {
+            verse.text.reset();
+            return;
+        }
+        verse.text->remove(lineEnd);
+        static const QRegularExpression odd(uR"([/<>\\|])"_s);
+        if (verse.text->contains(odd))
+            stray << shortReference(verse);
+    });
+    remark(version, u"채움 절과 줄 끝 부호를 뺐습니다"_s, changed);
+    remark(version, u"본문에 드문 부호가 있어 그대로 두었습니다"_s, stray);
+}
+
+void webster(VersionText& version)
+{
+    static const QRegularExpression mark(uR"(^\\(\d+):(\d+)\\\s*)"_s);
+    const auto fillers =
+        std::erase_if(version.verses, [](const VerseText& verse) { return verse.text == u"+"_s; });
+    int moved = 0;
+    for (VerseText& verse : version.verses) {
+        if (!verse.text)
+            continue;
+        const auto match = mark.match(*verse.text);
+        if (match.hasMatch()) {
+            verse.chapter = match.captured(1).toInt();
+            verse.verse = match.captured(2).toInt();
+            ++moved;
+        }
+        QString text = verse.text->mid(match.capturedLength());
+        verse.text = textOrNothing(text.remove(u'\\'));
+    }
+    remark(version, u"채움 절을 뺐습니다"_s, static_cast<int>(fillers));
+    remark(version, u"본문이 말하는 번호로 옮겼습니다"_s, moved);
+}
+
+void romansDoxology(VersionText& version)
+{
+    constexpr int kRomans = 44;
+    int moved = 0;
+    for (VerseText& verse : version.verses) {
+        if (verse.book != kRomans || verse.chapter != 14 || verse.verse < 24 || verse.verse > 26)
+            continue;
+        verse.chapter = 16;
+        ++verse.verse;
+        ++moved;
+    }
+    remark(version, u"로마서 14:24-26을 16:25-27로 옮겼습니다"_s, moved);
+}
+
+} // namespace lumen::Mending

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "sources/version_text.h"
+
+namespace lumen {
+
+/// What single sources need before their text can be shown. Each works on the verses as the reader
+/// gave them, in the order of the source, and adds a remark for what it changed.
+namespace Mending {
+
+/// "(없음)" and the like, and "{상동}" for a verse that stands in the one before, become no words;
+/// text is brought into composed form, so that a typed Hanja finds its compatibility twin; braces
+/// become the brackets of the printed text, and a bracket closed twice loses the second. Other
+/// stray signs stay and are told.
+void korean(VersionText& version);
+
+/// The Korean text with the Baptists' word for baptism.
+void baptist(VersionText& version);
+
+/// Marks of added words, `so', are dropped: the text has none otherwise.
+void asv(VersionText& version);
+
+/// Titles of Psalms in braces become parts, asterisks around stressed words are dropped.
+void darby(VersionText& version);
+
+/// Filler verses become no words; a backslash that ends a line is dropped.
+void douay(VersionText& version);
+
+/// Part of the text is numbered as in Hebrew and says so: "\6:1\" tells chapter and verse of what
+/// follows. Filler verses ("+") go.
+void webster(VersionText& version);
+
+/// The doxology at the end of Romans 14 moves to where the keys have it, 16:25 to 27.
+void romansDoxology(VersionText& version);
+
+} // namespace Mending
+
+} // namespace lumen

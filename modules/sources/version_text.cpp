@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "sources/version_text.h"
+
+#include "canon/canon_table.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPsalms = 18;
+constexpr int kAlphabetPsalm = 119;
+
+auto placeOf(const VerseText& verse)
+{
+    return std::tuple(verse.book, verse.chapter, verse.verse);
+}
+
+bool inCanon(const VerseText& verse)
+{
+    return verse.chapter >= 1 && verse.chapter <= chapterCount(verse.book) && verse.verse >= 1;
+}
+
+void appendText(std::optional<QString>& text, const std::optional<QString>& more)
+{
+    if (!more)
+        return;
+    text = text ? *text + u' ' + *more : *more;
+}
+
+void moveLetterToHeading(VerseText& verse)
+{
+    if (verse.book != kPsalms || verse.chapter != kAlphabetPsalm || !verse.part)
+        return;
+    addHeading(verse.miniTitle, *verse.part);
+    verse.part.reset();
+}
+
+void dropOutsideCanon(VersionText& version)
+{
+    std::map<std::pair<int, int>, int> dropped;
+    std::erase_if(version.verses, [&dropped](const VerseText& verse) {
+        if (inCanon(verse))
+            return false;
+        ++dropped[{verse.book, verse.chapter}];
+        return true;
+    });
+    for (const auto& [chapter, count] : dropped) {
+        version.remarks << u"정경에 없는 장을 뺐습니다: %1 %2장, %3절"_s
+                               .arg(bookName(chapter.first))
+                               .arg(chapter.second)
+                               .arg(count);
+    }
+}
+
+} // namespace
+
+Failure sourceFailure(const QString& file, qint64 line, const QString& reason)
+{
+    if (line < 1)
+        return {FailureKind::Damaged, u"%1: %2"_s.arg(file, reason)};
+    return {FailureKind::Damaged, u"%1:%2: %3"_s.arg(file, QString::number(line), reason)};
+}
+
+Failure missingSource(const QString& file)
+{
+    return {FailureKind::NotFound, file};
+}
+
+void addHeading(QString& headings, const QString& heading)
+{
+    if (heading.isEmpty())
+        return;
+    if (!headings.isEmpty())
+        headings += u" / "_s;
+    headings += heading;
+}
+
+void arrangeVerses(VersionText& version)
+{
+    dropOutsideCanon(version);
+    auto& verses = version.verses;
+    std::stable_sort(verses.begin(), verses.end(), [](const VerseText& a, const VerseText& b) {
+        return placeOf(a) < placeOf(b);
+    });
+    std::vector<VerseText> arranged;
+    arranged.reserve(verses.size());
+    for (VerseText& verse : verses) {
+        moveLetterToHeading(verse);
+        if (arranged.empty() || placeOf(arranged.back()) != placeOf(verse)) {
+            arranged.push_back(std::move(verse));
+            continue;
+        }
+        VerseText& same = arranged.back();
+        appendText(same.text, verse.text);
+        appendText(same.part, verse.part);
+        addHeading(same.miniTitle, verse.miniTitle);
+    }
+    verses = std::move(arranged);
+}
+
+} // namespace lumen
