@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "import/import_fixture.h"
+#include "platform/jet/jet_header.h"
+#include "platform/jet/jet_import.h"
+#include "support/jet_header_maker.h"
+
+#include <QFileInfo>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A made-up Jet file: a right header and nothing else.
+QByteArray headerOnly(const QString& password = {})
+{
+    return JetHeaderMaker(1).jet4Password(password, 38143).page();
+}
+
+/// Puts a script in the place of the import program: it notes each run and does what the test says
+/// with "$5", the source, and "$6", the destination.
+class ScriptedImportTest : public ImportTest
+{
+protected:
+    void importRuns(const QByteArray& commands)
+    {
+        options.importProgram = rootFile(u"import.sh"_s);
+        const QByteArray log = rootFile(u"runs"_s).toUtf8();
+        writeBytes(options.importProgram,
+                   "#!/bin/sh\necho \"$3:$LUMEN_IMPORT_PASSWORD\" >> '" + log + "'\n" + commands);
+        QFile::setPermissions(options.importProgram, QFile::ReadOwner | QFile::ExeOwner);
+    }
+    QByteArrayList runs() const
+    {
+        if (!QFile::exists(rootFile(u"runs"_s)))
+            return {};
+        return fileBytes(rootFile(u"runs"_s)).trimmed().split('\n');
+    }
+
+    /// A store as the script makes it.
+    const QByteArray m_makeStore = "printf 'SQLite format 3\\000made' > \"$6\"\n";
+    const QByteArray m_store = QByteArray("SQLite format 3\0made", 20);
+};
+
+TEST_F(ScriptedImportTest, AModuleIsConvertedIntoTheCacheOnceForItsContent)
+{
+    importRuns(m_makeStore);
+    const QString module = dataFile(u"101.dts"_s);
+    writeBytes(module, headerOnly());
+
+    const QString store = openableStore(module, {}, options);
+    EXPECT_EQ(fileBytes(store), m_store);
+    EXPECT_TRUE(store.startsWith(options.cacheFolder + u'/'));
+    EXPECT_EQ(openableStore(module, {}, options), store);
+    EXPECT_EQ(runs(), QByteArrayList{"binary:"});
+    EXPECT_EQ(fileBytes(module), headerOnly());
+
+    writeBytes(module, headerOnly() + QByteArray(4096, 'x'));
+    const QString newStore = openableStore(module, {}, options);
+    EXPECT_NE(newStore, store);
+    EXPECT_EQ(runs().size(), 2);
+    EXPECT_FALSE(QFile::exists(store)) << "the store of the former content is of no use";
+}
+
+TEST_F(ScriptedImportTest, AUserDatabaseIsReplacedAndItsOriginalKept)
+{
+    importRuns(m_makeStore);
+    const QList<std::pair<QString, QByteArray>> cases{{u"설교매니저.mdb"_s, "text:"},
+                                                      {u"QT.MDB"_s, "text:"},
+                                                      {u"예화.dts"_s, "text:"},
+                                                      {u"z199.dts"_s, "binary:"}};
+    for (const auto& [name, run] : cases) {
+        SCOPED_TRACE(qPrintable(name));
+        const QString path = dataFile(name);
+        writeBytes(path, headerOnly());
+        EXPECT_EQ(openableStore(path, {}, options), path);
+        EXPECT_EQ(fileBytes(path), m_store);
+        EXPECT_EQ(fileBytes(path + u".jet"_s), headerOnly());
+        EXPECT_EQ(runs().last(), run);
+        EXPECT_EQ(openableStore(path, {}, options), path);
+    }
+    EXPECT_EQ(runs().size(), cases.size()) << "a store is not converted again";
+    EXPECT_EQ(filesLeft().size(), 2 * cases.size());
+}
+
+TEST_F(ScriptedImportTest, AnEarlierOriginalIsNeverOverwritten)
+{
+    importRuns(m_makeStore);
+    const QString path = dataFile(u"qt.mdb"_s);
+    writeBytes(path, headerOnly());
+    writeBytes(path + u".jet"_s, "first");
+    writeBytes(path + u".2.jet"_s, "second");
+    openableStore(path, {}, options);
+    EXPECT_EQ(fileBytes(path + u".jet"_s), "first");
+    EXPECT_EQ(fileBytes(path + u".2.jet"_s), "second");
+    EXPECT_EQ(fileBytes(path + u".3.jet"_s), headerOnly());
+}
+
+TEST_F(ScriptedImportTest, EveryBadEndOfTheProgramLeavesTheOriginalAlone)
+{
+    struct Case
+    {
+        QByteArray commands;
+        int error;
+    };
+    const QList<Case> cases{
+        {m_makeStore + "exit 3\n", ErrorNumber::kNotADatabase},
+        {m_makeStore + "exit 4\n", ErrorNumber::kWrongPassword},
+        {m_makeStore + "exit 5\n", ErrorNumber::kWriteFailed},
+        {m_makeStore + "exit 77\n", ErrorNumber::kNotADatabase},
+        {m_makeStore + "kill -SEGV $$\n", ErrorNumber::kNotADatabase},
+        {"touch \"$6-journal\" \"$(dirname \"$6\")/.half\"; exit 3\n", ErrorNumber::kNotADatabase},
+        {"exit 0\n", ErrorNumber::kNotADatabase}, // all is well, it says, and has made nothing
+    };
+    for (const QString& name : {u"myc.mdb"_s, u"101.dts"_s}) {
+        const QString path = dataFile(name);
+        writeBytes(path, headerOnly());
+        for (const Case& ending : cases) {
+            SCOPED_TRACE(qPrintable(name + u": "_s) + ending.commands.toStdString());
+            importRuns(ending.commands);
+            EXPECT_EQ(openingError(path), ending.error);
+            EXPECT_EQ(fileBytes(path), headerOnly());
+            EXPECT_EQ(filesLeft(), QStringList{name});
+            QFile::remove(options.importProgram);
+        }
+        QFile::remove(path);
+    }
+}
+
+TEST_F(ScriptedImportTest, AProgramThatIsNotThereIsAnErrorWithText)
+{
+    options.importProgram = rootFile(u"absent"_s);
+    const QString path = dataFile(u"myc.mdb"_s);
+    writeBytes(path, headerOnly());
+    EXPECT_EQ(openingError(path), ErrorNumber::kNotADatabase);
+    EXPECT_EQ(filesLeft(), QStringList{u"myc.mdb"_s});
+}
+
+TEST_F(ScriptedImportTest, ThePasswordIsComparedBeforeAnythingRuns)
+{
+    importRuns(m_makeStore);
+    const QString path = dataFile(u"myc.mdb"_s);
+    writeBytes(path, headerOnly(u"secret"_s));
+    EXPECT_EQ(openingError(path), ErrorNumber::kWrongPassword);
+    EXPECT_EQ(openingError(path, u"Secret"_s), ErrorNumber::kWrongPassword);
+    EXPECT_EQ(filesLeft(), QStringList{u"myc.mdb"_s});
+    EXPECT_TRUE(runs().isEmpty());
+
+    EXPECT_EQ(openingError(path, u"secret"_s), 0);
+    EXPECT_EQ(runs(), QByteArrayList{"text:secret"});
+}
+
+TEST_F(ScriptedImportTest, ACachedModuleStillAsksForItsPassword)
+{
+    importRuns(m_makeStore);
+    const QString path = dataFile(u"101.dts"_s);
+    writeBytes(path, headerOnly(u"secret"_s));
+    EXPECT_EQ(openingError(path, u"secret"_s), 0);
+    EXPECT_EQ(openingError(path, u"other"_s), ErrorNumber::kWrongPassword);
+}
+
+TEST_F(ScriptedImportTest, AFolderLeftByAKilledImportIsTakenAwayOnceItIsOld)
+{
+    importRuns(m_makeStore);
+    const QString path = dataFile(u"myc.mdb"_s);
+    writeBytes(path, headerOnly());
+    const QString stale = dataFile(u".lumen-import-old"_s);
+    const QString fresh = dataFile(u".lumen-import-new"_s);
+    QDir().mkdir(stale);
+    QDir().mkdir(fresh);
+    writeBytes(stale + u"/store"_s, "half");
+    // Opening a folder as a QFile can't set times, so the shell does.
+    ASSERT_EQ(std::system(("touch -d '3 days ago' '" + stale.toUtf8() + "'").constData()), 0);
+    openableStore(path, {}, options);
+    EXPECT_FALSE(QFileInfo::exists(stale));
+    EXPECT_TRUE(QFileInfo::exists(fresh)) << "another program may be at work in it";
+}
+
+/// The genuine import program on files that no engine wrote.
+using DamagedFileTest = ImportTest;
+
+TEST_F(DamagedFileTest, FilesThatAreNoJetFilesNeverReachTheProgram)
+{
+    options.importProgram = u"/bin/false"_s;
+    EXPECT_EQ(openingError(dataFile(u"absent.mdb"_s)), ErrorNumber::kFileNotFound);
+    const QList<QByteArray> contents{"", "x", "SQLite format 3", QByteArray(8192, '\0'),
+                                     headerOnly().left(0x60)};
+    for (const QByteArray& bytes : contents) {
+        SCOPED_TRACE(bytes.left(20).toHex().toStdString());
+        const QString path = dataFile(u"myc.mdb"_s);
+        writeBytes(path, bytes);
+        EXPECT_EQ(openingError(path), ErrorNumber::kNotADatabase);
+        EXPECT_EQ(fileBytes(path), bytes);
+    }
+}
+
+TEST_F(DamagedFileTest, AnythingBehindAValidHeaderEndsInAnErrorAndChangesNothing)
+{
+    const QString program = findImportProgram();
+    ASSERT_FALSE(program.isEmpty());
+    quint32 seed = 20030501;
+    const auto random = [&seed](qsizetype count) {
+        QByteArray bytes(count, '\0');
+        for (char& byte : bytes) {
+            seed = seed * 1664525U + 1013904223U;
+            byte = static_cast<char>(seed >> 24);
+        }
+        return bytes;
+    };
+    for (const int version : {0, 1})
+        for (const qsizetype length : {0, 1, 100, 2048, 4096, 20'000, 300'000})
+            for (const bool coded : {false, true}) {
+                SCOPED_TRACE(testing::Message() << version << ' ' << length << ' ' << coded);
+                const QByteArray bytes = JetHeaderMaker(version)
+                                             .pageKey(coded ? 77 : 0)
+                                             .page()
+                                             .left(version ? 4096 : 2048) +
+                                         random(length);
+                const QString path = dataFile(u"myc.mdb"_s);
+                writeBytes(path, bytes);
+                EXPECT_EQ(openingError(path), ErrorNumber::kNotADatabase);
+                EXPECT_EQ(fileBytes(path), bytes);
+                EXPECT_EQ(filesLeft(), QStringList{u"myc.mdb"_s});
+            }
+}
+
+} // namespace
+} // namespace lumen
