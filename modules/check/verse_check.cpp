@@ -75,13 +75,27 @@ QStringList VerseCheck::deviations() const
 QStringList VerseCheck::chapterDeviations(int book) const
 {
     QStringList lines;
+    int firstAbsent = 0;
+    const auto closeRun = [&lines, &firstAbsent](int lastAbsent) {
+        if (firstAbsent == 0)
+            return;
+        lines << (firstAbsent == lastAbsent ? u"%1장 없음"_s.arg(firstAbsent)
+                                            : u"%1-%2장 없음"_s.arg(firstAbsent).arg(lastAbsent));
+        firstAbsent = 0;
+    };
     for (int chapter = 1; chapter <= chapterCount(book); ++chapter) {
         const auto found = m_counts.find({book, chapter});
-        const int verses = found == m_counts.end() ? 0 : found->second;
-        if (verses != verseCount(book, chapter))
-            lines << u"%1장 %2절(기준 %3절)"_s.arg(chapter).arg(verses).arg(
-                verseCount(book, chapter));
+        if (found == m_counts.end()) {
+            firstAbsent = firstAbsent == 0 ? chapter : firstAbsent;
+            continue;
+        }
+        closeRun(chapter - 1);
+        if (found->second != verseCount(book, chapter))
+            lines << u"%1장 %2절(기준 %3절)"_s.arg(chapter)
+                         .arg(found->second)
+                         .arg(verseCount(book, chapter));
     }
+    closeRun(chapterCount(book));
     return lines;
 }
 

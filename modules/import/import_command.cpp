@@ -20,7 +20,7 @@ QString usage()
 {
     return uR"(사용법: lumen-modules import [선택 사항] 원본 대상
 
-Jet 데이터베이스(Access 97, 2000~2003의 .mdb와 .dts)를 이 프로그램의 파일로 바꿉니다.
+Jet 데이터베이스(97 형식과 2000~2003 형식의 .mdb와 .dts)를 이 프로그램의 파일로 바꿉니다.
 원본은 고치지 않으며, 대상 파일이 이미 있으면 바꾸지 않고 끝납니다.
 
   --password 암호   데이터베이스의 암호. 환경 변수 LUMEN_IMPORT_PASSWORD로도 줄 수 있습니다.

@@ -101,7 +101,9 @@ int JetTable::columnNamed(QStringView name) const
 std::vector<IndexDef> JetTable::indexes()
 {
     std::vector<IndexDef> result;
-    const GPtrArray* indexes = m_table->num_idxs ? mdb_read_indices(m_table.get()) : nullptr;
+    if (m_table->num_idxs != 0)
+        mdb_read_indices(m_table.get()); // has no result of use
+    const GPtrArray* indexes = m_table->indices;
     // The array's own length counts: the definition's number may include deleted indexes.
     for (guint i = 0; indexes && i < indexes->len; ++i) {
         const auto* index = static_cast<const MdbIndex*>(g_ptr_array_index(indexes, i));

@@ -2,6 +2,7 @@
 #include "platform/jet/jet_import.h"
 
 #include "platform/jet/jet_error.h"
+#include "platform/jet/jet_header.h"
 #include "platform/log.h"
 
 #include <QCoreApplication>
@@ -107,6 +108,8 @@ void convertJetFile(const JetConversion& conversion, const QString& importProgra
         throwFailure(ImportExit::Damaged, conversion.source);
     if (child.exitCode() != static_cast<int>(ImportExit::Done))
         throwFailure(static_cast<ImportExit>(child.exitCode()), conversion.source);
+    if (databaseKind(readDatabaseHead(conversion.destination)) != DatabaseKind::Store)
+        throwFailure(ImportExit::Damaged, conversion.source);
 }
 
 } // namespace lumen
