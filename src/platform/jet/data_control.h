@@ -5,10 +5,19 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace lumen {
 
 class JetEngine;
+
+/// A control that shows one column of a data control's current record and gives it back.
+struct BoundColumn
+{
+    QString dataField;
+    std::function<void(const QVariant&)> show; ///< gets a null QVariant without a record
+    std::function<QVariant()> read;
+};
 
 /// A data control: name, connect string and source are plain text until Refresh opens them.
 class DataControl
@@ -35,15 +44,28 @@ public:
     /// Closes recordset and database, so that the file is free.
     void Close();
 
-    /// Called after Refresh and setRecordset.
+    /// Shows the column at each reposition, and writes what the control holds into the edit buffer
+    /// at each Update, whatever began the edit.
+    void bind(BoundColumn column);
+    /// To be called when the user changed a bound control: begins an edit when none runs.
+    void boundChanged();
+
+    /// Called after Refresh, setRecordset and each move of the recordset.
     std::function<void()> onReposition;
 
 private:
+    void adopt(std::unique_ptr<lumen::Recordset> recordset);
+    void reposition();
+    void writeBound();
+
     JetEngine& m_engine;
     std::unique_ptr<lumen::Database> m_database;
     std::unique_ptr<lumen::Recordset> m_recordset;
     QString m_openName;
     QString m_openConnect;
+    bool m_openReadOnly = false;
+    std::vector<BoundColumn> m_bound;
+    bool m_showing = false; ///< controls that report their filling are not the user
 };
 
 } // namespace lumen

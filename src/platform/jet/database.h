@@ -10,6 +10,7 @@
 namespace lumen {
 
 class Connection; // the shared SQLite connection of one file; connection.h
+class OpenRecordsets;
 
 /// What a table recordset needs to be told apart from a query.
 enum class RecordsetType { Automatic, Table, Dynaset };
@@ -36,7 +37,8 @@ private:
 class Database
 {
 public:
-    explicit Database(std::shared_ptr<Connection> connection);
+    /// A read-only database refuses writes (3027) also when others write to the file.
+    explicit Database(std::shared_ptr<Connection> connection, bool readOnly = false);
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
@@ -48,14 +50,26 @@ public:
     void Execute(const QString& sql);
     int RecordsAffected() const { return m_recordsAffected; }
     lumen::TableDefs TableDefs() const;
-    /// Makes the writes since `BeginTrans` one step on disk; an exception in between rolls back.
+    /// Makes the writes since BeginTrans one step on disk. When an exception or Close comes in
+    /// between they are undone, by JetEngine::rollbackAll at the latest.
     void BeginTrans();
     void CommitTrans();
     void Rollback();
+    /// Commits and closes the recordsets that came from here; any further use is error 3420. The
+    /// destructor commits nothing: writes that nobody has ended wait for the event loop.
     void Close();
+    /// Lets go of the database without closing its recordsets, which then keep the file open.
+    void release();
 
 private:
+    Connection& open() const;
+    Connection& writable() const;
+    void closeRecordsets();
+
     std::shared_ptr<Connection> m_connection;
+    std::shared_ptr<OpenRecordsets> m_recordsets;
+    bool m_readOnly;
+    bool m_inTransaction = false;
     int m_recordsAffected = 0;
 };
 

@@ -7,11 +7,13 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace lumen {
 
 class ConnectionPool;
+class JetError;
 
 /// Where the engine finds its import program and keeps what it converted.
 struct JetEngineOptions
@@ -51,13 +53,22 @@ public:
     bool isOpen(const QString& nativePath) const override;
     void commitPending(const QString& nativePath) override;
 
-    /// The shared connection of a file; for data controls.
-    std::shared_ptr<Connection> connect(const QString& path, const QString& connect, bool readOnly);
+    /// The shared connection of a file; for data controls. Whether its user may write is that
+    /// user's own affair.
+    std::shared_ptr<Connection> connect(const QString& path, const QString& connect);
+
+    /// Is told when writes could not be brought to disk behind a handler's back, on return to the
+    /// event loop; without it the failure only goes to the log. The writes are undone.
+    void setCommitFailed(std::function<void(const JetError&)> report);
 
 private:
+    QString existingFile(const QString& path) const;
+    QString storeOf(const QString& native, const QString& password) const;
+
     const PathResolver& m_paths;
     JetEngineOptions m_options;
     std::unique_ptr<ConnectionPool> m_pool;
+    std::function<void(const JetError&)> m_commitFailed;
     QString m_defaultUser;
     QString m_defaultPassword;
 };

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 
 namespace lumen {
@@ -30,6 +31,13 @@ enum class FieldType {
 enum class EditMode { None = 0, Edit = 1, Add = 2 };
 
 class Recordset;
+
+/// What a data control is told by its recordset.
+struct RecordsetWatch
+{
+    std::function<void()> onReposition; ///< behind each move
+    std::function<void()> beforeUpdate; ///< bound columns go into the edit buffer here
+};
 
 /// One column of the current record (or of the edit buffer while an edit runs). A light value that
 /// must not outlive its recordset.
@@ -112,6 +120,9 @@ public:
     /// Table recordsets only: the index by name, then Seek with comparison "=" and a value.
     void setIndex(const QString& name);
     void Seek(const QString& comparison, const QVariant& value);
+
+    /// For the data control that owns the recordset.
+    void setWatch(RecordsetWatch watch);
 
     /// Commits what this recordset wrote; any further use is error 3420.
     void Close();

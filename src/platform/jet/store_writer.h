@@ -37,7 +37,7 @@ struct TableSchema
 {
     QString name;
     std::vector<ColumnDef> columns;
-    std::vector<IndexDef> indexes;
+    std::vector<IndexDef> indexes{};
 };
 
 /// Writes a new store: tables, indexes, rows, password and origin go into a temporary file beside

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/jet/compact.h"
+
+#include "platform/jet/jet_error.h"
+#include "platform/jet/jet_functions.h"
+#include "platform/jet/pending_file.h"
+#include "platform/jet/sqlite_statement.h"
+#include "platform/jet/store_layout.h"
+
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kBusyMs = 2000;
+
+void checkIntegrity(const SqliteHandle& handle)
+{
+    SqliteStatement statement(handle.get(), "PRAGMA integrity_check(1)");
+    if (!statement.step() || statement.text(0) != u"ok")
+        throw jetError(ErrorNumber::kCorrupt, statement.text(0));
+}
+
+void setPassword(const QString& store, const QString& password)
+{
+    const SqliteHandle handle(store, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
+    handle.run("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;"
+               "CREATE TABLE IF NOT EXISTS MSysStore (key TEXT PRIMARY KEY, value)");
+    SqliteStatement statement(handle.get(), "INSERT OR REPLACE INTO MSysStore VALUES (?, ?)");
+    statement.bindAll({StoreLayout::kPasswordKey.toString(),
+                       password.isEmpty() ? QVariant() : QVariant(password)});
+    statement.execute();
+}
+
+} // namespace
+
+void compactStore(const QString& store, const QString& destination,
+                  const std::optional<QString>& newPassword)
+{
+    if (QFileInfo::exists(destination))
+        throw jetError(ErrorNumber::kDestinationExists, destination);
+    // Opened for writing where possible, so that what a crash left half-written is undone first.
+    const int mode = QFileInfo(store).isWritable() ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
+    PendingFile copy(destination);
+    {
+        const SqliteHandle handle(store, mode | SQLITE_OPEN_NOMUTEX);
+        sqlite3_busy_timeout(handle.get(), kBusyMs);
+        registerJetFunctions(handle.get());
+        checkIntegrity(handle);
+        SqliteStatement vacuum(handle.get(), "VACUUM INTO ?");
+        vacuum.bind(1, QVariant(copy.path()));
+        vacuum.execute();
+    }
+    if (newPassword)
+        setPassword(copy.path(), *newPassword);
+    copy.takeName(PendingFile::Existing::Refuse);
+}
+
+} // namespace lumen

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/jet/data_control.h"
+
+#include "platform/jet/jet_engine.h"
+
+#include <QScopedValueRollback>
+
+namespace lumen {
+
+DataControl::~DataControl()
+{
+    // The reposition handler belongs to a window that is being taken apart.
+    if (m_recordset && !m_recordset->isClosed())
+        m_recordset->setWatch({});
+    m_recordset.reset();
+    if (m_database)
+        m_database->release();
+}
+
+void DataControl::Refresh()
+{
+    std::unique_ptr<lumen::Database> opened;
+    const bool same = m_database && DatabaseName == m_openName && Connect == m_openConnect &&
+                      ReadOnly == m_openReadOnly;
+    if (!same)
+        opened =
+            std::make_unique<lumen::Database>(m_engine.connect(DatabaseName, Connect), ReadOnly);
+    auto recordset = (same ? m_database : opened)->OpenRecordset(RecordSource);
+    if (opened) {
+        // Recordsets that others have made from the former one go on with its file.
+        m_recordset.reset();
+        if (m_database)
+            m_database->release();
+        m_database = std::move(opened);
+        m_openName = DatabaseName;
+        m_openConnect = Connect;
+        m_openReadOnly = ReadOnly;
+    }
+    adopt(std::move(recordset));
+}
+
+void DataControl::setRecordset(std::unique_ptr<lumen::Recordset> recordset)
+{
+    adopt(std::move(recordset));
+}
+
+void DataControl::adopt(std::unique_ptr<lumen::Recordset> recordset)
+{
+    m_recordset = std::move(recordset);
+    if (m_recordset)
+        m_recordset->setWatch({[this] { reposition(); }, [this] { writeBound(); }});
+    reposition();
+}
+
+void DataControl::Close()
+{
+    if (m_recordset)
+        m_recordset->Close();
+    m_recordset.reset();
+    if (m_database)
+        m_database->Close();
+    m_database.reset();
+}
+
+void DataControl::bind(BoundColumn column)
+{
+    m_bound.push_back(std::move(column));
+}
+
+void DataControl::boundChanged()
+{
+    if (!m_showing && m_recordset && m_recordset->AbsolutePosition() >= 0 &&
+        m_recordset->editMode() == EditMode::None)
+        m_recordset->Edit();
+}
+
+void DataControl::reposition()
+{
+    {
+        const QScopedValueRollback showing(m_showing, true);
+        const bool hasRecord = m_recordset && m_recordset->AbsolutePosition() >= 0;
+        for (const BoundColumn& column : m_bound)
+            column.show(hasRecord ? m_recordset->Fields(column.dataField).Value() : QVariant());
+    }
+    if (onReposition)
+        onReposition();
+}
+
+void DataControl::writeBound()
+{
+    for (const BoundColumn& column : m_bound)
+        m_recordset->Fields(column.dataField).setValue(column.read());
+}
+
+} // namespace lumen

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/jet/jet_engine.h"
+
+#include "platform/jet/compact.h"
+#include "platform/jet/connect_string.h"
+#include "platform/jet/connection_pool.h"
+#include "platform/jet/jet_error.h"
+#include "platform/jet/jet_importer.h"
+#include "platform/log.h"
+
+#include <QFileInfo>
+
+namespace lumen {
+
+JetEngine::JetEngine(const PathResolver& paths, JetEngineOptions options)
+    : m_paths(paths), m_options(std::move(options)),
+      m_pool(std::make_unique<ConnectionPool>([this](const JetError& error) {
+          qCWarning(jetLog) << "writes were undone:" << error.what();
+          if (m_commitFailed)
+              m_commitFailed(error);
+      }))
+{
+}
+
+JetEngine::~JetEngine() = default;
+
+void JetEngine::setCommitFailed(std::function<void(const JetError&)> report)
+{
+    m_commitFailed = std::move(report);
+}
+
+QString JetEngine::existingFile(const QString& path) const
+{
+    const QString native = m_paths.nativePath(path);
+    if (native.isEmpty() || !QFileInfo(native).isFile())
+        throw jetError(ErrorNumber::kFileNotFound, path);
+    return ConnectionPool::canonical(native);
+}
+
+/// The store to open for a file, in canonical form as the pool compares it.
+QString JetEngine::storeOf(const QString& native, const QString& password) const
+{
+    return ConnectionPool::canonical(openableStore(native, password, m_options));
+}
+
+std::shared_ptr<Connection> JetEngine::connect(const QString& path, const QString& connect)
+{
+    const QString native = existingFile(path);
+    const QString password = passwordOf(connect).value_or(QString());
+    auto connection = m_pool->find(native);
+    if (connection && connection->isExclusive())
+        throw jetError(ErrorNumber::kAlreadyInUse, path);
+    if (!connection)
+        connection = m_pool->open({native, storeOf(native, password)});
+    if (!connection->takesPassword(password))
+        throw jetError(ErrorNumber::kWrongPassword, path);
+    return connection;
+}
+
+std::unique_ptr<Database> JetEngine::OpenDatabase(const QString& path, bool exclusive,
+                                                  bool readOnly, const QString& connect)
+{
+    if (exclusive && m_pool->find(existingFile(path)))
+        throw jetError(ErrorNumber::kAlreadyInUse, path);
+    auto connection = this->connect(path, connect);
+    if (exclusive)
+        connection->setExclusive();
+    return std::make_unique<Database>(std::move(connection), readOnly);
+}
+
+void JetEngine::CompactDatabase(const QString& src, const QString& dst, const QString& locale,
+                                const QString& password)
+{
+    const QString native = existingFile(src);
+    const QString destination = m_paths.nativePath(dst);
+    if (destination.isEmpty())
+        throw jetError(ErrorNumber::kFileNotFound, dst);
+    if (QFileInfo::exists(destination))
+        throw jetError(ErrorNumber::kDestinationExists, dst);
+    if (m_pool->find(native))
+        throw jetError(ErrorNumber::kOpenElsewhere, src);
+    const QString given =
+        passwordOf(password).value_or(password.isEmpty() ? m_defaultPassword : password);
+    const QString store = storeOf(native, given);
+    // Opening it tells whether the password is right and undoes what a crash left.
+    if (!Connection({native, store}, {}).takesPassword(given))
+        throw jetError(ErrorNumber::kWrongPassword, src);
+    compactStore(store, destination, passwordOf(locale));
+}
+
+void JetEngine::commitAll()
+{
+    for (const auto& connection : m_pool->all())
+        connection->commitImplicit();
+}
+
+void JetEngine::rollbackAll()
+{
+    for (const auto& connection : m_pool->all())
+        connection->rollback();
+}
+
+bool JetEngine::isOpen(const QString& nativePath) const
+{
+    return m_pool->find(nativePath) != nullptr;
+}
+
+void JetEngine::commitPending(const QString& nativePath)
+{
+    if (const auto connection = m_pool->find(nativePath))
+        connection->commitImplicit();
+}
+
+} // namespace lumen

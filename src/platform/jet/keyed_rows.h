@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/jet/connection.h"
+#include "platform/jet/row_set.h"
+#include "platform/jet/sql_translator.h"
+
+#include <memory>
+#include <vector>
+
+namespace lumen {
+
+/// Rows of one table: the rowids are read at opening, the values when a row is asked for. Walking
+/// reads ahead, since the lock that a read takes costs more than a row.
+class KeyedRows : public RowSet
+{
+public:
+    KeyedRows(std::shared_ptr<Connection> connection, const TableInfo& table,
+              std::vector<ResultColumn> columns, std::vector<qint64> keys);
+
+    int count() const override { return static_cast<int>(m_keys.size()); }
+    qint64 key(int index) const override { return m_keys[static_cast<std::size_t>(index)]; }
+    const Row& row(int index) override;
+    int indexOf(qint64 key, int hint) const override;
+
+    const std::vector<qint64>& keys() const { return m_keys; }
+    void append(qint64 key);
+    void remove(int index);
+
+    /// The keys in the order of a query.
+    static std::vector<qint64> readKeys(Connection& connection, const KeyQuery& query);
+    /// Those of `keys` whose rows meet a criterion, in the same order.
+    static std::vector<qint64> filtered(Connection& connection, const TableInfo& table,
+                                        const std::vector<ResultColumn>& columns,
+                                        const std::vector<qint64>& keys, const QString& criterion);
+
+private:
+    void fill(int index);
+    bool readRow(SqliteStatement& statement, int index);
+
+    std::shared_ptr<Connection> m_connection;
+    std::vector<ResultColumn> m_columns;
+    QByteArray m_rowSql;
+    std::vector<qint64> m_keys;
+    bool m_ascending = true;
+
+    struct CachedRow
+    {
+        int index = -1;
+        Row values;
+    };
+    std::vector<CachedRow> m_cache;
+    std::size_t m_cacheSize = 0;
+    quint64 m_cacheChanges = 0;
+    int m_lastIndex = -2;
+};
+
+} // namespace lumen

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/jet/row_set.h"
+
+#include <atomic>
+
+namespace lumen {
+
+namespace {
+
+quint32 nextSerial()
+{
+    static std::atomic<quint32> last = 0;
+    return ++last;
+}
+
+} // namespace
+
+RowSet::RowSet() : m_serial(nextSerial()) {}
+
+void RowSet::shiftCursors(int removed) const
+{
+    for (Cursor* cursor : m_cursors) {
+        const bool here = cursor->place == Cursor::Place::Record && cursor->index == removed;
+        if (here)
+            cursor->place = Cursor::Place::Deleted;
+        else if (cursor->index > removed)
+            --cursor->index;
+    }
+}
+
+} // namespace lumen
