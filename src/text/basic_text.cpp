@@ -52,34 +52,37 @@ double radixNumber(const QByteArray& digits, int base)
     return value;
 }
 
-// The longest prefix that is a decimal number; "D" marks an exponent as "E" does.
+qsizetype digitsEnd(const QByteArray& text, qsizetype at)
+{
+    while (at < text.size() && isDigit(text[at]))
+        ++at;
+    return at;
+}
+
+// The exponent of a number that ends at a place, "" when none follows; "D" marks one as "E" does.
+QByteArray exponentAt(const QByteArray& head, qsizetype at)
+{
+    if (at >= head.size() || !QByteArrayView("eEdD").contains(head[at]))
+        return {};
+    qsizetype first = at + 1;
+    if (first < head.size() && (head[first] == '+' || head[first] == '-'))
+        ++first;
+    const qsizetype end = digitsEnd(head, first);
+    return end > first ? 'e' + head.sliced(at + 1, end - at - 1) : QByteArray();
+}
+
+// The longest prefix that is a decimal number.
 QByteArray decimalPrefix(const QByteArray& head)
 {
-    qsizetype at = head.startsWith('-') || head.startsWith('+') ? 1 : 0;
-    bool point = false;
-    int digits = 0;
-    for (; at < head.size(); ++at) {
-        if (head[at] == '.' && !point)
-            point = true;
-        else if (isDigit(head[at]))
-            ++digits;
-        else
-            break;
+    const qsizetype start = head.startsWith('-') || head.startsWith('+') ? 1 : 0;
+    qsizetype end = digitsEnd(head, start);
+    qsizetype digits = end - start;
+    if (end < head.size() && head[end] == '.') {
+        const qsizetype point = end;
+        end = digitsEnd(head, point + 1);
+        digits += end - point - 1;
     }
-    if (digits == 0)
-        return "0";
-    QByteArray number = head.first(at);
-    if (at < head.size() && QByteArrayView("eEdD").contains(head[at])) {
-        qsizetype end = at + 1;
-        if (end < head.size() && (head[end] == '+' || head[end] == '-'))
-            ++end;
-        const qsizetype firstDigit = end;
-        while (end < head.size() && isDigit(head[end]))
-            ++end;
-        if (end > firstDigit)
-            number += 'e' + head.sliced(at + 1, end - at - 1);
-    }
-    return number;
+    return digits > 0 ? head.first(end) + exponentAt(head, end) : QByteArray("0");
 }
 
 // The digits of a number without trailing zeros, and the power of ten of the first of them.
