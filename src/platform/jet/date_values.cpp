@@ -155,7 +155,7 @@ QString dayText(double dayNumber)
 {
     const QDateTime moment = momentOf(dayNumber);
     if (!moment.isValid())
-        return numberText(dayNumber);
+        return sqlNumber(dayNumber);
     const bool midnight = moment.time() == QTime(0, 0);
     return moment.toString(midnight ? u"yyyy-MM-dd"_s : u"yyyy-MM-dd HH:mm:ss"_s);
 }

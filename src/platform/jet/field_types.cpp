@@ -120,7 +120,7 @@ QString asText(const QVariant& value)
     switch (value.typeId()) {
     case QMetaType::Float:
     case QMetaType::Double:
-        return numberText(value.toDouble());
+        return sqlNumber(value.toDouble());
     case QMetaType::Bool:
         return value.toBool() ? u"True"_s : u"False"_s;
     case QMetaType::QDate:
@@ -195,7 +195,7 @@ std::optional<double> parseNumber(QByteArrayView utf8)
     return number;
 }
 
-QString numberText(double number)
+QString sqlNumber(double number)
 {
     return QString::number(number, 'g', std::numeric_limits<double>::digits10);
 }

@@ -48,6 +48,6 @@ std::optional<double> parseDate(QStringView text);
 /// The number that the trimmed text is as a whole; "12a" and "" are none.
 std::optional<double> parseNumber(QByteArrayView utf8);
 /// A number as text without an exponent where 15 digits do: "12", "1.5".
-QString numberText(double number);
+QString sqlNumber(double number);
 
 } // namespace lumen

@@ -90,7 +90,7 @@ void asText(sqlite3_context* context, int, sqlite3_value** arguments)
 {
     if (sqlite3_value_type(arguments[0]) == SQLITE_FLOAT)
         shielded(context,
-                 [&] { giveText(context, numberText(sqlite3_value_double(arguments[0]))); });
+                 [&] { giveText(context, sqlNumber(sqlite3_value_double(arguments[0]))); });
     else if (!isNull(arguments[0]))
         shielded(context, [&] {
             const std::string_view text = utf8Of(arguments[0]);

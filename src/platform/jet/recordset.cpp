@@ -52,7 +52,7 @@ QString Text(const Field& field)
 {
     const QVariant value = field.Value();
     if (value.typeId() == QMetaType::Double)
-        return numberText(value.toDouble());
+        return sqlNumber(value.toDouble());
     return value.toString();
 }
 

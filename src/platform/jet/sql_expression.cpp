@@ -54,7 +54,7 @@ std::optional<QString> constantText(const SqlNode& node)
         QString whole = u""_s;
         for (const SqlNode& part : node.children) {
             const auto text =
-                part.kind == NodeKind::Number ? numberText(part.number) : constantText(part);
+                part.kind == NodeKind::Number ? sqlNumber(part.number) : constantText(part);
             if (!text)
                 return std::nullopt;
             whole += *text;
