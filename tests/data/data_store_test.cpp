@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "data/compact_and_backup.h"
+#include "data/data_store.h"
+#include "platform/jet/jet_engine.h"
+#include "platform/jet/jet_error.h"
+#include "support/test_services.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+class DataStoreTest : public testing::Test
+{
+protected:
+    void create()
+    {
+        ASSERT_TRUE(createUserDatabases(services.state.AppPath, services.files, services.drives,
+                                        QDate(2003, 5, 1)));
+    }
+
+    static QString path(const QString& name) { return u"C:\\lumenscript\\Data\\"_s + name; }
+    static QString backup(const QString& name) { return u"C:\\OrvaneBackup\\"_s + name; }
+
+    std::unique_ptr<Database> open(const QString& file, const QString& connect = {})
+    {
+        return services.jet.OpenDatabase(file, false, false, connect);
+    }
+
+    // Adds a note and gives the notes that a file holds.
+    void addNote(const QString& text)
+    {
+        const auto database = open(path(u"myc.mdb"_s));
+        const auto notes = database->OpenRecordset(u"select * from myc"_s);
+        notes->AddNew();
+        notes->Fields(u"Index").setValue(u"창1:1"_s);
+        notes->Fields(u"seq").setValue(notes->RecordCount());
+        notes->Fields(u"note").setValue(text);
+        notes->Update();
+        notes->Close();
+        database->Close();
+    }
+    QStringList notes(const QString& file)
+    {
+        QStringList result;
+        const auto database = open(file);
+        const auto rows = database->OpenRecordset(u"select * from myc order by seq"_s);
+        while (!rows->Eof()) {
+            result << Text(rows->Fields(u"note"));
+            rows->MoveNext();
+        }
+        return result;
+    }
+    QByteArray bytes(const QString& file)
+    {
+        const Result<QByteArray> read = services.files.readAll(file);
+        return read ? read.value() : QByteArray();
+    }
+    void closeProgram(const UserFile& file)
+    {
+        CompactAndBackup(services.state.AppPath, file, services.jet, services.files);
+    }
+
+    TestServices services;
+};
+
+TEST_F(DataStoreTest, AFirstStartMakesEveryUserDatabase)
+{
+    create();
+    struct Row
+    {
+        QString file;
+        QString table;
+        QString connect;
+        QStringList columns;
+        int rows;
+    };
+    const QString password = u";uid=admin;pwd=qolvetrinam"_s;
+    const Row rows[] = {
+        {u"myc.mdb"_s, u"myc"_s, {}, {u"Index"_s, u"seq"_s, u"note"_s}, 0},
+        {u"설교매니저.mdb"_s,
+         u"설교"_s,
+         {},
+         {u"일련번호"_s, u"제목"_s, u"rtf제목"_s, u"말씀"_s, u"rtf말씀"_s, u"본문"_s, u"rtf본문"_s,
+          u"기도"_s, u"rtf기도"_s, u"요약"_s, u"rtf요약"_s, u"분류"_s, u"설교일"_s, u"작성일"_s},
+         1},
+        {u"QT.mdb"_s,
+         u"QT"_s,
+         {},
+         {u"일련번호"_s, u"제목"_s, u"rtf제목"_s, u"말씀"_s, u"rtf말씀"_s, u"본문"_s, u"rtf본문"_s,
+          u"기도"_s, u"rtf기도"_s, u"적용"_s, u"rtf적용"_s, u"분류"_s, u"작성일"_s},
+         1},
+        {u"전자우편주소록.mdb"_s,
+         u"전자우편주소록"_s,
+         {},
+         {u"ID"_s, u"성명"_s, u"전자우편"_s, u"메모"_s},
+         0},
+        {u"예화.dts"_s, u"예화"_s, password, {u"num"_s, u"Title"_s, u"Category"_s, u"cont"_s}, 0},
+        {u"z199.dts"_s, u"Table0"_s, password, {u"Index"_s}, 0},
+        {u"z199.dts"_s, u"Table10"_s, password, {u"Index"_s}, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE((row.file + u' ' + row.table).toStdString());
+        const auto database = open(path(row.file), row.connect);
+        const auto records = database->OpenRecordset(u"select * from "_s + row.table);
+        QStringList columns;
+        for (int i = 0; i < records->FieldCount(); ++i)
+            columns << records->Fields(i).Name();
+        EXPECT_EQ(columns, row.columns);
+        EXPECT_EQ(records->RecordCount(), row.rows);
+    }
+    EXPECT_THROW(open(path(u"예화.dts"_s)), JetError) << "the module password is set";
+    EXPECT_THROW(open(path(u"z199.dts"_s)), JetError);
+}
+
+TEST_F(DataStoreTest, TheFirstRecordIsEmptyAndOfToday)
+{
+    create();
+    const auto database = open(path(u"설교매니저.mdb"_s));
+    const auto row = database->OpenRecordset(u"select * from 설교 where 설교일 = #2003-05-01#"_s);
+    ASSERT_EQ(row->RecordCount(), 1);
+    EXPECT_EQ(row->Fields(u"제목").Value(), QVariant(u""_s));
+    EXPECT_TRUE(row->Fields(u"rtf제목").Value().isNull());
+    EXPECT_EQ(Number(row->Fields(u"일련번호")), 1);
+    EXPECT_EQ(row->Fields(u"제목").Size(), 130);
+    EXPECT_EQ(row->Fields(u"분류").Size(), 255);
+    EXPECT_EQ(row->Fields(u"본문").Type(), FieldType::Memo);
+    EXPECT_EQ(row->Fields(u"작성일").Type(), FieldType::Date);
+}
+
+TEST_F(DataStoreTest, WhatIsThereIsNeverMadeAnew)
+{
+    create();
+    addNote(u"지어낸 주석"_s);
+    QFile::rename(services.folders.data(u"qt.mdb"_s), services.folders.data(u"QT.MDB"_s));
+    create();
+    EXPECT_EQ(notes(path(u"myc.mdb"_s)), QStringList{u"지어낸 주석"_s});
+    EXPECT_FALSE(QFile::exists(services.folders.data(u"qt.mdb"_s)))
+        << "a file of other case is the same file";
+}
+
+TEST_F(DataStoreTest, OneFileThatCantBeMadeLeavesTheOthers)
+{
+    QDir(services.folders.data({})).mkpath(u"qt.mdb"_s);
+    EXPECT_FALSE(createUserDatabases(services.state.AppPath, services.files, services.drives,
+                                     QDate(2003, 5, 1)));
+    EXPECT_TRUE(services.files.FileExists(path(u"myc.mdb"_s)));
+    EXPECT_TRUE(services.files.FileExists(path(u"z199.dts"_s)));
+}
+
+TEST_F(DataStoreTest, ClosingCompactsAndKeepsTwoGenerations)
+{
+    create();
+    // Long notes that are deleted again leave room that only a compaction gives back.
+    addNote(QString(400000, u'x'));
+    open(path(u"myc.mdb"_s))->Execute(u"delete * from myc"_s);
+    addNote(u"첫째"_s);
+    const qsizetype before = bytes(path(u"myc.mdb"_s)).size();
+    closeProgram(user_file::kNotes);
+    EXPECT_LT(bytes(path(u"myc.mdb"_s)).size(), before - 300000) << "the file was compacted";
+    EXPECT_FALSE(services.files.FileExists(path(u"mycc.mdb"_s)));
+    EXPECT_EQ(notes(backup(u"myc.mdb"_s)), QStringList{u"첫째"_s});
+    EXPECT_FALSE(services.files.FileExists(backup(u"mycbak.mdb"_s)));
+
+    addNote(u"둘째"_s);
+    closeProgram(user_file::kNotes);
+    EXPECT_EQ(notes(path(u"myc.mdb"_s)), (QStringList{u"첫째"_s, u"둘째"_s}));
+    EXPECT_EQ(notes(backup(u"myc.mdb"_s)), (QStringList{u"첫째"_s, u"둘째"_s}));
+    EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"첫째"_s});
+
+    addNote(u"셋째"_s);
+    closeProgram(user_file::kNotes);
+    EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), (QStringList{u"첫째"_s, u"둘째"_s}));
+}
+
+TEST_F(DataStoreTest, CompactionKeepsThePasswordOfIllustrations)
+{
+    create();
+    closeProgram(user_file::kIllustrations);
+    for (const QString& file : {path(u"예화.dts"_s), backup(u"예화.dts"_s)}) {
+        EXPECT_THROW(open(file), JetError) << file.toStdString();
+        EXPECT_NO_THROW(open(file, u";pwd=qolvetrinam"_s)) << file.toStdString();
+    }
+    for (const UserFile& file : {user_file::kSermons, user_file::kQuietTime, user_file::kAddresses})
+        closeProgram(file);
+    EXPECT_TRUE(services.files.FileExists(backup(u"설교매니저.mdb"_s)));
+    EXPECT_TRUE(services.files.FileExists(backup(u"QT.mdb"_s)));
+    EXPECT_TRUE(services.files.FileExists(backup(u"전자우편주소록.mdb"_s)));
+    EXPECT_EQ(QDir(services.folders.data({})).entryList(QDir::Files).size(), 6)
+        << "no compact copy is left";
+}
+
+TEST_F(DataStoreTest, AFailedCompactionLeavesTheFileAsItWas)
+{
+    create();
+    addNote(u"내 주석"_s);
+    ASSERT_TRUE(services.files.writeAll(path(u"mycc.mdb"_s), "left over from a crash"));
+    // Someone still has the file open: it can't be compacted.
+    const auto still = open(path(u"myc.mdb"_s));
+    closeProgram(user_file::kNotes);
+    still->Close();
+    EXPECT_EQ(notes(path(u"myc.mdb"_s)), QStringList{u"내 주석"_s});
+    EXPECT_EQ(notes(backup(u"myc.mdb"_s)), QStringList{u"내 주석"_s})
+        << "the backup doesn't hang on the compaction";
+
+    ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s), "damaged"));
+    closeProgram(user_file::kNotes);
+    EXPECT_EQ(bytes(path(u"myc.mdb"_s)), "damaged");
+    EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"내 주석"_s})
+        << "the good generation is still there";
+}
+
+TEST_F(DataStoreTest, BookmarksAreBackedUpOnlyWhenThereAreAny)
+{
+    closeProgram(user_file::kBookmarks);
+    EXPECT_FALSE(services.files.FileExists(backup(u"bmk.bmf"_s)));
+    ASSERT_TRUE(services.files.writeAll(path(u"bmk.bmf"_s), "1"));
+    closeProgram(user_file::kBookmarks);
+    ASSERT_TRUE(services.files.writeAll(path(u"bmk.bmf"_s), "2"));
+    closeProgram(user_file::kBookmarks);
+    EXPECT_EQ(bytes(backup(u"bmk.bmf"_s)), "2");
+    EXPECT_EQ(bytes(backup(u"bmkbak.bmf"_s)), "1");
+    QFile::remove(services.folders.data(u"bmk.bmf"_s));
+    closeProgram(user_file::kBookmarks);
+    EXPECT_EQ(bytes(backup(u"bmkbak.bmf"_s)), "1") << "a lost file doesn't cost a generation";
+}
+
+} // namespace
+} // namespace lumen
