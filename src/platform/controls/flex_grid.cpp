@@ -277,7 +277,7 @@ void FlexGrid::applyHeights()
         // The header would have the view lay itself out again for each row.
         const QSignalBlocker quiet(verticalHeader());
         for (int row = FixedRows(); row < Rows(); ++row)
-            verticalHeader()->resizeSection(row - FixedRows(), rowHeight(row, widths) + gridLine);
+            verticalHeader()->resizeSection(row - FixedRows(), highestCell(row, widths) + gridLine);
     }
     updateGeometries();
     viewport()->update();
@@ -285,7 +285,7 @@ void FlexGrid::applyHeights()
         setTopRow(top);
 }
 
-int FlexGrid::rowHeight(int row, const std::vector<int>& widths) const
+int FlexGrid::highestCell(int row, const std::vector<int>& widths) const
 {
     const int merged = m_model->mergedFrom(row);
     const int gridLine = showGrid() ? 1 : 0;
@@ -349,9 +349,9 @@ int FlexGrid::Row() const
 
 int FlexGrid::RowSel() const
 {
+    // The right button moves the current cell within the range, so only its ends count.
     const auto [first, last] = selectedRows();
-    const int current = currentIndex().row() + FixedRows();
-    return currentIndex().isValid() && current >= first && current <= last ? current : last;
+    return currentIndex().isValid() && currentIndex().row() + FixedRows() == first ? first : last;
 }
 
 int FlexGrid::Col() const

@@ -142,7 +142,7 @@ private:
     void wireHeader();
     void applyMergedRows();
     void applyHeights();
-    int rowHeight(int row, const std::vector<int>& widths) const;
+    int highestCell(int row, const std::vector<int>& widths) const;
     void stretchColumns();
     void columnsResized();
 

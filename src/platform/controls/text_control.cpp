@@ -214,13 +214,13 @@ void TextControl::scrollToPosition(int position)
     // The text is laid out on demand, and the bar only knows what is laid out.
     document()->documentLayout()->blockBoundingRect(document()->lastBlock());
     QScrollBar* bar = verticalScrollBar();
-    bar->setValue(bar->value() + cursorRect(caret).top() - qRound(document()->documentMargin()));
+    const int top = bar->value() + cursorRect(caret).top();
+    bar->setValue(top <= document()->documentMargin() ? 0 : top);
 }
 
 int TextControl::firstVisiblePosition() const
 {
-    const int margin = qRound(document()->documentMargin());
-    return positionAt(QPoint(margin, margin));
+    return positionAt(QPoint(qRound(document()->documentMargin()), 1));
 }
 
 bool TextControl::event(QEvent* event)

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/controls/grid_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+#include <QTextDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+QFont korean()
+{
+    return QFont(u"NanumGothic"_s, 10);
+}
+
+// How many lines another part of the toolkit makes of the text in the same room.
+int linesInDocument(const QString& text, const QFont& font, int width)
+{
+    QTextDocument document;
+    document.setDocumentMargin(0);
+    document.setDefaultFont(font);
+    document.setPlainText(text);
+    document.setTextWidth(width - 2 * kCellMarginX);
+    return qRound(document.size().height() / QFontMetricsF(font).lineSpacing());
+}
+
+TEST(RowHeightsTest, ACellIsAsHighAsItsLines)
+{
+    RowHeights heights;
+    const QFont font = korean();
+    const double line = QFontMetricsF(font).lineSpacing();
+    const QString verse = u"이 글은 여러 줄에 걸쳐 나뉘는 긴 절을 시험하기 위하여 지어낸 글이며 "
+                          u"어떤 책에서도 가져오지 않았느니라"_s;
+    for (const int width : {60, 120, 200, 333, 900}) {
+        SCOPED_TRACE(width);
+        const int lines = linesInDocument(verse, font, width);
+        EXPECT_NEAR(heights.cellHeight(verse, font, width) - 2 * kCellMarginY, lines * line, 1.5);
+    }
+}
+
+TEST(RowHeightsTest, TextFontAndWidthEachMakeAHeightOfTheirOwn)
+{
+    RowHeights heights;
+    QFont large = korean();
+    large.setPointSizeF(16);
+    const QString text = u"땅이 두 번째 문장에서 줄을 바꾼다 그리고 계속된다"_s;
+    const int plain = heights.cellHeight(text, korean(), 150);
+    EXPECT_GT(heights.cellHeight(text, large, 150), plain);
+    EXPECT_GT(heights.cellHeight(text, korean(), 70), plain);
+    EXPECT_GT(heights.cellHeight(text + text, korean(), 150), plain);
+    EXPECT_EQ(heights.cellHeight(text, korean(), 150), plain);
+}
+
+TEST(RowHeightsTest, LineEndsInTheTextAreLines)
+{
+    RowHeights heights;
+    const int one = heights.cellHeight(u"abc"_s, korean(), 400) - 2 * kCellMarginY;
+    for (const QString& text : {u"abc\r\ndef\r\nghi"_s, u"abc\ndef\nghi"_s, u"abc\rdef\rghi"_s}) {
+        const int three = heights.cellHeight(text, korean(), 400) - 2 * kCellMarginY;
+        EXPECT_NEAR(three, 3 * one, 2);
+    }
+}
+
+TEST(RowHeightsTest, AWordWiderThanItsCellIsBroken)
+{
+    RowHeights heights;
+    const int one = heights.cellHeight(u"가"_s, korean(), 60);
+    EXPECT_GT(heights.cellHeight(QString(40, u'가'), korean(), 60), 5 * one);
+}
+
+TEST(ShownTextTest, RangesFollowTheLineEndsThatBecameOne)
+{
+    const QString text = u"ab\r\ncd\r\nef"_s;
+    const QString shown = shownText(text);
+    for (const auto& [range, words] : {std::pair{TextRange{0, 2}, u"ab"_s},
+                                       {TextRange{4, 2}, u"cd"_s},
+                                       {TextRange{8, 2}, u"ef"_s},
+                                       {TextRange{1, 5}, u"b\u2028cd"_s}}) {
+        const TextRange place = shownRange(text, range);
+        EXPECT_EQ(shown.mid(place.start, place.length), words);
+    }
+}
+
+TEST(LayOutCellTest, TextOfVisualOrderIsNeverReordered)
+{
+    // A right-to-left letter in front would turn a line round if its direction were guessed.
+    QTextLayout layout(u"\u05d0 abc def"_s, korean());
+    layOutCell(layout, 300, GridAlign::Left);
+    const QTextLine line = layout.lineAt(0);
+    EXPECT_LT(line.cursorToX(0), line.cursorToX(2));
+    EXPECT_LT(line.cursorToX(2), line.cursorToX(6));
+}
+
+} // namespace
+} // namespace lumen

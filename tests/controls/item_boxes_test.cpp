@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/controls/item_boxes.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+class ComboBoxTest : public testing::Test
+{
+protected:
+    ComboBoxTest()
+    {
+        combo.onClick = [this] { ++clicks; };
+        combo.AddItem(u"개역한글"_s, 101);
+        combo.AddItem(u"KJV"_s, 201);
+        combo.AddItem(u"BHS"_s, 301);
+    }
+
+    ComboBox combo;
+    int clicks = 0;
+};
+
+TEST_F(ComboBoxTest, FillingChoosesNothingAndTellsNothing)
+{
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(combo.Text(), QString());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ComboBoxTest, CodeIsToldOfAChangedIndexOnly)
+{
+    combo.setListIndex(1);
+    combo.setListIndex(1);
+    EXPECT_EQ(clicks, 1);
+    combo.setListIndex(7);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(clicks, 1);
+    combo.setListIndex(-1);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ComboBoxTest, AUserIsToldOfEveryPick)
+{
+    combo.setListIndex(1);
+    clicks = 0;
+    combo.show();
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(combo.ListIndex(), 2);
+    EXPECT_EQ(clicks, 1);
+    combo.showPopup();
+    QTest::keyClick(combo.view(), Qt::Key_Return); // the current item once more
+    EXPECT_EQ(combo.ListIndex(), 2);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ComboBoxTest, ItemsAreFoundByNumberAndByExactText)
+{
+    EXPECT_EQ(combo.findItemData(301), 2);
+    EXPECT_EQ(combo.findItemData(999), -1);
+    EXPECT_EQ(combo.findItem(u"kjv"_s), -1);
+    EXPECT_EQ(combo.findItem(u"KJV"_s), 1);
+    EXPECT_EQ(combo.ItemData(9), 0);
+}
+
+TEST_F(ComboBoxTest, InsertingAndRemovingKeepTheChoice)
+{
+    combo.setListIndex(1);
+    combo.AddItem(u"첫째"_s, 0, 0);
+    EXPECT_EQ(combo.Text(), u"KJV"_s);
+    combo.RemoveItem(0);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    combo.RemoveItem(1);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ComboBoxTest, ATypedTextSurvivesNewItems)
+{
+    ComboBox history;
+    history.setEditable(true);
+    history.setEditText(u"사랑"_s);
+    history.AddItem(u"믿음"_s);
+    EXPECT_EQ(history.Text(), u"사랑"_s);
+}
+
+class ListBoxTest : public testing::Test
+{
+protected:
+    ListBoxTest()
+    {
+        list.onClick = [this] { ++clicks; };
+        list.onDblClick = [this] { ++doubleClicks; };
+        list.resize(200, 200);
+        list.show();
+    }
+
+    QPoint middleOf(int index) { return list.visualItemRect(list.item(index)).center(); }
+
+    ListBox list;
+    int clicks = 0;
+    int doubleClicks = 0;
+};
+
+TEST_F(ListBoxTest, ASortedListStandsInCodePointOrder)
+{
+    list.setSorted(true);
+    list.AddItems({u"66계:001:001"_s, u"01창:001:001"_s, u"43요:003:016"_s, u"01창:001:001"_s});
+    QStringList texts;
+    for (int index = 0; index < list.ListCount(); ++index)
+        texts << list.List(index);
+    EXPECT_EQ(texts, (QStringList{u"01창:001:001"_s, u"01창:001:001"_s, u"43요:003:016"_s,
+                                  u"66계:001:001"_s}));
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ListBoxTest, ClicksKeysAndChangedIndexesAreTold)
+{
+    list.AddItems({u"창1:1"_s, u"창1:2"_s, u"창1:3"_s});
+    list.setListIndex(0);
+    list.setListIndex(0);
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middleOf(0));
+    EXPECT_EQ(clicks, 2);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(list.Text(), u"창1:2"_s);
+    EXPECT_EQ(clicks, 3);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {5, 190}); // below the items
+    EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(ListBoxTest, EnterActsAsADoubleClick)
+{
+    list.AddItems({u"창1:1"_s, u"창1:2"_s});
+    list.setListIndex(1);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middleOf(1));
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(doubleClicks, 2);
+}
+
+TEST_F(ListBoxTest, ANewFirstItemKeepsTheChosenOneAndRemovingItClears)
+{
+    list.AddItems({u"창1:1"_s, u"창1:2"_s});
+    list.setListIndex(1);
+    list.AddItem(u"요3:16"_s, 0);
+    EXPECT_EQ(list.Text(), u"창1:2"_s);
+    EXPECT_EQ(list.FindListItem(u"창1:1"_s), 1);
+    EXPECT_EQ(list.FindListItem(u"창1"_s), -1);
+    list.RemoveItem(2);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(clicks, 1);
+}
+
+} // namespace
+} // namespace lumen
