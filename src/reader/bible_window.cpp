@@ -100,7 +100,7 @@ void frm성서::wireTextView()
     txCont->onSelectionChange = [this] {
         guarded(m_services, this, [this] { panel->showSelection(); });
     };
-    txCont->onCopy = [this] { copySelection(false); };
+    txCont->onCopy = [this] { copySelection(OriginalText::FontCodes); };
     txCont->onResizeEnded = [this] {
         // The lines of Hebrew verses are cut to the width of the view.
         if (m_settings.ViewMode == ViewMode::Text && m_slots.holdsHebrew())
@@ -127,7 +127,7 @@ void frm성서::wireTableView()
         guarded(m_services, this, [this] { panel->showSelection(); });
     };
     hflex본문->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
-    hflex본문->onCopy = [this] { copySelection(false); };
+    hflex본문->onCopy = [this] { copySelection(OriginalText::FontCodes); };
     hflex본문->onResizeEnded = [this] {
         if (m_settings.ViewMode == ViewMode::Table && m_slots.holdsHebrew())
             FillBibleText();
@@ -172,9 +172,11 @@ void frm성서::showEvent(QShowEvent* event)
     if (m_shownOnce)
         return;
     m_shownOnce = true;
-    // While the window was hidden no Hebrew verse could be divided.
+    // While the window was hidden no Hebrew verse could be divided and there was no current verse.
     if (m_slots.holdsHebrew())
         FillBibleText();
+    else
+        placeChanged();
 }
 
 void frm성서::changeEvent(QEvent* event)

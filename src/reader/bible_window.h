@@ -18,6 +18,7 @@
 #include "reader/quick_move_pane.h"
 #include "reader/table_view.h"
 #include "reader/text_view.h"
+#include "reader/verse_copy.h"
 #include "reader/version_slots.h"
 #include "text/hebrew_division.h"
 
@@ -135,7 +136,7 @@ private:
     void setBarVisible(QStringView barTool, bool visible);
     void openPage(QStringView file);
     void tellMissing(const QString& file);
-    void copySelection(bool unicode);
+    void copySelection(OriginalText originals);
     bool copiesVerses() const;
     void bringEditToolsUpToDate();
     void runEdit(EditCommand command);

@@ -4,8 +4,10 @@
 #include "forms/book_combo.h"
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
+#include "platform/dialogs/clipboard.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/registry/registry_store.h"
+#include "reader/copy_tail.h"
 #include "reader/fill_hold.h"
 #include "reader/messages.h"
 #include "reader/typed_reference.h"
@@ -255,9 +257,33 @@ void frm성서::applySettings()
     FillBibleText();
 }
 
-void frm성서::copySelection(bool unicode)
+void frm성서::copySelection(OriginalText originals)
 {
-    static_cast<void>(unicode);
+    const std::vector<SelectedVerse> selected =
+        m_settings.ViewMode == ViewMode::Text
+            ? m_textView.selectedVerses()
+            : m_tableView.selectedVerses(m_chapter, m_settings.ShowMiniTitle);
+    if (selected.empty())
+        return;
+    std::vector<CopiedVerse> copied;
+    for (const SelectedVerse& verse : selected) {
+        const VersionFont font = GetVersionFont(verse.code, m_state.fonts);
+        const auto slot = static_cast<std::size_t>(verse.slot);
+        copied.push_back({verse.code, verse.verse, verse.text, font.font,
+                          scaledSize(font.factor, rtfSizes(m_settings.FontSize).text),
+                          verse.slot == 0 ? m_settings.colors.DefVerColor
+                                          : m_settings.colors.verColors[slot - 1]});
+    }
+    CopyOptions options = readCopyOptions(m_services.registry);
+    options.crLf = m_settings.copy.crLf; // unlike the others it counts as it was at the start
+    CopySource source;
+    for (int slot = 0; slot < kSlotCount; ++slot)
+        source.versions << versionName(slot);
+    source.bookName = toolCombo(u"ID_cb책명").Text();
+    source.abbreviation = bookAbbreviation(book());
+    source.chapter = toolCombo(u"ID_cb장").Text();
+    source.verseRange = GetCurVerseRange();
+    m_services.clipboard.set(composeVerseCopy(copied, copyEnding(options, source), originals));
 }
 
 } // namespace lumen

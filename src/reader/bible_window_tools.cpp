@@ -81,7 +81,7 @@ void frm성서::bindTools()
     m_tools.on(u"ID_편집", [this] { bringEditToolsUpToDate(); });
     m_tools.on(u"ID_잘라내기", [this] { runEdit(EditCommand::Cut); });
     m_tools.on(u"ID_복사", [this] { runEdit(EditCommand::Copy); });
-    m_tools.on(u"ID_UnicodeCopy", [this] { copySelection(true); });
+    m_tools.on(u"ID_UnicodeCopy", [this] { copySelection(OriginalText::Unicode); });
     m_tools.on(u"ID_붙이기", [this] { runEdit(EditCommand::Paste); });
     m_tools.on(u"ID_지우기", [this] { runEdit(EditCommand::Delete); });
     m_tools.on(u"ID_전체선택", [this] { runEdit(EditCommand::SelectAll); });
@@ -300,9 +300,9 @@ void frm성서::bringEditToolsUpToDate()
 void frm성서::runEdit(EditCommand command)
 {
     if (command == EditCommand::Copy && copiesVerses())
-        copySelection(false);
+        copySelection(OriginalText::FontCodes);
     else
-        runEditCommand(command, editTarget(*this));
+        runEditCommand(command, editTarget(*this), m_services.clipboard);
 }
 
 } // namespace lumen

@@ -23,7 +23,10 @@ bool isHebrew(int code)
 class Composer
 {
 public:
-    Composer(const ChapterStyle& style, QString& rtf) : m_style(style), m_rtf(rtf) {}
+    Composer(const ChapterStyle& style, ComposedChapter& chapter)
+        : m_style(style), m_rtf(chapter.rtf), m_rows(chapter.rows)
+    {
+    }
 
     void languageBarLine();
     void row(const ChapterSource& source, const ChapterVerse& verse);
@@ -43,6 +46,7 @@ private:
 
     const ChapterStyle& m_style;
     QString& m_rtf;
+    std::vector<ComposedRow>& m_rows;
     int m_position = 0;
 };
 
@@ -101,6 +105,7 @@ void Composer::row(const ChapterSource& source, const ChapterVerse& verse)
     if (decorated && !verse.miniTitle.isEmpty())
         heading(look, verse.miniTitle);
 
+    ComposedRow shown{source.slot, source.code, verse.verse, m_position, 0, 0, verse.cont};
     const QString number = QString::number(verse.verse);
     // The codes 300 to 303 run from the right: a tab would throw the text to the other side.
     const QString separator = source.code >= 300 && source.code <= 303 ? u"   "_s : u"\t"_s;
@@ -110,9 +115,14 @@ void Composer::row(const ChapterSource& source, const ChapterVerse& verse)
                              .arg(kSlotColor[static_cast<size_t>(source.slot)])
                              .arg(look.halfPoints);
     m_position += static_cast<int>(number.size() + separator.size());
-    if (decorated)
+    shown.textStart = m_position;
+    if (decorated) {
+        shown.text.prepend(verse.part);
         text(verse.part);
+    }
     verseText(source, verse.cont, look.halfPoints);
+    shown.textEnd = m_position;
+    m_rows.push_back(shown);
     m_rtf += u"\\par "_s;
     ++m_position;
 }
@@ -126,7 +136,7 @@ ComposedChapter composeChapter(const std::vector<ChapterSource>& sources, const 
         return chapter;
 
     chapter.rtf = rtfDocumentHeader(style.rtf);
-    Composer composer(style, chapter.rtf);
+    Composer composer(style, chapter);
     if (style.languageBar)
         composer.languageBarLine();
     const std::vector<ChapterVerse>& base = sources.front().verses;

@@ -3,6 +3,7 @@
 
 #include "data/version_font.h"
 #include "reader/verse_positions.h"
+#include "reader/verse_selection.h"
 #include "text/rtf_composer.h"
 
 #include <QString>
@@ -52,6 +53,7 @@ struct ComposedChapter
 {
     QString rtf; ///< "" when the base version has no row
     VersePositions positions;
+    std::vector<ComposedRow> rows; ///< in text order
 };
 
 /// Composes a chapter. The sources are walked in step: row i of each stands behind row i of the

@@ -5,6 +5,7 @@
 #include "reader/text_view.h"
 #include "text/rtf_tables.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -56,7 +57,8 @@ void TableView::setUpColumns(const std::vector<ChapterSource>& sources, const QS
                              const TableStyle& style)
 {
     m_grid.setCols(kFirstVersionColumn + static_cast<int>(sources.size()));
-    m_grid.setHeaderStyle({.family = u"굴림"_s, .points = kHeaderPoints, .align = GridAlign::Center});
+    m_grid.setHeaderStyle(
+        {.family = u"굴림"_s, .points = kHeaderPoints, .align = GridAlign::Center});
     m_grid.setTextMatrix(0, kVerseColumn, u"절"_s);
     m_grid.setColWidth(kMarkColumn, kMarkWidth);
     m_grid.setColWidth(kVerseColumn, kVerseWidth);
@@ -181,6 +183,31 @@ QString TableView::currentRange()
     if (first == 0 || last == 0)
         return QString::number(currentVerse());
     return verseRangeText(first, last);
+}
+
+std::vector<SelectedVerse> TableView::selectedVerses(const std::vector<ChapterSource>& sources,
+                                                     bool withPart) const
+{
+    const int anchor = m_grid.Row() > 0 ? m_grid.Row() : m_grid.Tag().toInt();
+    const int end = m_grid.RowSel() > 0 ? m_grid.RowSel() : anchor;
+    const int first = std::min(anchor, end);
+    const int last = std::max(anchor, end);
+    std::vector<SelectedVerse> selected;
+    std::size_t index = 0; // of the verse in its source
+    for (int row = 1; row < static_cast<int>(m_verseOfRow.size()); ++row) {
+        if (m_verseOfRow[static_cast<std::size_t>(row)] == 0)
+            continue;
+        if (row >= first && row <= last)
+            for (const ChapterSource& source : sources)
+                if (index < source.verses.size()) {
+                    const ChapterVerse& verse = source.verses[index];
+                    const bool part = withPart && source.slot == 0;
+                    selected.push_back({source.slot, source.code, verse.verse,
+                                        part ? verse.part + verse.cont : verse.cont});
+                }
+        ++index;
+    }
+    return selected;
 }
 
 void TableView::selectVerse(int verse)

@@ -14,6 +14,7 @@ TextView::TextView(TextControl& txCont) : m_txCont(txCont) {}
 void TextView::show(const ComposedChapter& chapter)
 {
     m_positions = chapter.positions;
+    m_rows = chapter.rows;
     if (chapter.rtf.isEmpty()) {
         m_txCont.setText(QString());
         return;
@@ -45,6 +46,18 @@ void TextView::selectVerse(int verse)
     // Selecting scrolls to the caret at its end, so the verse's start is brought up afterwards.
     m_txCont.select(place->start, place->length - 1);
     m_txCont.scrollToPosition(place->start);
+}
+
+std::vector<SelectedVerse> TextView::selectedVerses() const
+{
+    const int start = m_txCont.SelStart();
+    const int end = start + m_txCont.SelLength();
+    if (start != end)
+        return versesBetween(m_rows, m_txCont.Text(), start, end);
+    const std::optional<VersePosition> verse = m_positions.find(currentVerse());
+    if (!verse)
+        return {};
+    return versesBetween(m_rows, m_txCont.Text(), verse->start, verse->start + verse->length);
 }
 
 QString verseRangeText(int first, int last)

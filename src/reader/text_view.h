@@ -22,11 +22,13 @@ public:
     QString currentRange() const;
     /// Selects a verse and scrolls to it; a verse that is not there changes nothing.
     void selectVerse(int verse);
-    const VersePositions& positions() const { return m_positions; }
+    /// What the selection holds of each verse; without a selection the current verse, whole.
+    std::vector<SelectedVerse> selectedVerses() const;
 
 private:
     TextControl& m_txCont;
     VersePositions m_positions;
+    std::vector<ComposedRow> m_rows;
 };
 
 /// "3" or "3-5" of two verses in either order.

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/verse_copy.h"
+
+#include "text/original_unicode.h"
+#include "text/rtf_composer.h"
+
+#include <QStringList>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr RgbLong kNumberColor = RGB(0, 0, 255);
+
+enum class Script { Hebrew, Greek, Other };
+
+Script scriptOf(int code)
+{
+    if (code >= 301 && code <= 303)
+        return Script::Hebrew;
+    return code >= 304 && code <= 320 ? Script::Greek : Script::Other;
+}
+
+QString unicodeOf(const CopiedVerse& verse)
+{
+    switch (scriptOf(verse.code)) {
+    case Script::Hebrew:
+        return hebrewToUnicode(verse.text);
+    case Script::Greek:
+        return greekToUnicode(verse.text);
+    case Script::Other:
+        break;
+    }
+    return verse.text;
+}
+
+/// What stands behind a verse number: as in the text view, where stored Hebrew runs from the right.
+QString separator(const CopiedVerse& verse, OriginalText originals)
+{
+    const bool fromRight =
+        scriptOf(verse.code) == Script::Hebrew && originals == OriginalText::FontCodes;
+    return fromRight ? u"   "_s : u"\t"_s;
+}
+
+QString plainText(const std::vector<CopiedVerse>& verses, OriginalText originals)
+{
+    QStringList lines;
+    for (const CopiedVerse& verse : verses) {
+        QString line;
+        if (verse.verse > 0)
+            line = QString::number(verse.verse) + separator(verse, originals);
+        lines << line + (originals == OriginalText::Unicode ? unicodeOf(verse) : verse.text);
+    }
+    return lines.join(u"\r\n"_s);
+}
+
+// HTML
+
+QString htmlText(const QString& text)
+{
+    QString html = text.toHtmlEscaped();
+    html.replace(u"\r\n"_s, u"<br>"_s);
+    return html;
+}
+
+QString htmlColor(RgbLong color)
+{
+    const auto part = [](int value) { return QString::number(value, 16).rightJustified(2, u'0'); };
+    return u'#' + part(redPart(color)) + part(greenPart(color)) + part(bluePart(color));
+}
+
+QString htmlVerse(const CopiedVerse& verse)
+{
+    QString style =
+        u"font-size:%1pt;color:%2"_s.arg(verse.halfPoints / 2.0).arg(htmlColor(verse.color));
+    // The program's own fonts draw codes: Unicode is left to the fonts of the reading program.
+    if (scriptOf(verse.code) == Script::Other)
+        style.prepend(u"font-family:'%1';"_s.arg(QString(verse.font).remove(u'\'')));
+    QString number;
+    if (verse.verse > 0)
+        number = u"<span style=\"color:%1\">%2</span>&#160;"_s.arg(htmlColor(kNumberColor))
+                     .arg(verse.verse);
+    return u"%1<span style=\"%2\">"_s.arg(number, style.toHtmlEscaped()) +
+           htmlText(unicodeOf(verse)) + u"</span>"_s;
+}
+
+QString htmlParagraph(const CopiedVerse& verse)
+{
+    switch (scriptOf(verse.code)) {
+    case Script::Hebrew:
+        return u"<p dir=\"rtl\" lang=\"he\">"_s;
+    case Script::Greek:
+        return u"<p lang=\"grc\">"_s;
+    case Script::Other:
+        break;
+    }
+    return u"<p>"_s;
+}
+
+QString htmlDocument(const std::vector<CopiedVerse>& verses, const QString& ending)
+{
+    QString html = u"<html><head><meta charset=\"utf-8\"></head><body>"_s;
+    for (const CopiedVerse& verse : verses) {
+        html += htmlParagraph(verse) + htmlVerse(verse);
+        if (&verse == &verses.back() && !ending.isEmpty())
+            html += u"<span dir=\"ltr\">"_s + htmlText(ending) + u"</span>"_s;
+        html += u"</p>"_s;
+    }
+    return html + u"</body></html>"_s;
+}
+
+// RTF
+
+/// Fonts whose bytes a word processor must not take for code page 949.
+bool isWesternFont(const CopiedVerse& verse)
+{
+    const int code = verse.code;
+    return (code >= 218 && code <= 225 && code != 224) || (code >= 301 && code <= 320) ||
+           code >= 906;
+}
+
+QString rtfText(const QString& text, bool western)
+{
+    QString rtf;
+    for (const QChar character : text) {
+        const char16_t unit = character.unicode();
+        if (unit == u'\\' || unit == u'{' || unit == u'}')
+            rtf += u'\\' + character;
+        else if (unit == u'\n')
+            rtf += u"\\line "_s;
+        else if (unit == u'\t')
+            rtf += u"\\tab "_s;
+        else if (western && unit > 0x7E)
+            rtf += u"\\u%1?"_s.arg(static_cast<qint16>(unit));
+        else if (unit != u'\r')
+            rtf += character;
+    }
+    return rtf;
+}
+
+class RtfCopy
+{
+public:
+    explicit RtfCopy(OriginalText originals) : m_originals(originals) { colorNumber(kNumberColor); }
+
+    void add(const CopiedVerse& verse, const QString& ending)
+    {
+        const bool unicode =
+            m_originals == OriginalText::Unicode && scriptOf(verse.code) != Script::Other;
+        const bool western = isWesternFont(verse) && !unicode;
+        m_body += u"\\pard"_s + paragraph(verse);
+        if (verse.verse > 0)
+            m_body +=
+                u"{\\cf1 %1}"_s.arg(verse.verse) + rtfText(separator(verse, m_originals), false);
+        m_body += u"{"_s;
+        if (!unicode)
+            m_body += u"\\f%1"_s.arg(fontNumber(verse.font, western));
+        m_body += u"\\fs%1\\cf%2 "_s.arg(verse.halfPoints).arg(colorNumber(verse.color));
+        m_body += rtfText(unicode ? unicodeOf(verse) : verse.text, western) + u"}"_s;
+        m_body += rtfText(ending, false) + u"\\par "_s;
+    }
+
+    QByteArray document() const
+    {
+        return toRtfBytes(
+            u"{\\rtf1\\ansi\\ansicpg949\\deff0{\\fonttbl{\\f0\\fnil\\fcharset129 굴림;}"_s +
+            m_fontTable + u"}{\\colortbl;"_s + m_colorTable + u"}"_s + m_body + u"}"_s);
+    }
+
+private:
+    QString paragraph(const CopiedVerse& verse) const
+    {
+        if (scriptOf(verse.code) != Script::Hebrew)
+            return u"\\ql "_s;
+        return m_originals == OriginalText::Unicode ? u"\\rtlpar\\qr "_s : u"\\ltrpar\\qr "_s;
+    }
+    int fontNumber(const QString& font, bool western)
+    {
+        if (!m_fonts.contains(font)) {
+            m_fonts << font;
+            m_fontTable +=
+                u"{\\f%1\\fnil\\fcharset%2 "_s.arg(m_fonts.size()).arg(western ? 0 : 129) +
+                rtfText(font, false) + u";}"_s;
+        }
+        return static_cast<int>(m_fonts.indexOf(font)) + 1;
+    }
+    int colorNumber(RgbLong color)
+    {
+        if (!m_colors.contains(color)) {
+            m_colors << color;
+            m_colorTable += u"\\red%1\\green%2\\blue%3;"_s.arg(redPart(color))
+                                .arg(greenPart(color))
+                                .arg(bluePart(color));
+        }
+        return static_cast<int>(m_colors.indexOf(color)) + 1;
+    }
+
+    OriginalText m_originals;
+    QStringList m_fonts;
+    QList<RgbLong> m_colors;
+    QString m_fontTable;
+    QString m_colorTable;
+    QString m_body;
+};
+
+} // namespace
+
+ClipboardContent composeVerseCopy(const std::vector<CopiedVerse>& verses, const QString& ending,
+                                  OriginalText originals)
+{
+    if (verses.empty())
+        return {};
+    RtfCopy rtf(originals);
+    for (const CopiedVerse& verse : verses)
+        rtf.add(verse, &verse == &verses.back() ? ending : QString());
+    return {plainText(verses, originals) + ending, htmlDocument(verses, ending), rtf.document()};
+}
+
+} // namespace lumen

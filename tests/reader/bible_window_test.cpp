@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "reader/reader_fixture.h"
+#include "reader/reader_tools.h"
+
+#include <QDir>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace lumen {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class BibleWindowTest : public ReaderTest
+{
+};
+
+TEST_F(BibleWindowTest, EveryToolHasAHandlerAndEveryHandlerATool)
+{
+    start();
+    const ToolFaults faults =
+        unpairedTools(reader->atbar.rows(), reader->toolClicks(), reader->toolCombos());
+    EXPECT_EQ(faults.withoutHandler, QStringList());
+    EXPECT_EQ(faults.withoutTool, QStringList());
+}
+
+TEST_F(BibleWindowTest, StartShowsTheFirstChapterBehindTheSplash)
+{
+    start();
+    EXPECT_EQ(splash.steps, (std::vector<int>{20, 25, 40, 50, 60, 70, 80, 85, 90, 95, 100}));
+    EXPECT_FALSE(splash.visible);
+    EXPECT_TRUE(reader->txCont->isVisible());
+    EXPECT_FALSE(reader->hflex본문->isVisible());
+    const QString text = reader->txCont->Text();
+    EXPECT_TRUE(text.startsWith(u"\t『지어낸 첫째 제목』\n\n1\t"_s + TinyData::text(101, 0, 1, 1)))
+        << text.left(80).toStdString();
+    EXPECT_TRUE(text.contains(u"\n5\t\n6\t"_s)) << "Null is an empty text";
+    EXPECT_EQ(place(), u"창세기 1장 1절"_s);
+    EXPECT_EQ(combo(u"ID_cb책명").count(), 66);
+    EXPECT_EQ(combo(u"ID_cb장").count(), 50);
+}
+
+TEST_F(BibleWindowTest, WithoutAnyVersionAMessageEndsTheStart)
+{
+    for (const QString& module : QDir(services.folders.data({})).entryList({u"*.dts"_s}))
+        QFile::remove(services.folders.data(module));
+    services.messages.expect(
+        u"성경 데이터 모듈 없음"_s,
+        u"설치된 성경 및 사전 데이터 모듈이 없습니다.\r\nLumenscript을 종료합니다."_s, 48);
+    frm성서 empty(services.services, services.state, opener);
+    EXPECT_FALSE(empty.Form_Load(splash));
+    EXPECT_FALSE(empty.isVisible());
+}
+
+TEST_F(BibleWindowTest, ChaptersGoRoundWithinTheBook)
+{
+    start();
+    click(u"ID_이전장");
+    EXPECT_EQ(combo(u"ID_cb장").ListIndex(), 49);
+    click(u"ID_다음장");
+    EXPECT_EQ(place(), u"창세기 1장 1절"_s);
+    combo(u"ID_cb책명").setListIndex(65);
+    EXPECT_EQ(combo(u"ID_cb장").count(), 22);
+    combo(u"ID_cb장").setListIndex(21);
+    click(u"ID_다음장");
+    EXPECT_EQ(combo(u"ID_cb장").ListIndex(), 0);
+    EXPECT_EQ(reader->book(), 65);
+}
+
+TEST_F(BibleWindowTest, TableHasAColumnForEachOpenVersionInOrder)
+{
+    start();
+    click(u"ID_테이블형식");
+    FlexGrid& grid = *reader->hflex본문;
+    EXPECT_TRUE(grid.isVisible());
+    EXPECT_FALSE(reader->txCont->isVisible());
+    EXPECT_FALSE(reader->atbar.tool(u"ID_줄간격1.5배").enabled());
+    EXPECT_EQ(grid.Cols(), 3);
+
+    pickVersion(u"ID_cb대역본2", 201);
+    pickVersion(u"ID_cb대역본3", 301);
+    ASSERT_EQ(grid.Cols(), 5);
+    EXPECT_EQ(grid.TextMatrix(0, 1), u"절"_s);
+    EXPECT_EQ(grid.TextMatrix(0, 2), u"개역한글"_s);
+    EXPECT_EQ(grid.TextMatrix(0, 3), u"대역본2 - KJV"_s);
+    EXPECT_EQ(grid.TextMatrix(0, 4), u"대역본3 - BHS"_s);
+    EXPECT_EQ(grid.TextMatrix(1, 2), u"『지어낸 첫째 제목』"_s);
+    EXPECT_EQ(grid.TextMatrix(1, 1), QString());
+    EXPECT_EQ(grid.TextMatrix(2, 1), u"1"_s);
+    EXPECT_EQ(grid.TextMatrix(2, 2), TinyData::text(101, 0, 1, 1));
+    EXPECT_EQ(grid.TextMatrix(2, 3), TinyData::text(201, 0, 1, 1));
+    EXPECT_FALSE(grid.TextMatrix(2, 4).isEmpty());
+    EXPECT_EQ(grid.TextMatrix(grid.Rows() - 1, 3), QString()) << "KJV has two verses less";
+    EXPECT_EQ(grid.TextMatrix(2, 0), u"▶"_s) << "a heading row stands for the verse below it";
+
+    click(u"ID_텍스트형식");
+    EXPECT_TRUE(reader->atbar.tool(u"ID_줄간격1.5배").enabled());
+    EXPECT_TRUE(reader->txCont->Text().contains(TinyData::text(201, 0, 1, 1)));
+}
+
+TEST_F(BibleWindowTest, TheMarkFollowsMouseAndKeys)
+{
+    start();
+    click(u"ID_소주제표시"); // off: row n is verse n
+    click(u"ID_테이블형식");
+    FlexGrid& grid = *reader->hflex본문;
+    const QModelIndex third = grid.model()->index(2, 2);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(third).center());
+    EXPECT_EQ(grid.Tag(), u"3"_s);
+    EXPECT_EQ(grid.TextMatrix(3, 0), u"▶"_s);
+    EXPECT_EQ(grid.TextMatrix(1, 0), QString());
+    EXPECT_EQ(place(), u"창세기 1장 3절"_s);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(place(), u"창세기 1장 4절"_s);
+    QTest::keyClick(&grid, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(reader->GetCurVerseRange(), u"4-5"_s);
+    click(u"ID_다음장");
+    EXPECT_EQ(place(), u"창세기 2장 1절"_s);
+}
+
+TEST_F(BibleWindowTest, HeadingsFollowTheirSwitchInBothViews)
+{
+    start();
+    click(u"ID_소주제표시");
+    EXPECT_FALSE(reader->txCont->Text().contains(u"『"_s));
+    quickMove(u"시 3:1"_s);
+    EXPECT_FALSE(reader->txCont->Text().contains(u"[지어낸 머리글]"_s));
+    click(u"ID_소주제표시");
+    EXPECT_TRUE(reader->txCont->Text().contains(u"1\t[지어낸 머리글] "_s));
+    click(u"ID_테이블형식");
+    EXPECT_TRUE(reader->hflex본문->TextMatrix(2, 2).startsWith(u"[지어낸 머리글] "_s));
+}
+
+TEST_F(BibleWindowTest, AnAbsentVersionIsRefusedAndTheFormerOneStays)
+{
+    start();
+    const QString before = reader->txCont->Text();
+    services.messages.expect(u"CD 삽입 후 재실행 요망"_s,
+                             u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s, 48);
+    pickVersion(u"ID_cb기본버전", 204);
+    EXPECT_EQ(combo(u"ID_cb기본버전").Text(), u"개역한글"_s);
+    services.messages.expect(u"역본 미설치"_s, u"해당 역본이 설치되어 있지 않습니다."_s, 48);
+    pickVersion(u"ID_cb대역본1", 305);
+    EXPECT_EQ(combo(u"ID_cb대역본1").Text(), u"대역본1 - 없음"_s);
+    EXPECT_EQ(reader->versionName(1), u"None"_s);
+
+    // The module goes while the program runs.
+    ASSERT_TRUE(QFile::remove(services.folders.data(u"201.dts"_s)));
+    services.messages.expect(u"CD 삽입 후 재시행 요망"_s,
+                             u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s, 48);
+    click(u"ID_대역본0-201");
+    EXPECT_EQ(reader->versionName(0), u"개역한글"_s);
+    EXPECT_TRUE(reader->atbar.tool(u"ID_대역본0-101").checked());
+    EXPECT_FALSE(reader->atbar.tool(u"ID_대역본0-201").checked());
+    EXPECT_EQ(reader->txCont->Text(), before);
+}
+
+TEST_F(BibleWindowTest, MenusAndCombosChooseTheSameVersion)
+{
+    start();
+    click(u"ID_대역본1-201");
+    EXPECT_EQ(combo(u"ID_cb대역본1").Text(), u"대역본1 - KJV"_s);
+    EXPECT_EQ(reader->versionName(1), u"KJV"_s);
+    click(u"ID_대역본0-201");
+    EXPECT_EQ(reader->versionName(0), u"KJV"_s) << "the same version may stand in two slots";
+    EXPECT_TRUE(reader->txCont->Text().startsWith(u"1\t"_s + TinyData::text(201, 0, 1, 1)));
+    click(u"ID_대역본1-없음");
+    EXPECT_EQ(reader->versionCode(1), 0);
+}
+
+TEST_F(BibleWindowTest, ABaseVersionWithoutTheBookEmptiesTheViews)
+{
+    start();
+    pickVersion(u"ID_cb기본버전", 215);
+    EXPECT_EQ(reader->txCont->Text(), QString());
+    click(u"ID_테이블형식");
+    EXPECT_EQ(reader->hflex본문->Rows(), 1);
+    quickMove(u"창 1:3"_s); // selects nothing and says nothing
+    combo(u"ID_cb책명").setListIndex(42);
+    EXPECT_EQ(reader->hflex본문->Rows(), 6);
+}
+
+TEST_F(BibleWindowTest, HebrewLinesAppearOnceTheWindowIsShown)
+{
+    start();
+    pickVersion(u"ID_cb기본버전", 301);
+    close();
+    start();
+    ASSERT_EQ(reader->versionName(0), u"BHS"_s);
+    const QString text = reader->txCont->Text();
+    EXPECT_TRUE(text.startsWith(u"1   "_s));
+    EXPECT_GT(text.split(u'\n').first().size(), 10) << text.left(60).toStdString();
+}
+
+TEST_F(BibleWindowTest, TheChapterWindowGoesToAChapter)
+{
+    start();
+    click(u"ID_42");
+    auto* const chapters = reader->findChild<QFrame*>(u"frmHotMove"_s);
+    ASSERT_NE(chapters, nullptr);
+    auto* const third = chapters->findChild<QToolButton*>(u"chapter(3)"_s);
+    ASSERT_NE(third, nullptr);
+    QTest::mouseClick(third, Qt::LeftButton);
+    EXPECT_EQ(place(), u"요한복음 3장 1절"_s);
+    click(u"ID_성서책18");
+    EXPECT_EQ(combo(u"ID_cb책명").Text(), u"시편"_s);
+    EXPECT_EQ(combo(u"ID_cb장").count(), 150);
+}
+
+TEST_F(BibleWindowTest, TypedReferencesMoveOrTellWhatIsWrong)
+{
+    start();
+    quickMove(u"요한복음 3장16절"_s);
+    EXPECT_EQ(place(), u"요한복음 3장 16절"_s);
+    EXPECT_EQ(reader->GetCurVerseRange(), u"16"_s);
+    EXPECT_EQ(reader->quickMove->history(), QStringList{u"요3:16"_s});
+
+    services.messages.expect(
+        u"입력 오류"_s,
+        u"입력이 잘못되었습니다. '요 3:16' 또는 '요한복음 3:16'과 같은 방식으로 입력하시기 바랍니다."_s,
+        48);
+    quickMove(u"창 3"_s);
+    services.messages.expect(u"절 입력 오류"_s,
+                             u"입력하신 장이 실제 장 수보다 큽니다. 마지막 장을 선택합니다."_s, 48);
+    quickMove(u"창 99:1"_s);
+    EXPECT_EQ(combo(u"ID_cb장").ListIndex(), 49);
+    services.messages.expect(u"절 입력 오류"_s,
+                             u"입력하신 절이 실제 절 수보다 큽니다. 마지막 절을 선택합니다."_s, 48);
+    quickMove(u"창 2:9"_s);
+    EXPECT_EQ(place(), u"창세기 2장 3절"_s);
+    EXPECT_EQ(reader->quickMove->history().first(), u"창2:3"_s);
+}
+
+TEST_F(BibleWindowTest, EverythingIsThereAgainAtTheNextStart)
+{
+    start();
+    quickMove(u"요 3:16"_s);
+    pickVersion(u"ID_cb대역본1", 201);
+    pickVersion(u"ID_cb대역본3", 306);
+    click(u"ID_글자크기5");
+    click(u"ID_줄간격2배");
+    click(u"ID_테이블형식");
+    click(u"ID_성서이동도구모음");
+    close();
+    EXPECT_EQ(stored(u"BookNum"_s), u"42"_s);
+    EXPECT_EQ(stored(u"ViewMode"_s), u"0"_s);
+    EXPECT_EQ(stored(u"Path"_s), u"C:\\lumenscript"_s);
+
+    start();
+    EXPECT_EQ(place(), u"요한복음 3장 1절"_s);
+    EXPECT_TRUE(reader->hflex본문->isVisible());
+    EXPECT_EQ(reader->versionName(1), u"KJV"_s);
+    EXPECT_EQ(reader->versionName(2), u"None"_s);
+    EXPECT_EQ(reader->versionName(3), u"TR Stephanus"_s);
+    EXPECT_TRUE(reader->atbar.tool(u"ID_글자크기5").checked());
+    EXPECT_FALSE(reader->atbar.tool(u"ID_글자크기3").checked());
+    EXPECT_TRUE(reader->atbar.tool(u"ID_줄간격2배").checked());
+    EXPECT_FALSE(reader->atbar.barVisible(reader_bar::kMove1));
+}
+
+TEST_F(BibleWindowTest, StoredValuesOutsideTheirLimitsFallBack)
+{
+    store(u"FontSize"_s, u"9"_s);
+    store(u"ChapNum"_s, u"49"_s);
+    store(u"BookNum"_s, u"42"_s);
+    store(u"DefVerNum"_s, u"9999"_s);
+    store(u"Interlinear1"_s, u"12"_s); // NIV, which is absent
+    start();
+    EXPECT_TRUE(reader->atbar.tool(u"ID_글자크기3").checked());
+    EXPECT_EQ(place(), u"요한복음 1장 1절"_s);
+    EXPECT_EQ(reader->versionName(0), u"개역한글"_s);
+    EXPECT_EQ(reader->versionName(1), u"None"_s);
+}
+
+TEST_F(BibleWindowTest, TheEndLeavesTwoGenerationsOfBackups)
+{
+    start();
+    close();
+    const QString backup = services.folders.root() + u"/OrvaneBackup/"_s;
+    EXPECT_TRUE(QFile::exists(backup + u"myc.mdb"_s));
+    EXPECT_FALSE(QFile::exists(backup + u"mycbak.mdb"_s));
+    EXPECT_FALSE(QFile::exists(services.folders.data(u"mycc.mdb"_s)));
+    start();
+    quickMove(u"창 2:2"_s);
+    QTest::mouseClick(reader->bookmarks->cmd책갈피추가, Qt::LeftButton);
+    close();
+    EXPECT_TRUE(QFile::exists(backup + u"mycbak.mdb"_s));
+    QFile bookmarks(backup + u"bmk.bmf"_s);
+    ASSERT_TRUE(bookmarks.open(QIODevice::ReadOnly));
+    EXPECT_EQ(bookmarks.readAll(), QByteArray("\xc3\xa2"
+                                              "2:2\r\n"))
+        << "code page 949";
+}
+
+TEST_F(BibleWindowTest, PagesAndHelpGoToTheDesktopAndMissingOnesAreTold)
+{
+    start();
+    click(u"ID_책별소개");
+    EXPECT_EQ(services.shell.opened,
+              QStringList{u"C:\\lumenscript\\data\\책별소개(현대인의 성경).htm"_s});
+    click(u"ID_목차");
+    EXPECT_EQ(services.help.asked, QStringList{u"Lumens_Intro.htm"_s});
+    services.shell.failure = Failure{FailureKind::NotFound, {}};
+    services.messages.expect(
+        u"파일 없음"_s, u"파일을 열 수 없습니다.\r\nC:\\lumenscript\\data\\역본설명.htm"_s, 48);
+    click(u"ID_역본설명");
+    click(u"ID_검색");
+    click(u"ID_환경설정");
+    EXPECT_EQ(opener.opened, (std::vector{WindowId::Search, WindowId::Preferences}));
+}
+
+} // namespace
+} // namespace lumen

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "data/data_store.h"
+#include "dying_writer.h"
+#include "platform/jet/data_control.h"
+#include "platform/jet/jet_engine.h"
+#include "platform/jet/jet_error.h"
+#include "reader/personal_notes.h"
+#include "support/test_services.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include <csignal>
+#include <ostream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace lumen {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+using Notes = std::vector<Note>;
+
+/// Notes in a data folder of their own. Each access has an engine of its own, as each run of the
+/// program has.
+class PersonalNotesTest : public testing::Test
+{
+protected:
+    PersonalNotesTest()
+    {
+        EXPECT_TRUE(createUserDatabases(world.state.AppPath, world.files, world.drives,
+                                        world.clock.now().date()));
+    }
+
+    template <typename Work>
+    auto with(Work work)
+    {
+        JetEngine engine(world.drives);
+        DataControl dacPersnote(engine);
+        PersonalNotes notes(dacPersnote, world.state.AppPath + u"\\Data\\myc.mdb"_s);
+        return work(notes);
+    }
+    Notes load(const QString& chapter)
+    {
+        return with([&](PersonalNotes& notes) { return notes.load(chapter); });
+    }
+    void save(const QString& chapter, const Notes& rows)
+    {
+        with([&](PersonalNotes& notes) { notes.save(chapter, rows); });
+    }
+
+    TestServices world;
+};
+
+TEST_F(PersonalNotesTest, NotesComeBackInTheirOrder)
+{
+    const Notes notes{{u"요3:16"_s, u"it's *[ | \"#"_s},
+                      {u"요3:1-5"_s, u"둘째 줄\r\n셋째 줄"_s},
+                      {u"요3:2"_s, QString(5000, u'긴')}};
+    save(u"요3:"_s, notes);
+    EXPECT_EQ(load(u"요3:"_s), notes);
+    const Notes turned(notes.rbegin(), notes.rend());
+    save(u"요3:"_s, turned);
+    EXPECT_EQ(load(u"요3:"_s), turned);
+}
+
+TEST_F(PersonalNotesTest, OtherChaptersStay)
+{
+    save(u"창1:"_s, {{u"창1:1"_s, u"첫 장"_s}});
+    save(u"창10:"_s, {{u"창10:1"_s, u"열째 장"_s}});
+    save(u"창1:"_s, {});
+    EXPECT_EQ(load(u"창1:"_s), Notes());
+    EXPECT_EQ(load(u"창10:"_s), (Notes{{u"창10:1"_s, u"열째 장"_s}}));
+}
+
+TEST_F(PersonalNotesTest, TheFirstNoteWithoutTextEndsTheSaving)
+{
+    save(u"요3:"_s, {{u"요3:1"_s, u"하나"_s}, {u"요3:2"_s, u""_s}, {u"요3:3"_s, u"셋"_s}});
+    EXPECT_EQ(load(u"요3:"_s), (Notes{{u"요3:1"_s, u"하나"_s}}));
+}
+
+TEST_F(PersonalNotesTest, AFailedSaveLeavesTheOldNotes)
+{
+    const Notes old{{u"요3:1"_s, u"하나"_s}, {u"요3:2"_s, u"둘"_s}};
+    save(u"요3:"_s, old);
+    const Notes tooLong{{u"요3:1"_s, u"새 것"_s},
+                        {u"요3:"_s + QString(300, u'1'), u"자리가 길다"_s}};
+    with([&](PersonalNotes& notes) {
+        EXPECT_THROW(notes.save(u"요3:"_s, tooLong), JetError);
+        EXPECT_EQ(notes.load(u"요3:"_s), old) << "also in the same run";
+    });
+    EXPECT_EQ(load(u"요3:"_s), old);
+}
+
+// Runs the save in children that die in the middle of their first, second, ... write to the disc,
+// until one gets through.
+TEST_F(PersonalNotesTest, KilledAtAnyWriteTheOldOrTheNewNotesAreThere)
+{
+    const Notes old{{u"시119:1"_s, QString(3000, u'옛')}, {u"시119:2"_s, u"둘"_s}};
+    const Notes fresh{
+        {u"시119:2"_s, QString(9000, u'새')}, {u"시119:1"_s, u"하나"_s}, {u"시119:3-4"_s, u"셋"_s}};
+    const QString chapter = u"시119:"_s;
+    int killed = 0;
+    int foundOld = 0;
+    int foundFresh = 0;
+    for (bool through = false; !through;) {
+        save(chapter, old);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            dieAtDatabaseWrite(killed + 1);
+            save(chapter, fresh);
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        through = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        if (!through) {
+            ASSERT_TRUE(WIFSIGNALED(status));
+            ASSERT_EQ(WTERMSIG(status), SIGKILL);
+            ++killed;
+        }
+        const Notes found = load(chapter);
+        foundOld += found == old ? 1 : 0;
+        foundFresh += found == fresh ? 1 : 0;
+        ASSERT_EQ(foundOld + foundFresh, killed + (through ? 1 : 0)) << "half of a save";
+        ASSERT_LT(killed, 1000);
+    }
+    EXPECT_GE(killed, 5) << "a save writes journal and database";
+    EXPECT_GE(foundOld, 2);
+    EXPECT_GE(foundFresh, 1);
+}
+
+TEST_F(PersonalNotesTest, OldNotesOfAUserAreTakenOver)
+{
+    const QString folder = qEnvironmentVariable("LUMENSCRIPT_USER_DATA");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "LUMENSCRIPT_USER_DATA is not set";
+    const QString original = folder + u"/jet/myc-made.mdb"_s;
+    const QString place = world.folders.data(u"myc.mdb"_s);
+    ASSERT_TRUE(QFile::remove(place));
+    ASSERT_TRUE(QFile::copy(original, place));
+
+    QStringList found;
+    for (const QString& chapter : {u"창1:"_s, u"창10:"_s, u"요3:"_s, u"시119:"_s}) {
+        for (const Note& note : load(chapter)) {
+            EXPECT_TRUE(note.place.startsWith(chapter));
+            EXPECT_FALSE(note.text.isEmpty());
+            found << note.place;
+        }
+    }
+    EXPECT_EQ(found.size(), 6);
+
+    QFile kept(place + u".jet"_s);
+    QFile source(original);
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), source.readAll());
+}
+
+} // namespace
+} // namespace lumen

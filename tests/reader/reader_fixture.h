@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "forms/startup_progress.h"
+#include "forms/window_opener.h"
+#include "reader/bible_window.h"
+#include "support/test_services.h"
+#include "support/tiny_data.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+
+#include <memory>
+#include <vector>
+
+namespace lumen {
+
+class RecordingOpener : public WindowOpener
+{
+public:
+    void open(WindowId window) override { opened.push_back(window); }
+    std::vector<WindowId> opened;
+};
+
+class RecordingSplash : public StartupProgress
+{
+public:
+    void showSplash() override { visible = true; }
+    void setProgress(int percent) override { steps.push_back(percent); }
+    void hideSplash() override { visible = false; }
+    bool visible = false;
+    std::vector<int> steps;
+};
+
+/// The real reader window over the tiny Data folder, shown offscreen.
+class ReaderTest : public testing::Test
+{
+protected:
+    /// Loads and shows a reader; one from before is closed first, as at the program's end.
+    void start()
+    {
+        close();
+        reader = std::make_unique<frm성서>(services.services, services.state, opener);
+        ASSERT_TRUE(reader->Form_Load(splash));
+        reader->show();
+        reader->resize(1000, 700);
+        QApplication::processEvents();
+    }
+    void close()
+    {
+        if (reader)
+            reader->close();
+        reader.reset();
+    }
+
+    void click(QStringView toolId) { reader->atbar.tool(toolId).action()->trigger(); }
+    ComboBox& combo(QStringView toolId) { return reader->atbar.tool(toolId).combo(); }
+    void pickVersion(QStringView comboId, int code)
+    {
+        combo(comboId).setListIndex(combo(comboId).findItemData(code));
+    }
+    QString stored(const QString& name)
+    {
+        services.registry.OpenKey(settingsPath(settings_key::kBible));
+        return services.registry.GetValue(name, ValueKind::String);
+    }
+    void store(const QString& name, const QString& value)
+    {
+        services.registry.OpenKey(settingsPath(settings_key::kBible));
+        services.registry.SetValue(name, value, ValueKind::String);
+    }
+    /// Types a reference into the quick-move box and presses Enter.
+    void quickMove(const QString& reference)
+    {
+        QLineEdit* const box = reader->quickMove->tx즉석이동;
+        box->setFocus();
+        box->setText(reference);
+        QTest::keyClick(box, Qt::Key_Return);
+    }
+    QString place() const { return reader->statusPanel2->text(); }
+
+    TestServices services;
+    TinyData data{services};
+    RecordingOpener opener;
+    RecordingSplash splash;
+    std::unique_ptr<frm성서> reader;
+};
+
+} // namespace lumen
