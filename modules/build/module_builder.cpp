@@ -40,7 +40,8 @@ VersionResult preparedText(const ModuleTask& task)
     for (const Mend mend : task.mends)
         mend(version);
     if (!task.ownMapping.isEmpty()) {
-        const auto renumbered = renumberVerses(version, task.ownMapping, task.englishMapping);
+        const auto renumbered =
+            renumberVerses(version, task.ownMapping, task.englishMapping, task.psalmNumbers);
         if (!renumbered)
             return renumbered.failure();
     }

@@ -24,6 +24,7 @@ struct ModuleTask
     Numbering numbering = Numbering::English;
     QString ownMapping; ///< mapping files for renumbering, "" to keep the source's numbers
     QString englishMapping;
+    PsalmNumbers psalmNumbers = PsalmNumbers::AsMapped;
     QString origin;  ///< where the text comes from, for the module's origin lines
     QString licence; ///< under what conditions
     QString hint;    ///< how to get the source when it is not there

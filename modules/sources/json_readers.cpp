@@ -11,6 +11,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace lumen {
 
 using namespace Qt::StringLiterals;
@@ -97,13 +99,20 @@ Result<QJsonDocument> readJsonFile(const QString& file)
 VersionResult readBookJsonFiles(const QStringList& files)
 {
     VersionText version;
+    BookFiles books;
     for (const QString& file : files) {
         const auto document = readJsonFile(file);
         if (!document)
             return document.failure();
+        const std::size_t before = version.verses.size();
         if (auto failure = addBook(file, document.value().object(), version))
             return *failure;
+        if (auto failure = books.add(file, version, before))
+            return *failure;
     }
+    // Files come in the order of their names.
+    std::stable_sort(version.verses.begin(), version.verses.end(),
+                     [](const VerseText& a, const VerseText& b) { return a.book < b.book; });
     if (version.verses.empty())
         return sourceFailure(files.isEmpty() ? u"JSON"_s : fileName(files.first()), 0,
                              u"절이 하나도 없습니다."_s);

@@ -65,6 +65,81 @@ bool dropDoubledBrackets(QString& text, int& depth)
     return dropped;
 }
 
+struct PsalmMove
+{
+    int chapter;
+    int firstVerse;
+    int lastVerse;
+    int toChapter;
+    int toVerse;
+};
+
+constexpr int kToTheEnd = 1000;
+
+// Where the source of the Douay text has verses of the Psalms, and where they belong. From 120 on
+// the chapters count one too many, from 149 on two.
+constexpr std::array kDouayPsalms{
+    PsalmMove{114, 9, kToTheEnd, 115, 1},   PsalmMove{115, 1, kToTheEnd, 116, 1},
+    PsalmMove{116, 1, 1, 116, 10},          PsalmMove{149, 1, 1, 147, 12},
+    PsalmMove{149, 13, kToTheEnd, 147, 13}, PsalmMove{150, 1, kToTheEnd, 148, 1},
+    PsalmMove{151, 1, kToTheEnd, 149, 1},   PsalmMove{152, 1, kToTheEnd, 150, 1},
+};
+
+// Psalms 10 and 11 stand under one number, their verses by turns: the first seven rounds are
+// 11:n, 10:n + 1 and a number that is left out; then Psalm 10 goes on alone.
+bool untangleTenAndEleven(VerseText& verse)
+{
+    constexpr int kLastOfEleven = 22;
+    if (verse.chapter != 11)
+        return false;
+    if (verse.verse <= kLastOfEleven && verse.verse % 3 == 1) {
+        verse.verse = (verse.verse + 2) / 3;
+    } else {
+        verse.chapter = 10;
+        verse.verse = verse.verse > kLastOfEleven ? verse.verse - 14 : verse.verse / 3 + 2;
+    }
+    return true;
+}
+
+bool moveDouayPsalm(VerseText& verse)
+{
+    if (untangleTenAndEleven(verse))
+        return true;
+    for (const PsalmMove& move : kDouayPsalms) {
+        if (verse.chapter != move.chapter || verse.verse < move.firstVerse ||
+            verse.verse > move.lastVerse)
+            continue;
+        verse.chapter = move.toChapter;
+        verse.verse += move.toVerse - move.firstVerse;
+        return true;
+    }
+    if (verse.chapter < 119)
+        return false;
+    if (verse.chapter > 119) {
+        --verse.chapter;
+        return true;
+    }
+    // The letter Aleph alone is all of this chapter.
+    addHeading(verse.miniTitle, verse.text.value_or(QString()));
+    verse.text.reset();
+    return true;
+}
+
+constexpr QStringView kDouayFiller = u"dummy verses inserted by amos";
+
+int mendDouayPsalms(VersionText& version)
+{
+    // Fillers in chapters that are moved would come to lie upon verses that exist.
+    std::erase_if(version.verses, [](const VerseText& verse) {
+        return verse.book == kPsalms && (verse.chapter == 116 || verse.chapter == 149) &&
+               verse.text == kDouayFiller;
+    });
+    return static_cast<int>(
+        std::count_if(version.verses.begin(), version.verses.end(), [](VerseText& verse) {
+            return verse.book == kPsalms && moveDouayPsalm(verse);
+        }));
+}
+
 template <typename Change>
 int changeTexts(VersionText& version, Change change)
 {
@@ -85,12 +160,15 @@ int changeTexts(VersionText& version, Change change)
 void korean(VersionText& version)
 {
     int depth = 0;
+    int book = 0;
     QStringList doubled;
     QStringList stray;
     int braces = 0;
     for (VerseText& verse : version.verses) {
         if (!verse.text)
             continue;
+        if (std::exchange(book, verse.book) != verse.book)
+            depth = 0;
         QString text = verse.text->normalized(QString::NormalizationForm_C);
         if (isKoreanPlaceholder(text)) {
             verse.text.reset();
@@ -125,9 +203,20 @@ void asv(VersionText& version)
     remark(version, u"보충한 낱말의 표시를 뺐습니다"_s, changed);
 }
 
+void kjvWithNumbers(VersionText& version)
+{
+    static const QRegularExpression dash(u"(?<=[A-Za-z>])\u2013(?=[A-Za-z])"_s);
+    const int changed = changeTexts(version, [](VerseText& verse) {
+        verse.text->remove(u"filter_string_"_s);
+        verse.text->replace(dash, u"-"_s);
+    });
+    remark(version, u"잘못 바뀐 낱말과 이름의 줄표를 바로잡았습니다"_s, changed);
+}
+
 void darby(VersionText& version)
 {
     static const QRegularExpression title(uR"(^\{([^}]*)\}\s*)"_s);
+    static const QRegularExpression letter(uR"(^([A-Z]{2,})\.\s+)"_s);
     int titles = 0;
     const int stressed = changeTexts(version, [&titles](VerseText& verse) {
         const auto match = title.match(*verse.text);
@@ -136,8 +225,14 @@ void darby(VersionText& version)
             verse.text = textOrNothing(verse.text->mid(match.capturedLength()));
             ++titles;
         }
-        if (verse.text)
-            verse.text->remove(u'*');
+        if (!verse.text)
+            return;
+        const auto head = letter.match(*verse.text);
+        if (verse.book == kPsalms && verse.chapter == 119 && head.hasMatch()) {
+            addHeading(verse.miniTitle, head.captured(1));
+            verse.text->remove(0, head.capturedLength());
+        }
+        verse.text->remove(u'*');
     });
     remark(version, u"시편의 표제를 본문에서 떼었습니다"_s, titles);
     remark(version, u"표제와 강조 표시를 정리했습니다"_s, stressed);
@@ -145,10 +240,11 @@ void darby(VersionText& version)
 
 void douay(VersionText& version)
 {
+    remark(version, u"시편의 장 번호를 바로잡았습니다"_s, mendDouayPsalms(version));
     static const QRegularExpression lineEnd(uR"(\s*\\$)"_s);
     QStringList stray;
     const int changed = changeTexts(version, [&stray](VerseText& verse) {
-        if (*verse.text == u"dummy verses inserted by amos") {
+        if (*verse.text == kDouayFiller) {
             verse.text.reset();
             return;
         }

@@ -21,10 +21,17 @@ void baptist(VersionText& version);
 /// Marks of added words, `so', are dropped: the text has none otherwise.
 void asv(VersionText& version);
 
-/// Titles of Psalms in braces become parts, asterisks around stressed words are dropped.
+/// The tagged text carries the traces of a search and replace ("filter_string_trimmed") and dashes
+/// in names ("Beth–el") where the other text has hyphens.
+void kjvWithNumbers(VersionText& version);
+
+/// Titles of Psalms in braces become parts, the letters of Psalm 119 headings, and asterisks around
+/// stressed words are dropped.
 void darby(VersionText& version);
 
-/// Filler verses become no words; a backslash that ends a line is dropped.
+/// Filler verses become no words; a backslash that ends a line is dropped. The Psalms, some of
+/// which the source has mixed up or moved beyond 150, get the chapters of the Hebrew text; within a
+/// chapter the title counts as a verse.
 void douay(VersionText& version);
 
 /// Part of the text is numbered as in Hebrew and says so: "\6:1\" tells chapter and verse of what

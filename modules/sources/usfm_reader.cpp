@@ -312,12 +312,16 @@ Result<QString> decodedFile(const QString& file)
 VersionResult readUsfmFiles(const QStringList& files)
 {
     VersionText version;
+    BookFiles books;
     for (const QString& file : files) {
         const auto text = decodedFile(file);
         if (!text)
             return text.failure();
+        const std::size_t before = version.verses.size();
         UsfmBook book(QFileInfo(file).fileName(), version);
         if (auto failure = book.read(usfmTokens(text.value())))
+            return *failure;
+        if (auto failure = books.add(file, version, before))
             return *failure;
     }
     if (version.verses.empty())

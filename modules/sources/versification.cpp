@@ -168,8 +168,9 @@ CanonCheck checkAgainstCanon(const VersionText& version, Numbering numbering)
 }
 
 Result<Done> renumberVerses(VersionText& version, const QString& ownMapping,
-                            const QString& englishMapping)
+                            const QString& englishMapping, PsalmNumbers psalms)
 {
+    constexpr int kPsalms = 18;
     const auto toOriginal = readMapping(ownMapping, Direction::ToOriginal);
     if (!toOriginal)
         return toOriginal.failure();
@@ -179,7 +180,8 @@ Result<Done> renumberVerses(VersionText& version, const QString& ownMapping,
     int moved = 0;
     for (VerseText& verse : version.verses) {
         const VersePlace own{verse.book, verse.chapter, verse.verse};
-        const VersePlace original = toOriginal.value().value(placeKey(own), own);
+        const bool isOriginal = verse.book == kPsalms && psalms == PsalmNumbers::AsOriginal;
+        const VersePlace original = isOriginal ? own : toOriginal.value().value(placeKey(own), own);
         const VersePlace english = toEnglish.value().value(placeKey(original), original);
         if (english == own)
             continue;

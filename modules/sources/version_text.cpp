@@ -3,6 +3,8 @@
 
 #include "canon/canon_table.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <map>
 #include <tuple>
@@ -15,6 +17,7 @@ namespace {
 
 constexpr int kPsalms = 18;
 constexpr int kAlphabetPsalm = 119;
+constexpr qsizetype kShownPlaces = 20;
 
 auto placeOf(const VerseText& verse)
 {
@@ -72,6 +75,20 @@ Failure missingSource(const QString& file)
     return {FailureKind::NotFound, file};
 }
 
+std::optional<Failure> BookFiles::add(const QString& file, const VersionText& version,
+                                      std::size_t begin)
+{
+    const QString name = QFileInfo(file).fileName();
+    for (std::size_t i = begin; i < version.verses.size(); ++i) {
+        const int book = version.verses[i].book;
+        const auto [known, added] = m_fileOfBook.emplace(book, name);
+        if (!added && known->second != name)
+            return sourceFailure(
+                name, 0, u"%1의 본문이 %2에도 있습니다."_s.arg(bookName(book), known->second));
+    }
+    return std::nullopt;
+}
+
 void addHeading(QString& headings, const QString& heading)
 {
     if (heading.isEmpty())
@@ -88,6 +105,7 @@ void arrangeVerses(VersionText& version)
     std::stable_sort(verses.begin(), verses.end(), [](const VerseText& a, const VerseText& b) {
         return placeOf(a) < placeOf(b);
     });
+    QStringList joined;
     std::vector<VerseText> arranged;
     arranged.reserve(verses.size());
     for (VerseText& verse : verses) {
@@ -97,11 +115,17 @@ void arrangeVerses(VersionText& version)
             continue;
         }
         VerseText& same = arranged.back();
+        if (same.text && verse.text)
+            joined
+                << u"%1%2:%3"_s.arg(bookAbbreviation(same.book)).arg(same.chapter).arg(same.verse);
         appendText(same.text, verse.text);
         appendText(same.part, verse.part);
         addHeading(same.miniTitle, verse.miniTitle);
     }
     verses = std::move(arranged);
+    if (!joined.isEmpty())
+        version.remarks << u"같은 절에 속한 본문을 이었습니다 (%1절): %2"_s.arg(joined.size())
+                               .arg(joined.mid(0, kShownPlaces).join(u' '));
 }
 
 } // namespace lumen

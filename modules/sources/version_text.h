@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -42,13 +43,24 @@ Failure sourceFailure(const QString& file, qint64 line, const QString& reason);
 /// The failure of a source that is not installed or not there.
 Failure missingSource(const QString& file);
 
+/// Watches that no book of a version comes from two files: its verses would stand there twice.
+class BookFiles
+{
+public:
+    /// The verses from `begin` on came from `file`. Damaged when the book was there before.
+    std::optional<Failure> add(const QString& file, const VersionText& version, std::size_t begin);
+
+private:
+    std::map<int, QString> m_fileOfBook;
+};
+
 /// Puts a heading behind those that a verse has already.
 void addHeading(QString& headings, const QString& heading);
 
 /// Brings the verses into canon order and joins those of the same place: texts with a blank, parts
-/// and headings likewise. Chapters beyond the canon and verse 0 are dropped and told in a remark.
-/// Psalm 119 has no title: what a source marks so there are the letters of its alphabet, and they
-/// become headings.
+/// and headings likewise, which a remark tells. Chapters beyond the canon and verse 0 are dropped
+/// and told in a remark. Psalm 119 has no title: what a source marks so there are the letters of
+/// its alphabet, and they become headings.
 void arrangeVerses(VersionText& version);
 
 } // namespace lumen
