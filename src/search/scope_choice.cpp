@@ -56,7 +56,8 @@ void ScopeChoice::cb범위_Click()
     else
         m_scopeTag = kScopes[static_cast<std::size_t>(index)].tag.toString();
     // The dialog may have put the list back to its first entry, whose own click has told the scope.
-    m_power.cbP범위->setListIndex(m_easy.cb범위->ListIndex());
+    // Without the click of the mirror, which would open the books once more.
+    m_power.cbP범위->setCurrentIndex(m_easy.cb범위->ListIndex());
     if (index != kScopeBooks)
         onScopeText(u"검색 범위: "_s + m_easy.cb범위->Text());
 }
@@ -112,7 +113,7 @@ void ScopeChoice::takeBooks(dlog책별선택& dialog)
         return;
     }
     m_easy.cb범위->setListIndex(kScopeAll);
-    m_power.cbP범위->setListIndex(kScopeAll);
+    m_power.cbP범위->setCurrentIndex(kScopeAll);
     // The list of languages and not that of scopes: that is how the window does it.
     m_parsing.cbParVer->setListIndex(0);
 }

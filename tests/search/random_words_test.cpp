@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "canon/verse_index.h"
+#include "search/bible_search.h"
+#include "search/easy_search.h"
+#include "search/plain_scan.h"
+#include "search/power_search.h"
+#include "search/search_scope.h"
+#include "support/test_services.h"
+#include "text/basic_text.h"
+#include "text/field_scramble.h"
+
+#include <gtest/gtest.h>
+
+#include <QRandomGenerator>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+constexpr quint32 kSeed = 20030501;
+
+/// Texts made of what could go wrong on the way into a query: wildcards, quotes, brackets, bars,
+/// line ends, characters that are stored as wildcards, Hangul inside and outside the scrambled
+/// blocks, Hanja, pairs of surrogates.
+const QStringList& pieces()
+{
+    static const QStringList all{
+        u"*"_s,      u"?"_s,      u"#"_s,  u"["_s,   u"]"_s,  u"!"_s,      u"-"_s,
+        u"'"_s,      u"\""_s,     u"|"_s,  u"%"_s,   u"_"_s,  u"\\"_s,     u"&"_s,
+        u";"_s,      u"("_s,      u")"_s,  u"--"_s,  u" "_s,  u"  "_s,     u"\t"_s,
+        u"\r\n"_s,   u"I"_s,      u"B"_s,  u"^"_s,   u"F"_s,  u"z"_s,      u"a"_s,
+        u"A"_s,      u"0"_s,      u"~"_s,  u"가"_s,  u"힝"_s, u"하나님"_s, u"똠"_s,
+        u"펲"_s,     u"恩"_s,     u"é"_s,  u"ß"_s,   u"😀"_s,  u"𐤀"_s,      u"ﬀ"_s,
+        u"\u200F"_s, u"\u0301"_s, u"or"_s, u"and"_s, u"%1"_s, u"[a-z]"_s,  u"\u0001"_s};
+    return all;
+}
+
+class RandomWords
+{
+public:
+    QString text(int mostPieces)
+    {
+        QString result;
+        for (int left = m_random.bounded(1, mostPieces + 1); left > 0; --left)
+            result += pieces().at(m_random.bounded(pieces().size()));
+        return result;
+    }
+    /// A stretch of a verse or a text of its own, which most verses don't hold.
+    QString word(const MadeBible& bible)
+    {
+        if (m_random.bounded(4) == 0)
+            return text(4);
+        const QString verse = *bible.at(m_random.bounded(bible.size())).cont;
+        if (verse.isEmpty())
+            return text(1);
+        const auto start = m_random.bounded(verse.size());
+        return verse.mid(start, m_random.bounded(1, 7));
+    }
+
+private:
+    QRandomGenerator m_random{kSeed};
+};
+
+bool holdsLoneSurrogate(const QString& text)
+{
+    return !text.isValidUtf16();
+}
+
+class RandomWordsTest : public testing::Test
+{
+protected:
+    void writeAndOpen(const MadeBible& verses)
+    {
+        bible = verses;
+        writeVersion(test.folders.data(u"101.dts"_s), u"개역한글"_s, bible);
+        search.setModule(u"C:\\lumenscript\\Data\\101.dts"_s);
+    }
+
+    QStringList found()
+    {
+        QStringList references;
+        Recordset& result = *search.dacSearch.Recordset();
+        for (; !result.Eof(); result.MoveNext())
+            references << BibleCode::IndexToRef(Text(result.Fields(u"index")));
+        EXPECT_EQ(references.size(), search.count());
+        return references;
+    }
+
+    QStringList easy(const QString& word)
+    {
+        search.query(scopedQuery(SearchKind::Easy, u"개역한글"_s,
+                                 easyCriterion(Trim(word).toString()), u"All"_s));
+        return found();
+    }
+
+    MadeBible bible;
+    TestServices test;
+    BibleSearch search{test.jet};
+};
+
+TEST_F(RandomWordsTest, EasySearchFindsExactlyTheVersesThatHoldTheText)
+{
+    RandomWords random;
+    MadeBible verses;
+    for (int number = 0; number < 300; ++number)
+        verses << madeVerse(number / 100, number / 10 % 10 + 1, number % 10 + 1, random.text(12));
+    writeAndOpen(verses);
+    int hits = 0;
+    for (int round = 0; round < 4000; ++round) {
+        const QString word = random.word(bible);
+        const QString trimmed = Trim(word).toString();
+        const QStringList expected =
+            holdsLoneSurrogate(trimmed) ? QStringList() : plainScan(bible, trimmed);
+        hits += static_cast<int>(expected.size());
+        ASSERT_EQ(easy(word), expected) << round << ": " << word.toStdString();
+    }
+    EXPECT_GT(hits, 4000);
+}
+
+TEST_F(RandomWordsTest, PowerSearchAndNarrowingAgreeWithAPlainLook)
+{
+    RandomWords random;
+    MadeBible verses;
+    for (int number = 0; number < 200; ++number)
+        verses << madeVerse(number / 100, number / 10 % 10 + 1, number % 10 + 1, random.text(12));
+    writeAndOpen(verses);
+    const auto word = [&] {
+        QString text;
+        while (text.isEmpty() || holdsLoneSurrogate(text))
+            text = Trim(random.word(bible)).toString();
+        return text;
+    };
+    for (int round = 0; round < 800; ++round) {
+        const QString a = word();
+        const QString b = word();
+        const QString c = word();
+        const auto has = [](const PlainVerse& verse, const QString& text) {
+            return verse.cont->contains(text);
+        };
+        const auto one = round % 2 == 0 ? Conjunction::And : Conjunction::Or;
+        const auto two = round / 2 % 2 == 0 ? Conjunction::And : Conjunction::Or;
+        const auto meets = [&](const PlainVerse& verse) {
+            const bool first = has(verse, a);
+            const bool second = has(verse, b);
+            const bool third = has(verse, c);
+            if (one == Conjunction::Or && two == Conjunction::And)
+                return (first || second) && third;
+            const bool pair = one == Conjunction::And ? first && second : first || second;
+            return two == Conjunction::And ? pair && third : pair || third;
+        };
+        search.query(scopedQuery(SearchKind::Power, u"개역한글"_s,
+                                 powerCriterion({a, b, c, one, two}), u"All"_s));
+        ASSERT_EQ(found(), plainScan(bible, meets)) << round;
+        const QString d = word();
+        search.narrow(easyCriterion(d));
+        ASSERT_EQ(found(),
+                  plainScan(bible,
+                            [&](const PlainVerse& verse) { return meets(verse) && has(verse, d); }))
+            << round;
+    }
+}
+
+TEST_F(RandomWordsTest, VeryLongTextsAndBrokenCharactersFindWhatHoldsThemOrNothing)
+{
+    const QString high(QChar(0xD83D));
+    const QString low(QChar(0xDE00));
+    const QString brackets(10000, u'[');
+    const QString mixed = u"z*?#'I"_s.repeated(1500);
+    writeAndOpen({madeVerse(0, 1, 1, u"smile "_s + high + low + u" end"_s),
+                  madeVerse(0, 1, 2, brackets), madeVerse(0, 1, 3, u"a"_s + mixed + u"b"_s),
+                  madeVerse(0, 1, 4, u"before\u0001after"_s), madeVerse(0, 1, 5, QString())});
+    EXPECT_EQ(easy(high + low), QStringList{u"창1:1"_s});
+    for (const QString& broken : {high, low, low + high, u"smile "_s + high, high + u" end"_s})
+        EXPECT_EQ(easy(broken), QStringList());
+    EXPECT_EQ(easy(brackets), QStringList{u"창1:2"_s});
+    EXPECT_EQ(easy(brackets + u"["_s), QStringList());
+    EXPECT_EQ(easy(mixed), QStringList{u"창1:3"_s});
+    EXPECT_EQ(easy(u"\u0001"_s), QStringList{u"창1:4"_s});
+    // A NUL ends no query early: the text in front of it isn't searched alone.
+    EXPECT_EQ(easy(QString(QChar(u'\0'))), QStringList());
+    EXPECT_EQ(easy(u"before"_s + QChar(u'\0')), QStringList());
+    EXPECT_EQ(easy(u"before"_s + QChar(u'\0') + u"*"_s), QStringList());
+    EXPECT_EQ(easy(QString()).size(), 5);
+}
+
+/// Words of a real text against a plain look at it; runs where a folder of modules is named.
+TEST_F(RandomWordsTest, CountsInAnInstalledVersionEqualAPlainCount)
+{
+    const QString folder = qEnvironmentVariable("LUMENSCRIPT_MODULES");
+    struct Version
+    {
+        QString file;
+        QString table;
+    };
+    const Version versions[] = {{u"101.dts"_s, u"개역한글"_s},
+                                {u"201.dts"_s, u"KJV"_s},
+                                {u"213.dts"_s, u"WEB"_s},
+                                {u"223.dts"_s, u"스페인어 SRV"_s}};
+    int searched = 0;
+    for (const Version& version : versions) {
+        const QString path = folder + u'/' + version.file;
+        if (folder.isEmpty() || !QFile::exists(path))
+            continue;
+        ++searched;
+        SCOPED_TRACE(version.table.toStdString());
+        search.setModule(path);
+        search.query(u"select * from ["_s + version.table + u"] order by index"_s);
+        Recordset& rows = *search.dacSearch.Recordset();
+        QStringList contents;
+        for (; !rows.Eof(); rows.MoveNext())
+            contents << DES::UnscrambleField(Text(rows.Fields(u"Cont")));
+        QRandomGenerator random(kSeed);
+        for (int round = 0; round < 300; ++round) {
+            const QString verse = contents.at(random.bounded(contents.size()));
+            const QString word =
+                Trim(verse.mid(random.bounded(std::max<qsizetype>(1, verse.size())),
+                               random.bounded(1, 12)))
+                    .toString();
+            const auto expected = std::ranges::count_if(
+                contents, [&](const QString& text) { return text.contains(word); });
+            search.query(
+                scopedQuery(SearchKind::Easy, version.table, easyCriterion(word), u"All"_s));
+            ASSERT_EQ(search.count(), expected) << word.toStdString();
+        }
+    }
+    if (searched == 0)
+        GTEST_SKIP() << "LUMENSCRIPT_MODULES names no folder of modules";
+}
+
+} // namespace
+} // namespace lumen

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "search/search_fixture.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+class SearchResultsTest : public SearchFixture
+{
+protected:
+    /// Presses the left button twice on a cell, as a user does.
+    void doubleClick(int row)
+    {
+        FlexGrid& grid = *window->hflex결과;
+        const QRect cell = grid.visualRect(grid.model()->index(row - 1, 1));
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
+        QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
+    }
+
+    QImage painted() { return window->hflex결과->viewport()->grab().toImage(); }
+};
+
+TEST_F(SearchResultsTest, PagesHoldFiftyRowsAndAFullLastOneIsFollowedByAnEmptyOne)
+{
+    struct Row
+    {
+        QString word;
+        int count;
+        QStringList firstPages;
+        int pages;
+        int rowsOfLastPage;
+    };
+    const Row rows[] = {
+        {u"오십일"_s, 51, {u" 1 ~  50"_s, u" 51 ~  100"_s}, 2, 1},
+        {u"백절"_s, 100, {u" 1 ~  50"_s, u" 51 ~  100"_s}, 3, 0},
+        {u"오백일절"_s, 501, {u" 1 ~  50"_s, u" 51 ~  100"_s}, 11, 1},
+        {u"오십 "_s, 50, {u"1 page"_s}, 1, 50},
+    };
+    open();
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.word.toStdString());
+        // Without the trimmed blank "오십" would find the verses of "오십일" too.
+        type(box(u"tx검색"_s), row.count == 50 ? u"오십 오십일"_s : row.word);
+        click(u"cmd검색"_s);
+        EXPECT_EQ(panel(2), QString::number(row.count) + u"개 검색"_s);
+        ComboBox& pages = combo(u"cb페이지"_s);
+        ASSERT_EQ(pages.ListCount(), row.pages);
+        EXPECT_EQ(pages.List(0), row.firstPages.first());
+        EXPECT_EQ(control<QWidget>(u"pbxPageMover"_s).isVisible(), row.pages > 1);
+        EXPECT_EQ(references().size(), 50);
+        pages.setListIndex(row.pages - 1);
+        EXPECT_EQ(references().size(), row.rowsOfLastPage);
+        EXPECT_EQ(combo(u"cbPPage"_s).ListIndex(), row.pages - 1);
+    }
+}
+
+TEST_F(SearchResultsTest, TurningPagesWrapsRoundAtBothEnds)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"오십일"_s);
+    const QString first = references().first();
+    click(u"img이전"_s);
+    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 1);
+    EXPECT_EQ(references(), QStringList{u"창2:1"_s});
+    click(u"img이후"_s);
+    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 0);
+    EXPECT_EQ(combo(u"cbPPage"_s).ListIndex(), 0);
+    EXPECT_EQ(references().first(), first);
+    QTest::keyClick(&*window, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 1);
+    QTest::keyClick(&*window, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 0);
+}
+
+TEST_F(SearchResultsTest, ASearchWithoutHitsLeavesTheHeaderAndNoPages)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"백절"_s);
+    typeAndEnter(u"tx검색"_s, u"없는말"_s);
+    EXPECT_EQ(panel(2), u"0개 검색"_s);
+    EXPECT_EQ(window->hflex결과->Rows(), 1);
+    EXPECT_FALSE(control<QWidget>(u"pbxPageMover"_s).isVisible());
+    EXPECT_FALSE(window->atbar.tool(u"ID_NextPage").enabled());
+}
+
+TEST_F(SearchResultsTest, ADoubleClickAndEnterLeadToTheReader)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"백절"_s);
+    doubleClick(2);
+    EXPECT_EQ(reader.calls, (QStringList{u"0 1:2"_s, u"front"_s}));
+    reader.calls.clear();
+    window->hflex결과->setFocus();
+    QTest::keyClick(window->hflex결과, Qt::Key_Down);
+    QTest::keyClick(window->hflex결과, Qt::Key_Return);
+    EXPECT_EQ(reader.calls, (QStringList{u"0 1:3"_s, u"front"_s}));
+    reader.calls.clear();
+    window->hflex결과->onDblClick(0, 1);
+    EXPECT_EQ(reader.calls, QStringList());
+    QTest::keyClick(&*window, Qt::Key_B, Qt::ControlModifier);
+    EXPECT_EQ(reader.calls, QStringList{u"front"_s});
+}
+
+TEST_F(SearchResultsTest, CopyingTakesTheSelectedRows)
+{
+    open();
+    window->atbar_event9(u"ID_대역본0-201"_s);
+    typeAndEnter(u"tx검색"_s, u"was"_s);
+    window->hflex결과->setFocus();
+    window->hflex결과->select(1, 2);
+    QTest::keyClick(window->hflex결과, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(test.clipboard.content.plain,
+              u"창1:1\tIn the beginning was grace, and grace it was\r\n창1:3\tAnd it was so"_s);
+}
+
+TEST_F(SearchResultsTest, FoundWordsAreMarkedWithoutChangingTextOrRowHeight)
+{
+    open();
+    window->atbar_event9(u"ID_대역본0-201"_s);
+    typeAndEnter(u"tx검색"_s, u"grace"_s);
+    FlexGrid& grid = *window->hflex결과;
+    const QString text = grid.TextMatrix(1, 1);
+    const int height = grid.rowHeight(0);
+    const QImage marked = painted();
+    EXPECT_EQ(grid.highlight(1, 1, text), (QList<TextRange>{{21, 5}, {32, 5}}));
+    EXPECT_EQ(grid.highlight(1, 0, u"grace"_s), QList<TextRange>());
+
+    EXPECT_TRUE(window->atbar.tool(u"ID_MarkHits").checked());
+    window->atbar.tool(u"ID_MarkHits").action()->trigger();
+    EXPECT_FALSE(window->atbar.tool(u"ID_MarkHits").checked());
+    EXPECT_EQ(grid.highlight(1, 1, text), QList<TextRange>());
+    EXPECT_NE(painted(), marked);
+    EXPECT_EQ(grid.rowHeight(0), height);
+    EXPECT_EQ(grid.TextMatrix(1, 1), text);
+}
+
+TEST_F(SearchResultsTest, NarrowedResultsMarkTheWordsOfAllSteps)
+{
+    open();
+    window->atbar_event9(u"ID_대역본0-201"_s);
+    typeAndEnter(u"tx검색"_s, u"was"_s);
+    pick(u"cb범위"_s, 1);
+    typeAndEnter(u"tx검색"_s, u"so"_s);
+    ASSERT_EQ(texts(), QStringList{u"And it was so"_s});
+    EXPECT_EQ(window->hflex결과->highlight(1, 1, texts().first()),
+              (QList<TextRange>{{7, 3}, {11, 2}}));
+}
+
+TEST_F(SearchResultsTest, HebrewStandsRightInItsFontAndLongVersesAreDivided)
+{
+    QString verse;
+    for (int word = 0; word < 60; ++word)
+        verse += u"word%1 "_s.arg(word);
+    writeVersion(test.folders.data(u"301.dts"_s), u"BHS"_s,
+                 {madeVerse(0, 1, 1, verse.trimmed()), madeVerse(0, 1, 2, u"short word"_s)});
+    open();
+    window->atbar_event9(u"ID_대역본0-301"_s);
+    typeAndEnter(u"tx검색"_s, u"word"_s);
+    // The typed letters stand from right to left.
+    EXPECT_EQ(box(u"tx검색"_s).text(), u"drow"_s);
+    box(u"tx검색"_s).setText(u"word"_s);
+    click(u"cmd검색"_s);
+    ASSERT_EQ(texts().size(), 2);
+    // The end of the stored text is read first, so it stands first.
+    EXPECT_TRUE(texts().first().section(u"\r\n"_s, 0, 0).endsWith(u"word59"_s));
+    EXPECT_TRUE(texts().first().contains(u"\r\n"_s));
+    EXPECT_EQ(texts().last(), u"short word"_s);
+}
+
+} // namespace
+} // namespace lumen

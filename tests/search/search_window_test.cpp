@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "canon/canon_table.h"
+#include "search/search_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+const QString kHead = u"select Chap, Verse, Cont, index from [개역한글] where "_s;
+const QString kStartOver = u"앞서 검색된 내용이 없으므로 전체 범위에 대하여 검색합니다."_s;
+
+class SearchWindowTest : public SearchFixture
+{
+};
+
+TEST_F(SearchWindowTest, LoadingChoosesTheFirstInstalledVersionAndTheWholeRange)
+{
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"101.dts"_s)));
+    open();
+    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"KJV"_s);
+    EXPECT_EQ(combo(u"cbPVersion"_s).Text(), u"KJV"_s);
+    EXPECT_EQ(combo(u"cb범위"_s).ListIndex(), 0);
+    EXPECT_EQ(panel(1), u"검색 범위: 전체"_s);
+    EXPECT_EQ(window->atbar.tool(u"ID_대역본0-201").checked(), true);
+    EXPECT_TRUE(control<QLineEdit>(u"tx검색"_s).hasFocus());
+    EXPECT_EQ(references(), QStringList());
+}
+
+TEST_F(SearchWindowTest, EnterSearchesAndShowsReferencesAndReadableText)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"은혜"_s);
+    EXPECT_EQ(query(), kHead + u"(Cont like '*떵찹*') order by index"_s);
+    EXPECT_EQ(panel(2), u"65개 검색"_s);
+    EXPECT_EQ(references().size(), 50);
+    EXPECT_EQ(references().first(), u"출1:1"_s);
+    EXPECT_EQ(texts().first(), u"은혜와 평강이 출애굽기"_s);
+    EXPECT_EQ(window->hflex결과->TextMatrix(0, 0), u"장절"_s);
+    EXPECT_EQ(window->hflex결과->TextMatrix(0, 1), u"본문"_s);
+    EXPECT_EQ(allReferences(), plainScan(korean, u"은혜"_s));
+}
+
+TEST_F(SearchWindowTest, AnEmptyBoxIsToldAndBlanksAloneFindEveryVerse)
+{
+    open();
+    test.messages.expect(u"검색 문자열이 없음"_s,
+                         u"검색하고자 하는 문자열을 입력한 후 [검색] 단추를 누르시기 바랍니다."_s,
+                         64);
+    click(u"cmd검색"_s);
+    test.messages.verify();
+    typeAndEnter(u"tx검색"_s, u"  "_s);
+    EXPECT_EQ(query(), kHead + u"(Cont like '**') order by index"_s);
+    EXPECT_EQ(panel(2), QString::number(korean.size()) + u"개 검색"_s);
+}
+
+TEST_F(SearchWindowTest, EveryScopeFindsWhatAPlainLookFindsInBothSearches)
+{
+    open();
+    const QString word = u"평강"_s;
+    for (int index = 2; index <= 12; ++index) {
+        const auto inScope = [&](const PlainVerse& verse) {
+            if (!verse.cont->contains(word))
+                return false;
+            const QString groups = u"모역시대소사바공계"_s;
+            if (index <= 3)
+                return testament(verse.book) == (index == 2 ? u"구" : u"신");
+            return bookGroup(verse.book) == groups.mid(index - 4, 1);
+        };
+        SCOPED_TRACE(combo(u"cb범위"_s).List(index).toStdString());
+        window->sstSearch->setTab(0);
+        pick(u"cb범위"_s, index);
+        EXPECT_EQ(panel(1), u"검색 범위: "_s + combo(u"cb범위"_s).List(index));
+        typeAndEnter(u"tx검색"_s, word);
+        EXPECT_EQ(allReferences(), plainScan(korean, inScope));
+        window->sstSearch->setTab(1);
+        pick(u"cbP범위"_s, index);
+        EXPECT_EQ(combo(u"cb범위"_s).ListIndex(), index);
+        typeAndEnter(u"txPSearch1"_s, word);
+        EXPECT_EQ(allReferences(), plainScan(korean, inScope));
+    }
+}
+
+TEST_F(SearchWindowTest, PowerSearchCombinesThreeTexts)
+{
+    open();
+    QTest::keyClick(&*window, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(box(u"txPSearch1"_s).hasFocus());
+    test.messages.expect(
+        u"검색 문자열이 없음"_s,
+        u"첫번째 검색 대상은 반드시 입력되어야 합니다. 검색하고자 하는 문자열을 입력한 후 "
+        u"[검색] 단추를 누르시기 바랍니다."_s,
+        64);
+    click(u"cmdPSearch"_s);
+    test.messages.verify();
+
+    type(box(u"txPSearch1"_s), u"셋째"_s);
+    pick(u"cbCond1"_s, 1);
+    type(box(u"txPSearch2"_s), u"다섯째"_s);
+    typeAndEnter(u"txPSearch3"_s, u"백절"_s);
+    EXPECT_EQ(allReferences(), plainScan(korean, [](const PlainVerse& verse) {
+                  return (verse.cont->contains(u"셋째") || verse.cont->contains(u"다섯째")) &&
+                         verse.cont->contains(u"백절");
+              }));
+    EXPECT_EQ(combo(u"cb검색"_s).ListCount(), 0);
+
+    pick(u"cbCond1"_s, 0);
+    pick(u"cbCond2"_s, 1);
+    click(u"cmdPSearch"_s);
+    EXPECT_EQ(allReferences(), plainScan(korean, [](const PlainVerse& verse) {
+                  return (verse.cont->contains(u"셋째") && verse.cont->contains(u"다섯째")) ||
+                         verse.cont->contains(u"백절");
+              }));
+}
+
+TEST_F(SearchWindowTest, NarrowingTwiceGoesOnInTheVersionOfTheFirstResult)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"오백일절"_s);
+    EXPECT_EQ(panel(2), u"501개 검색"_s);
+    pick(u"cb범위"_s, 1);
+    typeAndEnter(u"tx검색"_s, u"셋째"_s);
+    EXPECT_EQ(panel(2), u"167개 검색"_s);
+    window->atbar_event9(u"ID_대역본0-201"_s);
+    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"KJV"_s);
+    typeAndEnter(u"tx검색"_s, u"다섯째"_s);
+    EXPECT_EQ(panel(2), u"33개 검색"_s);
+    EXPECT_EQ(references(), plainScan(korean, [](const PlainVerse& verse) {
+                  return verse.cont->contains(u"오백일절") && verse.cont->contains(u"셋째") &&
+                         verse.cont->contains(u"다섯째");
+              }));
+}
+
+TEST_F(SearchWindowTest, NarrowingNothingIsToldAndSearchesTheWholeRange)
+{
+    open();
+    pick(u"cb범위"_s, 1);
+    test.messages.expect(u"안내"_s, kStartOver, 48);
+    typeAndEnter(u"tx검색"_s, u"은혜"_s);
+    test.messages.verify();
+    EXPECT_EQ(combo(u"cb범위"_s).ListIndex(), 0);
+    EXPECT_EQ(query(), kHead + u"(Cont like '*떵찹*') order by index"_s);
+    EXPECT_EQ(panel(2), u"65개 검색"_s);
+}
+
+TEST_F(SearchWindowTest, NarrowingNothingFromThePowerTabRunsTheEasySearch)
+{
+    open();
+    type(box(u"tx검색"_s), u"은혜"_s);
+    window->sstSearch->setTab(1);
+    type(box(u"txPSearch1"_s), u"셋째"_s);
+    pick(u"cbP범위"_s, 1);
+    test.messages.expect(u"안내"_s, kStartOver, 48);
+    click(u"cmdPSearch"_s);
+    test.messages.verify();
+    EXPECT_EQ(query(), kHead + u"(Cont like '*떵찹*') order by index"_s);
+    EXPECT_EQ(panel(2), u"65개 검색"_s);
+}
+
+TEST_F(SearchWindowTest, AChangeOfTheTabEmptiesTheResult)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"은혜"_s);
+    QTest::keyClick(&*window, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(references(), QStringList());
+    EXPECT_EQ(query(), u"select * from [개역한글] where index = '0'"_s);
+    EXPECT_EQ(panel(2), QString());
+    EXPECT_EQ(combo(u"cbPPage"_s).ListCount(), 0);
+    EXPECT_TRUE(window->atbar.tool(u"ID_파워검색").checked());
+    EXPECT_FALSE(window->atbar.tool(u"ID_쉬운검색").checked());
+    EXPECT_TRUE(window->hflex결과->isVisible());
+
+    QTest::keyClick(&*window, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_FALSE(window->hflex결과->isVisible());
+    EXPECT_TRUE(control<QWidget>(u"splitParsing"_s).isVisible());
+    EXPECT_EQ(panel(1), u"검색 범위: 역본별 전체"_s);
+}
+
+TEST_F(SearchWindowTest, TheHistoryKeepsEachTextOnceAndBringsItBack)
+{
+    open();
+    for (const QString& word : {u"은혜"_s, u"없는말"_s, u"평강 "_s, u"은혜"_s})
+        typeAndEnter(u"tx검색"_s, word);
+    ComboBox& history = combo(u"cb검색"_s);
+    ASSERT_EQ(history.ListCount(), 2);
+    pick(u"cb검색"_s, 1);
+    EXPECT_EQ(box(u"tx검색"_s).text(), u"평강"_s);
+    EXPECT_TRUE(box(u"tx검색"_s).hasFocus());
+}
+
+TEST_F(SearchWindowTest, AnAbsentVersionIsToldAndTheFormerOneStays)
+{
+    open();
+    combo(u"cb역본"_s).setListIndex(combo(u"cb역본"_s).findItemData(201));
+    test.messages.expect(u"CD 삽입 후 재실행 요망"_s,
+                         u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s, 48);
+    combo(u"cb역본"_s).setListIndex(combo(u"cb역본"_s).findItemData(205));
+    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"KJV"_s);
+    test.messages.verify();
+    test.messages.expect(u"역본 미설치"_s, u"해당 역본이 설치되어 있지 않습니다."_s, 48);
+    combo(u"cbPVersion"_s).setListIndex(combo(u"cbPVersion"_s).findItemData(208));
+    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"KJV"_s);
+    EXPECT_EQ(combo(u"cbPVersion"_s).Text(), u"KJV"_s);
+}
+
+TEST_F(SearchWindowTest, AModuleThatIsGoneIsToldAndTheFirstVersionComesBack)
+{
+    open();
+    combo(u"cb역본"_s).setListIndex(combo(u"cb역본"_s).findItemData(201));
+    typeAndEnter(u"tx검색"_s, u"grace"_s);
+    ASSERT_EQ(panel(2), u"1개 검색"_s);
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"201.dts"_s)));
+    test.messages.expect(u"CD 삽입 후 재실행 요망"_s,
+                         u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s, 48);
+    click(u"cmd검색"_s);
+    test.messages.verify();
+    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"개역한글"_s);
+    EXPECT_EQ(references(), QStringList{u"창1:1"_s});
+    // The pointer is as before.
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(SearchWindowTest, ClosingFreesTheModuleAndKeepsPlaceAndMarks)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"은혜"_s);
+    EXPECT_TRUE(test.jet.isOpen(test.folders.data(u"101.dts"_s)));
+    window->atbar_event9(u"ID_MarkHits"_s);
+    window->resize(700, 600);
+    QTest::keyClick(&*window, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(test.jet.isOpen(test.folders.data(u"101.dts"_s)));
+
+    // Loaded again, the same window begins afresh.
+    window->resize(600, 500);
+    window->Form_Load();
+    window->show();
+    EXPECT_EQ(window->size(), QSize(700, 600));
+    EXPECT_EQ(box(u"tx검색"_s).text(), QString());
+    EXPECT_EQ(references(), QStringList());
+    EXPECT_FALSE(window->atbar.tool(u"ID_MarkHits").checked());
+    EXPECT_EQ(combo(u"cb검색"_s).ListCount(), 0);
+}
+
+TEST_F(SearchWindowTest, EveryToolHasItsHandlerAndEveryHandlerItsTool)
+{
+    open();
+    const ToolFaults faults = unpairedTools(window->atbar.rows(), window->toolClicks());
+    EXPECT_EQ(faults.withoutHandler, QStringList());
+    EXPECT_EQ(faults.withoutTool, QStringList());
+}
+
+} // namespace
+} // namespace lumen
