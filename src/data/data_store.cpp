@@ -160,7 +160,7 @@ Result<Done> create(const UserStore& store, const QString& nativePath)
 Result<Done> createUserDatabases(const QString& appPath, FileSystem& files,
                                  const PathResolver& paths, const QDate& today)
 {
-    const Result<Done> folder = files.CreateFolder(joinedPath(appPath, u"\\Data"));
+    Result<Done> folder = files.CreateFolder(joinedPath(appPath, u"\\Data"));
     if (!folder)
         return folder;
     Result<Done> outcome = Done{};

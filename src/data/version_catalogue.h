@@ -16,7 +16,7 @@ namespace lumen {
 /// table in the version's module.
 struct VersionRow
 {
-    int code;
+    int code = 0;
     QStringView name;
     /// False: without its module the row isn't in the lists at all.
     bool offeredWhenAbsent = true;

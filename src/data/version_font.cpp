@@ -31,11 +31,11 @@ constexpr QStringView kLeftToRight = u"\\ltrpar\\ql";
 // One row of codes that share a font; an empty family stands for the main font.
 struct FontRow
 {
-    int first;
-    int last;
+    int first = 0;
+    int last = 0;
     QStringView family;
-    double factor;
-    int rtfFont;
+    double factor = 1;
+    int rtfFont = 0;
     QStringView paragraph;
 };
 

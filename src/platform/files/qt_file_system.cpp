@@ -103,7 +103,7 @@ Result<Done> QtFileSystem::CopyFile(const QString& from, const QString& to)
     QSaveFile out(target.value());
     if (!out.open(QIODevice::WriteOnly))
         return fileFailure(out);
-    const Result<Done> copied = copyBytes(in, out);
+    Result<Done> copied = copyBytes(in, out);
     if (!copied)
         return copied;
     if (!out.commit())

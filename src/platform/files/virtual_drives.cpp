@@ -41,7 +41,7 @@ QString programFolder()
     const QString named = qEnvironmentVariable("LUMENSCRIPT_HOME");
     if (!named.isEmpty())
         return QDir(named).absolutePath();
-    const QString own = QCoreApplication::applicationDirPath();
+    QString own = QCoreApplication::applicationDirPath();
     if (hasDataFolder(own))
         return own;
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
@@ -105,7 +105,7 @@ QString VirtualDrives::nativePath(const QString& path) const
         return found(m_root, parts);
     case u'D': {
         for (const QString& root : m_folders.disc) {
-            const QString native = found(root, parts);
+            QString native = found(root, parts);
             if (QFileInfo::exists(native))
                 return native;
         }
