@@ -8,7 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <unistd.h>
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -114,17 +115,43 @@ TEST_F(QtFileSystemTest, AnOpenDatabaseIsNeitherOverwrittenNorDeleted)
         << "what isn't on disk yet is written before the copy";
 }
 
-TEST_F(QtFileSystemTest, AFolderThatCantBeWrittenToLeavesTheOldFile)
+// Lets files grow to a size and no further, as a full disc does.
+class FileSizeLimit
 {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "root may write everywhere";
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        m_handler = signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_former);
+        signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_former{};
+    sighandler_t m_handler = SIG_DFL;
+};
+
+TEST_F(QtFileSystemTest, AFullDiscLeavesTheOldFile)
+{
     ASSERT_TRUE(files.writeAll(path(u"a"_s), "old"));
-    ASSERT_TRUE(files.writeAll(path(u"b"_s), "new"));
-    QFile::setPermissions(native(u""_s), QFile::ReadOwner | QFile::ExeOwner);
-    EXPECT_EQ(kindOf(files.writeAll(path(u"a"_s), "x")), FailureKind::NoAccess);
-    EXPECT_EQ(kindOf(files.CopyFile(path(u"b"_s), path(u"a"_s))), FailureKind::NoAccess);
+    ASSERT_TRUE(files.writeAll(path(u"large"_s), QByteArray(200'000, 'x')));
+    {
+        const FileSizeLimit limit(50'000);
+        EXPECT_FALSE(files.writeAll(path(u"a"_s), QByteArray(200'000, 'y')));
+        EXPECT_FALSE(files.CopyFile(path(u"large"_s), path(u"a"_s)));
+    }
     EXPECT_EQ(content(u"a"_s), "old");
-    QFile::setPermissions(native(u""_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(QDir(native(u""_s)).entryList(QDir::Files), (QStringList{u"a"_s, u"large"_s}))
+        << "no temporary file is left";
+    EXPECT_FALSE(files.writeAll(path(u"none\\a"_s), "x")) << "its folder is missing";
 }
 
 } // namespace
