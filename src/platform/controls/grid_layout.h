@@ -15,7 +15,7 @@ namespace lumen {
 
 /// The room around the text of a cell, pixels.
 inline constexpr int kCellMarginX = 4;
-inline constexpr int kCellMarginY = 2;
+inline constexpr int kCellMarginY = 3;
 
 /// The text of a cell as it is laid out: "\r\n", "\n" and "\r" become line separators.
 QString shownText(const QString& text);
