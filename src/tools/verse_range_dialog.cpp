@@ -63,8 +63,7 @@ void fillNumbers(ComboBox& box, int count)
 void showNumber(ComboBox& box, int number)
 {
     box.setListIndex(number - 1);
-    if (box.ListIndex() != number - 1)
-        box.setEditText(QString::number(number));
+    box.setEditText(QString::number(number)); // also when the index was chosen and the text typed
 }
 
 } // namespace
@@ -151,9 +150,9 @@ void VerseRangeDialog::done(int result)
 {
     m_settings.Version = cb버전->ListIndex();
     m_settings.BookNum = cb책명->ListIndex();
-    m_settings.ChapNum = cb장->ListIndex();
-    m_settings.SVerse = cb시작절->ListIndex();
-    m_settings.EVerse = cb끝절->ListIndex();
+    m_settings.ChapNum = ValInt(cb장->currentText()) - 1;
+    m_settings.SVerse = ValInt(cb시작절->currentText()) - 1;
+    m_settings.EVerse = ValInt(cb끝절->currentText()) - 1;
     m_settings.AtchVerNum = chkVerNum->isChecked();
     m_settings.VerLf = chkVerLf->isChecked();
     m_settings.Tail = chkTail->isChecked();

@@ -2,6 +2,8 @@
 #include "reader/bookmark_pane.h"
 #include "reader/quick_move_pane.h"
 
+#include "support/active_window.h"
+
 #include <gtest/gtest.h>
 
 #include <QTest>
@@ -41,7 +43,7 @@ protected:
         pane.currentReference = [this] { return current; };
         pane.onMove = [this](const QString& reference) { moves << reference; };
         pane.resize(200, 400);
-        pane.show();
+        showActive(pane);
     }
 
     QString current;
@@ -112,7 +114,7 @@ protected:
             pane.remember(reference, entry.isEmpty() ? reference : entry);
         };
         pane.resize(200, 400);
-        pane.show();
+        showActive(pane);
     }
 
     QString entry;

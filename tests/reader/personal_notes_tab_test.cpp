@@ -4,6 +4,7 @@
 #include "panel/reference_panel.h"
 #include "platform/jet/data_control.h"
 #include "reader/personal_notes_tab.h"
+#include "support/active_window.h"
 #include "support/fake_reader.h"
 #include "support/test_services.h"
 
@@ -34,7 +35,7 @@ protected:
         tab = made.get();
         panel.addTab(std::move(made));
         panel.resize(900, 300);
-        panel.show();
+        showActive(panel);
         panel.sst관주사전->selectCaption(u"개인주석"_s);
     }
 
@@ -51,7 +52,12 @@ protected:
     void openAt(int book, int chapter, const QString& range = u"1"_s)
     {
         goTo(book, chapter, range);
+        expand();
+    }
+    void expand()
+    {
         panel.toggle();
+        QCoreApplication::processEvents(); // lays the page out
     }
     void addNote(const QString& range, const QString& text)
     {
@@ -133,7 +139,7 @@ TEST_F(PersonalNotesTabTest, NotesAreSavedOnEveryWayOut)
     panel.toggle();
     EXPECT_EQ(stored(u"요3:"_s).size(), 2) << "collapsed";
 
-    panel.toggle();
+    expand();
     addNote(u"3"_s, u"작게"_s);
     bool minimized = false;
     tab->windowIsMinimized = [&minimized] { return minimized; };
@@ -183,6 +189,7 @@ TEST_F(PersonalNotesTabTest, DeletingAsksAndSelectsWhatTookThePlace)
     EXPECT_EQ(tab->flex개인주석목록->Row(), 0);
     EXPECT_EQ(stored(u"요3:"_s), QStringList()) << "the table changes at the next save only";
 
+    tab->flex개인주석목록->setFocus();
     for (int left = 2; left > 0; --left) {
         world.messages.expect(u"삭제 확인"_s, question, 49, Answer::Ok);
         QTest::keyClick(tab->flex개인주석목록, Qt::Key_Delete);

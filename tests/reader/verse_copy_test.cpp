@@ -39,7 +39,7 @@ TEST(VerseCopyTest, EachVerseIsALineAndTheEndingFollowsTheLast)
     EXPECT_EQ(copy.plain, u"1\t하나\r\n2\t둘 (창1:1~2)"_s);
     EXPECT_EQ(rtfToPlainText(copy.rtf).trimmed(), u"1\t하나\n2\t둘 (창1:1~2)"_s);
     EXPECT_EQ(QTextDocumentFragment::fromHtml(copy.html).toPlainText(),
-              u"1\u00A0하나\n2\u00A0둘 (창1:1~2)"_s);
+              u"1 하나\n2 둘 (창1:1~2)"_s);
 }
 
 TEST(VerseCopyTest, OriginalsKeepTheirCodesButForHtml)
