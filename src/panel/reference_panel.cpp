@@ -32,7 +32,7 @@ ReferencePanel::ReferencePanel(Services& services, QWidget* parent)
     for (const QStringView caption : kPanelCaptions)
         sst관주사전->addTab(emptyPage(), caption.toString());
     m_shownCaption = sst관주사전->Caption();
-    sst관주사전->setCollapsed(true);
+    setState(PanelState::Collapsed);
     sst관주사전->onTabClick = [this](int, int previousTab) { tabChanged(previousTab); };
     sst관주사전->onHeaderClick = [this](int) { toggle(); };
 }
@@ -52,7 +52,9 @@ void ReferencePanel::addTab(std::unique_ptr<PanelTab> tab)
 void ReferencePanel::setState(PanelState state)
 {
     m_state = state;
-    sst관주사전->setCollapsed(state == PanelState::Collapsed);
+    const bool collapsed = state == PanelState::Collapsed;
+    sst관주사전->setCollapsed(collapsed);
+    layout()->setAlignment(sst관주사전, collapsed ? Qt::AlignTop : Qt::Alignment());
 }
 
 void ReferencePanel::toggle()

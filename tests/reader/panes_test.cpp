@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "reader/bookmark_pane.h"
 #include "reader/quick_move_pane.h"
-
 #include "support/active_window.h"
 
 #include <gtest/gtest.h>
