@@ -50,7 +50,7 @@ void RegisterFonts(Fonts& fonts)
 {
     // Application fonts last as long as the process: they are added at every start.
     for (const QStringView file : kFontFiles)
-        if (fonts.AddFontResource(u"\\Fonts\\"_s + file) == 0)
+        if (fonts.AddFontResource(u"\\Fonts\\"_s + file.toString()) == 0)
             qCInfo(platformLog) << "no font file" << file;
 }
 

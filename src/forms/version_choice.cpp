@@ -6,6 +6,8 @@
 #include "forms/version_combo.h"
 #include "platform/dialogs/message_boxes.h"
 
+#include <algorithm>
+
 namespace lumen {
 
 VersionChoice::VersionChoice(Services& services, const AppState& state,
@@ -45,6 +47,11 @@ ChosenVersion VersionChoice::choose(QWidget* parent, int index, bool loading)
 
 ChosenVersion VersionChoice::moveOn(int index) const
 {
+    // With 106 or 107 alone, which no list has, there is nowhere to go.
+    const bool nowhere = std::none_of(m_items.begin(), m_items.end(),
+                                      [](const VersionItem& item) { return item.present; });
+    if (nowhere)
+        return {false, index, 0, {}, {}};
     const bool last = index == m_items.size() - 1;
     const bool oneBack = last && m_rule.pastLastRow == PastLastRow::OneBack;
     return {false, oneBack ? index - 1 : nextVersionIndex(m_items, index), 0, {}, {}};

@@ -19,7 +19,8 @@ namespace lumen {
 
 namespace {
 
-constexpr int kTabWidth = 350; // twips: the indent behind the verse numbers
+constexpr int kTabWidth = 350;       // twips: the indent behind the verse numbers
+constexpr int kSidePaneWidth = 2500; // twips: two buttons abreast
 
 } // namespace
 
@@ -58,7 +59,7 @@ void frm성서::layOut()
     sideLayout->setContentsMargins(0, 0, 0, 0);
     sideLayout->addWidget(quickMove, 1);
     sideLayout->addWidget(bookmarks, 1);
-    m_sidePane->setFixedWidth(m_sidePane->sizeHint().width());
+    m_sidePane->setFixedWidth(twipsToPixels(kSidePaneWidth));
 
     m_split->addWidget(texts);
     m_split->addWidget(panel);

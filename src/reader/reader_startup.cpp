@@ -46,6 +46,7 @@ bool frm성서::Form_Load(StartupProgress& splash)
     m_loading = true;
     m_state.LanguageBarRunning = languageBarRuns(m_services.processes);
     CheckData(m_state, m_services.files, m_services.jet);
+    m_slots.takeStock();
     m_state.fonts.userFonts = GetUserFontSize(m_services.registry);
     splash.showSplash();
     splash.setProgress(kProgressStart);

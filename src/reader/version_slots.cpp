@@ -37,10 +37,16 @@ VersionSlot::VersionSlot(Services& services, const AppState& state, const Versio
 }
 
 VersionSlots::VersionSlots(Services& services, const AppState& state)
+    : m_services(services), m_state(state)
+{
+    takeStock();
+}
+
+void VersionSlots::takeStock()
 {
     for (int slot = 0; slot < kSlotCount; ++slot)
         m_slots[static_cast<std::size_t>(slot)] =
-            std::make_unique<VersionSlot>(services, state, ruleOf(slot));
+            std::make_unique<VersionSlot>(m_services, m_state, ruleOf(slot));
 }
 
 void VersionSlots::take(int slot, const ChosenVersion& chosen)

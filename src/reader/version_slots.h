@@ -36,6 +36,8 @@ class VersionSlots
 public:
     VersionSlots(Services& services, const AppState& state);
 
+    /// Takes the lists of versions anew, as CheckData has found them; all slots are empty then.
+    void takeStock();
     VersionSlot& operator()(int slot) { return *m_slots[static_cast<std::size_t>(slot)]; }
     const VersionSlot& operator()(int slot) const
     {
@@ -57,6 +59,8 @@ public:
     void close();
 
 private:
+    Services& m_services;
+    const AppState& m_state;
     std::array<std::unique_ptr<VersionSlot>, kSlotCount> m_slots;
 };
 

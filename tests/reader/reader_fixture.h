@@ -42,6 +42,7 @@ protected:
     void start()
     {
         close();
+        services.state.installed = {}; // the start takes stock itself
         reader = std::make_unique<frm성서>(services.services, services.state, opener);
         ASSERT_TRUE(reader->Form_Load(splash));
         reader->show();
