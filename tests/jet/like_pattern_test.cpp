@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/jet/jet_error.h"
+#include "platform/jet/like_pattern.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Case = LikePattern::Case;
+
+bool matches(const QString& pattern, const QString& text, Case sensitivity = Case::Exact)
+{
+    const QByteArray utf8 = text.toUtf8();
+    return LikePattern(pattern, sensitivity)
+        .matches({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+}
+
+TEST(LikePatternTest, PatternsMatchWhatTheirSignsSay)
+{
+    struct Row
+    {
+        QString pattern;
+        QString text;
+        bool matches;
+    };
+    const QString book = u"\U0001F4D6"_s; // outside the first plane: two UTF-16 units
+    const Row rows[] = {
+        {u""_s, u""_s, true},
+        {u""_s, u"a"_s, false},
+        {u"*"_s, u""_s, true},
+        {u"**"_s, u"가"_s, true},
+        {u"?"_s, u""_s, false},
+        {u"?"_s, u"가"_s, true},
+        {u"?"_s, book, true},
+        {u"??"_s, book, false},
+        {u"a?c"_s, u"a"_s + book + u"c"_s, true},
+        {u"#"_s, u"7"_s, true},
+        {u"#"_s, u"٧"_s, false},
+        {u"#"_s, u"a"_s, false},
+        {u"word"_s, u"word"_s, true},
+        {u"word"_s, u"Word"_s, false},
+        {u"word"_s, u"word "_s, false},
+        {u"word "_s, u"word"_s, false},
+        {u"43요:003:*"_s, u"43요:003:016"_s, true},
+        {u"43요:003:*"_s, u"43요:003:"_s, true},
+        {u"43요:003:*"_s, u"43요:0031:1"_s, false},
+        {u"*말씀"_s, u"태초의 말씀"_s, true},
+        {u"*말씀"_s, u"말씀이"_s, false},
+        {u"*말씀*"_s, u"태초의 말씀이"_s, true},
+        {u"*말씀*"_s, u"말 씀"_s, false},
+        {u"??요:*"_s, u"43요:003:016"_s, true},
+        {u"??요:*"_s, u"4요:003:016"_s, false},
+        {u"*a*b*"_s, u"xbxaxb"_s, true},
+        {u"*a*b*"_s, u"xbxa"_s, false},
+        {u"*ab"_s, u"aab"_s, true},
+        {u"ab*ab"_s, u"ab"_s, false},
+        {u"ab*ab"_s, u"abab"_s, true},
+        {u"ab*ab"_s, u"aba"_s, false},
+        {u"a*?"_s, u"a"_s, false},
+        {u"*?가?*"_s, u"가가"_s, false},
+        {u"*?가?*"_s, u"가가가"_s, true},
+        {u"[abc]"_s, u"b"_s, true},
+        {u"[abc]"_s, u"d"_s, false},
+        {u"[!abc]"_s, u"d"_s, true},
+        {u"[!abc]"_s, u""_s, false},
+        {u"[a-cx-z]"_s, u"y"_s, true},
+        {u"[a-cx-z]"_s, u"m"_s, false},
+        {u"[가-깋]"_s, u"강"_s, true},
+        {u"[가-깋]"_s, u"나"_s, false},
+        {u"[!a-c]?"_s, book + u"a"_s, true},
+        {u"[-a]"_s, u"-"_s, true},
+        {u"[a-]"_s, u"-"_s, true},
+        {u"[!-a]"_s, u"-"_s, false},
+        {u"[!-a]"_s, u"b"_s, true},
+        {u"[!]"_s, u"!"_s, true},
+        {u"[a!]"_s, u"!"_s, true},
+        {u"x[]y"_s, u"xy"_s, true},
+        {u"x[]y"_s, u"x]y"_s, false},
+        {u"[[]"_s, u"["_s, true},
+        {u"a[[]b"_s, u"a[b"_s, true},
+        {u"*[*]*"_s, u"a*b"_s, true},
+        {u"*[*]*"_s, u"ab"_s, false},
+        {u"[?]"_s, u"a"_s, false},
+        {u"[?]"_s, u"?"_s, true},
+        {u"[#]"_s, u"1"_s, false},
+        {u"a]b"_s, u"a]b"_s, true},
+        {u"a-b!"_s, u"a-b!"_s, true},
+        {u"50%_"_s, u"50%_"_s, true},
+        {u"50%"_s, u"500"_s, false},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE((row.pattern + u" on "_s + row.text).toStdString());
+        EXPECT_EQ(matches(row.pattern, row.text), row.matches);
+    }
+}
+
+TEST(LikePatternTest, FoldedPatternsIgnoreTheCaseOfAsciiLettersOnly)
+{
+    EXPECT_TRUE(matches(u"*GRACE*"_s, u"by Grace alone"_s, Case::Folded));
+    EXPECT_TRUE(matches(u"grace"_s, u"GRACE"_s, Case::Folded));
+    EXPECT_FALSE(matches(u"grace"_s, u"grace "_s, Case::Folded));
+    EXPECT_TRUE(matches(u"[a-c]X?"_s, u"Bxé"_s, Case::Folded));
+    EXPECT_FALSE(matches(u"[!a-c]"_s, u"B"_s, Case::Folded));
+    EXPECT_FALSE(matches(u"é"_s, u"É"_s, Case::Folded));
+    EXPECT_FALSE(matches(u"@"_s, u"`"_s, Case::Folded));
+}
+
+TEST(LikePatternTest, BadPatternsAreRefused)
+{
+    for (const QString& pattern : {u"["_s, u"a[b"_s, u"*[abc"_s, u"[z-a]"_s, u"[나-가]*"_s}) {
+        SCOPED_TRACE(pattern.toStdString());
+        EXPECT_THROW(matches(pattern, u"x"_s), JetError);
+    }
+}
+
+TEST(LikePatternTest, DamagedTextIsLookedThroughToItsEnd)
+{
+    for (const std::string text : {"\xEA", "\xEA\xB0", "\x80\x80", "a\xF0\x9F", "\xFF\xFE", ""})
+        for (const QString& pattern : {u"?"_s, u"*[가-힣]*"_s, u"??*"_s, u"*a?"_s, u"?*#"_s})
+            LikePattern(pattern, Case::Exact).matches(text);
+    EXPECT_TRUE(LikePattern(u"*a*"_s, Case::Exact)
+                    .matches("\xEA\xB0"
+                             "a"));
+}
+
+/// The rules once more, as plainly as can be: what a pattern from `p` on matches of a text.
+bool naive(std::u32string_view pattern, std::u32string_view text)
+{
+    if (pattern.empty())
+        return text.empty();
+    const char32_t sign = pattern.front();
+    if (sign == U'*') {
+        for (std::size_t skipped = 0; skipped <= text.size(); ++skipped)
+            if (naive(pattern.substr(1), text.substr(skipped)))
+                return true;
+        return false;
+    }
+    if (sign == U'[') {
+        const std::size_t close = pattern.find(U']');
+        std::u32string_view list = pattern.substr(1, close - 1);
+        const auto rest = pattern.substr(close + 1);
+        if (list.empty())
+            return naive(rest, text);
+        if (text.empty())
+            return false;
+        const bool negated = list.size() > 1 && list.front() == U'!';
+        bool held = false;
+        for (std::size_t i = negated ? 1 : 0; i < list.size(); ++i) {
+            if (i + 2 < list.size() && list[i + 1] == U'-') {
+                held = held || (text[0] >= list[i] && text[0] <= list[i + 2]);
+                i += 2;
+            } else {
+                held = held || text[0] == list[i];
+            }
+        }
+        return held != negated && naive(rest, text.substr(1));
+    }
+    if (text.empty())
+        return false;
+    const bool fits = sign == U'?' || (sign == U'#' && text[0] >= U'0' && text[0] <= U'9') ||
+                      (sign != U'#' && sign == text[0]);
+    return fits && naive(pattern.substr(1), text.substr(1));
+}
+
+TEST(LikePatternTest, RandomPatternsAgreeWithAPlainMatcher)
+{
+    const std::vector<std::u32string> parts{U"a",    U"b",      U"가", U"\U0001F4D6", U"1",
+                                            U"*",    U"*",      U"?",  U"#",          U"[ab]",
+                                            U"[!a]", U"[a-가]", U"[]", U"ab",         U"[*]"};
+    const std::u32string letters = U"aab가\U0001F4D61*";
+    std::mt19937 random(20240229);
+    const auto upTo = [&random](std::size_t most) {
+        return std::uniform_int_distribution<std::size_t>(0, most)(random);
+    };
+    int hits = 0;
+    constexpr int kRounds = 40000;
+    for (int round = 0; round < kRounds; ++round) {
+        std::u32string pattern;
+        for (std::size_t n = upTo(7); n > 0; --n)
+            pattern += parts[upTo(parts.size() - 1)];
+        std::u32string text;
+        for (std::size_t n = upTo(9); n > 0; --n)
+            text += letters[upTo(letters.size() - 1)];
+        const bool expected = naive(pattern, text);
+        hits += expected ? 1 : 0;
+        ASSERT_EQ(matches(QString::fromStdU32String(pattern), QString::fromStdU32String(text)),
+                  expected)
+            << QString::fromStdU32String(pattern + U" on " + text).toStdString();
+    }
+    // Both answers must come up often enough for the comparison to mean something.
+    EXPECT_GT(hits, kRounds / 50);
+}
+
+TEST(LikePatternTest, APrefixEndsBeforeTheNextCodePoint)
+{
+    EXPECT_EQ(endOfPrefix(u"43요:"_s), u"43요;"_s);
+    EXPECT_EQ(endOfPrefix(u"힣"_s), u"\uD7A4"_s);
+    EXPECT_EQ(endOfPrefix(u"a\uD7FF"_s), u"a\uE000"_s);
+    EXPECT_EQ(endOfPrefix(u"\uFFFF"_s), u"\U00010000"_s);
+    EXPECT_EQ(endOfPrefix(u"a\U0010FFFF"_s), u"b"_s);
+    EXPECT_EQ(endOfPrefix(u"\U0010FFFF"_s), std::nullopt);
+}
+
+} // namespace
+
+} // namespace lumen
