@@ -6,7 +6,7 @@
 #include "data/module_path.h"
 #include "forms/guarded.h"
 #include "forms/window_opener.h"
-#include "platform/dialogs/modal.h"
+#include "platform/controls/twips.h"
 #include "reader/personal_notes_tab.h"
 #include "reader/reader_tools.h"
 
@@ -59,7 +59,7 @@ void frm성서::layOut()
     sideLayout->setContentsMargins(0, 0, 0, 0);
     sideLayout->addWidget(quickMove, 1);
     sideLayout->addWidget(bookmarks, 1);
-    m_sidePane->setFixedWidth(twipsToPixels(kSidePaneWidth));
+    m_sidePane->setFixedWidth(toPixels(kSidePaneWidth));
 
     m_split->addWidget(texts);
     m_split->addWidget(panel);
