@@ -37,6 +37,7 @@ PageMover::PageMover(QStringView panelName, QStringView previousName, QStringVie
     row->addWidget(previous);
     row->addWidget(pages);
     row->addWidget(next);
+    panel->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     // A result of a whole Bible has more than 600 pages: their texts aren't measured one by one.
     pages->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     pages->setMinimumContentsLength(kPageLabelLength);
@@ -44,10 +45,12 @@ PageMover::PageMover(QStringView panelName, QStringView previousName, QStringVie
 
 QLayout* centred(QWidget* panel)
 {
+    // The panel takes the room up to its greatest width, what is left stands on both sides.
+    constexpr int kPanelShare = 1000;
     auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(panel);
-    row->addStretch();
+    row->addStretch(1);
+    row->addWidget(panel, kPanelShare);
+    row->addStretch(1);
     return row;
 }
 
@@ -75,6 +78,8 @@ EasyPanel::EasyPanel()
     grid->addWidget(cmdKeyboard, 1, 5);
     cb검색->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cb검색->setMinimumWidth(kHistoryWidth);
+    grid->setColumnStretch(1, 1);
+    pbxEasySearch->setMaximumWidth(kPanelWidth);
 
     auto* column = new QVBoxLayout(this);
     column->addLayout(centred(pbxEasySearch));

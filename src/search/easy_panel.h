@@ -24,6 +24,9 @@ struct PageMover
     QToolButton* next;
 };
 
+/// The greatest width of the input panels, pixels.
+inline constexpr int kPanelWidth = 900;
+
 /// Centres a panel in a row of its own.
 QLayout* centred(QWidget* panel);
 /// A label in front of a control; "&" in its caption leads to the control.

@@ -48,6 +48,7 @@ PowerPanel::PowerPanel()
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addLayout(scope);
     rows->addLayout(words);
+    pbxPowerSearch->setMaximumWidth(kPanelWidth);
 
     auto* column = new QVBoxLayout(this);
     column->addLayout(centred(pbxPowerSearch));

@@ -210,8 +210,10 @@ TEST_F(RandomWordsTest, CountsInAnInstalledVersionEqualAPlainCount)
         search.query(u"select * from ["_s + version.table + u"] order by index"_s);
         Recordset& rows = *search.dacSearch.Recordset();
         QStringList contents;
+        // A verse that the version lacks is Null and never found.
         for (; !rows.Eof(); rows.MoveNext())
-            contents << DES::UnscrambleField(Text(rows.Fields(u"Cont")));
+            if (!rows.Fields(u"Cont").Value().isNull())
+                contents << DES::UnscrambleField(Text(rows.Fields(u"Cont")));
         QRandomGenerator random(kSeed);
         for (int round = 0; round < 300; ++round) {
             const QString verse = contents.at(random.bounded(contents.size()));
