@@ -77,7 +77,7 @@ QString extractFileName(const ExtractRange& range)
 QByteArray extractFileContent(const QString& text)
 {
     const QString content = text + u"\r\n"_s;
-    const QByteArray bytes = toCodePage949(content);
+    QByteArray bytes = toCodePage949(content);
     if (fromCodePage949(bytes) == content)
         return bytes;
     // Western and original letters would be question marks; editors know the mark.

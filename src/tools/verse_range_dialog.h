@@ -25,7 +25,7 @@ struct VerseRangeFace
     QStringView title;
     QStringView command; ///< object name of the button
     QStringView commandCaption;
-    MessageText nothingFound;
+    MessageText nothingFound{};
 };
 
 /// The common part of dlog성서추출 and dlog성구삽입: version and range, the checks and the

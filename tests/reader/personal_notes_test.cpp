@@ -11,6 +11,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <csignal>
 #include <ostream>
 #include <sys/wait.h>
@@ -49,6 +50,20 @@ protected:
     void save(const QString& chapter, const Notes& rows)
     {
         with([&](PersonalNotes& notes) { notes.save(chapter, rows); });
+    }
+
+    /// The rows of a chapter in the order of the file.
+    std::vector<std::pair<int, Note>> rowsAsTheyStand(const QString& chapter)
+    {
+        JetEngine engine(world.drives);
+        const auto database = engine.OpenDatabase(world.state.AppPath + u"\\Data\\myc.mdb"_s);
+        const auto rows =
+            database->OpenRecordset(u"select * from myc where index like '"_s + chapter + u"*'"_s);
+        std::vector<std::pair<int, Note>> found;
+        for (; !rows->Eof(); rows->MoveNext())
+            found.push_back({Number(rows->Fields(u"seq")),
+                             {Text(rows->Fields(u"Index")), Text(rows->Fields(u"note"))}});
+        return found;
     }
 
     TestServices world;
@@ -143,15 +158,19 @@ TEST_F(PersonalNotesTest, OldNotesOfAUserAreTakenOver)
     ASSERT_TRUE(QFile::remove(place));
     ASSERT_TRUE(QFile::copy(original, place));
 
-    QStringList found;
+    int found = 0;
     for (const QString& chapter : {u"창1:"_s, u"창10:"_s, u"요3:"_s, u"시119:"_s}) {
-        for (const Note& note : load(chapter)) {
-            EXPECT_TRUE(note.place.startsWith(chapter));
-            EXPECT_FALSE(note.text.isEmpty());
-            found << note.place;
-        }
+        SCOPED_TRACE(chapter.toStdString());
+        std::vector<std::pair<int, Note>> rows = rowsAsTheyStand(chapter);
+        const auto bySequence = [](const auto& a, const auto& b) { return a.first < b.first; };
+        std::stable_sort(rows.begin(), rows.end(), bySequence);
+        Notes expected;
+        for (const auto& [sequence, note] : rows)
+            expected.push_back(note);
+        EXPECT_EQ(load(chapter), expected);
+        found += static_cast<int>(expected.size());
     }
-    EXPECT_EQ(found.size(), 6);
+    EXPECT_EQ(found, 6);
 
     QFile kept(place + u".jet"_s);
     QFile source(original);
