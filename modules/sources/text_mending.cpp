@@ -209,6 +209,8 @@ void kjvWithNumbers(VersionText& version)
     const int changed = changeTexts(version, [](VerseText& verse) {
         verse.text->remove(u"filter_string_"_s);
         verse.text->replace(dash, u"-"_s);
+        if (verse.part)
+            verse.part->replace(dash, u"-"_s);
     });
     remark(version, u"잘못 바뀐 낱말과 이름의 줄표를 바로잡았습니다"_s, changed);
 }

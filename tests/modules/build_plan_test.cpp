@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "build/build_options.h"
+#include "build/build_run.h"
+#include "build/user_sources.h"
+#include "modules/source_files.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace lumen {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const ModuleTask* taskOf(const BuildPlan& plan, int code)
+{
+    const auto found = std::find_if(plan.tasks.begin(), plan.tasks.end(),
+                                    [code](const ModuleTask& task) { return task.code == code; });
+    return found == plan.tasks.end() ? nullptr : &*found;
+}
+
+class BuildPlanTest : public testing::Test
+{
+protected:
+    void writeUserFolder()
+    {
+        const QString book = u"{\"book\": \"Ruth\", \"chapters\": [{\"chapter\": 1, \"verses\": "
+                             u"[{\"verse\": 1, \"text\": \"a\"%1}]}]}"_s;
+        files.write(u"user/plain/Ruth.json"_s, book.arg(QString()));
+        files.write(u"user/mixed/Ruth.json"_s, book.arg(u", \"hangulText\": \"b\""_s));
+        files.write(u"user/plain/Bad.json"_s, u"{"_s);
+        files.write(u"user/901 나의 역본/rut.usfm"_s, u"\\id RUT\n\\c 1\n\\v 1 a"_s);
+        files.write(u"user/214.xml"_s, u"<osis/>"_s);
+        files.write(u"user/other.xml"_s, u"<html/>"_s);
+        files.write(u"user/unknown/a.sfm"_s, u"\\id RUT"_s);
+        files.write(u"user/sword/mods.d/bbe.conf"_s, u"[BBE]\nDataPath=./x/\n"_s);
+        files.write(u"user/304/a.xml"_s, u"<osis/>"_s);
+    }
+
+    SourceFiles files;
+};
+
+TEST_F(BuildPlanTest, FindsWhatLiesInAUserFolder)
+{
+    writeUserFolder();
+    BuildOptions options;
+    options.sourceFolder = files.path(u"user"_s);
+    options.baptist = true;
+    const auto plan = planBuild(options, {});
+    ASSERT_TRUE(plan.ok());
+    const ModuleTask* korean = taskOf(plan.value(), 101);
+    ASSERT_NE(korean, nullptr);
+    // A damaged file beside the good ones is a fault of the module and not passed over.
+    EXPECT_EQ(korean->source.files.size(), 2);
+    EXPECT_EQ(korean->numbering, Numbering::Korean);
+    EXPECT_NE(taskOf(plan.value(), 102), nullptr);
+    ASSERT_NE(taskOf(plan.value(), 103), nullptr);
+    EXPECT_EQ(taskOf(plan.value(), 103)->name, u"개역한글침례표기"_s);
+    EXPECT_EQ(taskOf(plan.value(), 103)->mends.size(), korean->mends.size() + 1);
+    ASSERT_NE(taskOf(plan.value(), 901), nullptr);
+    EXPECT_EQ(taskOf(plan.value(), 901)->name, u"나의 역본"_s);
+    ASSERT_NE(taskOf(plan.value(), 211), nullptr);
+    EXPECT_EQ(taskOf(plan.value(), 211)->name, u"BBE"_s);
+    ASSERT_NE(taskOf(plan.value(), 214), nullptr);
+    EXPECT_EQ(taskOf(plan.value(), 304), nullptr);
+    const QString remarks = plan.value().remarks.join(u'\n');
+    EXPECT_TRUE(remarks.contains(files.path(u"user/unknown"_s)));
+    EXPECT_TRUE(remarks.contains(u"304: "_s));
+    EXPECT_FALSE(remarks.contains(u"other.xml"_s));
+}
+
+TEST_F(BuildPlanTest, ASuppliedTextGoesBeforeAnInstalledOne)
+{
+    files.write(u"user/201/gen.usfm"_s, u"\\id GEN"_s);
+    BuildOptions options;
+    EXPECT_EQ(taskOf(planBuild(options, {}).value(), 201)->source.format, SourceFormat::Sword);
+    options.sourceFolder = files.path(u"user"_s);
+    EXPECT_EQ(taskOf(planBuild(options, {}).value(), 201)->source.format, SourceFormat::Usfm);
+}
+
+TEST_F(BuildPlanTest, OnlyWhatIsAskedForAndTellsWhatHasNoSource)
+{
+    BuildOptions options;
+    options.only = {201, 101, 103};
+    const auto plan = planBuild(options, {});
+    ASSERT_TRUE(plan.ok());
+    ASSERT_EQ(plan.value().tasks.size(), 1U);
+    EXPECT_EQ(plan.value().tasks[0].code, 201);
+    EXPECT_EQ(plan.value().refused.size(), 2U);
+    EXPECT_EQ(plan.value().refused[0].state, ModuleState::SourceMissing);
+}
+
+TEST_F(BuildPlanTest, TakesNamedFilesForOneModule)
+{
+    BuildOptions options;
+    options.moduleCode = 905;
+    options.moduleName = u"시험"_s;
+    options.format = u"osis"_s;
+    options.files = {files.write(u"a.xml"_s, u"<osis/>"_s)};
+    const auto plan = planBuild(options, {});
+    ASSERT_TRUE(plan.ok());
+    ASSERT_EQ(plan.value().tasks.size(), 1U);
+    EXPECT_EQ(plan.value().tasks[0].name, u"시험"_s);
+    options.files = {files.path(u"none.xml"_s)};
+    EXPECT_EQ(planBuild(options, {}).failure().kind, FailureKind::NotFound);
+    options.files = {files.path(u"a.xml"_s)};
+    options.format = u"word"_s;
+    EXPECT_EQ(planBuild(options, {}).failure().kind, FailureKind::Invalid);
+}
+
+TEST(BuildOptions, RefusesWhatMakesNoSense)
+{
+    const QStringList refused[] = {
+        {u"--only"_s, u"abc"_s},
+        {u"--only="_s},
+        {u"--jobs"_s, u"0"_s},
+        {u"--source"_s, u"/no/such/folder"_s},
+        {u"file.usfm"_s},
+        {u"--module"_s, u"901"_s, u"--format"_s, u"usfm"_s, u"f"_s},
+        {u"--module"_s, u"901"_s, u"--name"_s, u"a[b"_s, u"--format"_s, u"usfm"_s, u"f"_s},
+        {u"--module"_s, u"901"_s, u"--name"_s, u"이름(없음)"_s, u"--format"_s, u"usfm"_s, u"f"_s},
+        {u"--module"_s, u"901"_s, u"--name"_s, u"MSysA"_s, u"--format"_s, u"usfm"_s, u"f"_s},
+        {u"--module"_s, u"304"_s, u"--format"_s, u"usfm"_s, u"f"_s},
+        {u"--module"_s, u"555"_s, u"--format"_s, u"usfm"_s, u"f"_s},
+        {u"--module"_s, u"214"_s, u"f"_s},
+        {u"--unknown"_s},
+    };
+    for (const QStringList& args : refused) {
+        SCOPED_TRACE(args.join(u' ').toStdString());
+        const auto options = parseBuildOptions(args);
+        ASSERT_FALSE(options.ok());
+        EXPECT_EQ(options.failure().kind, FailureKind::Invalid);
+    }
+}
+
+TEST(BuildOptions, ReadsTheArguments)
+{
+    const auto options =
+        parseBuildOptions({u"--out"_s, u"/x/y/"_s, u"--only=101,201"_s, u"--jobs"_s, u"3"_s,
+                           u"--renumber"_s, u"--module"_s, u"901"_s, u"--name"_s, u"나의 역본"_s,
+                           u"--format"_s, u"usfm"_s, u"a"_s, u"b"_s});
+    ASSERT_TRUE(options.ok()) << options.failure().detail.toStdString();
+    EXPECT_EQ(options.value().outFolder, u"/x/y"_s);
+    EXPECT_EQ(options.value().only, (QSet<int>{101, 201}));
+    EXPECT_EQ(options.value().jobs, 3);
+    EXPECT_EQ(options.value().renumbering, Renumbering::English);
+    EXPECT_EQ(options.value().files, (QStringList{u"a"_s, u"b"_s}));
+}
+
+} // namespace
+} // namespace lumen

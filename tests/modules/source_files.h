@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "sources/version_text.h"
+
+#include <QString>
+#include <QTemporaryDir>
+#include <QVariantList>
+
+#include <vector>
+
+namespace lumen {
+
+/// A folder of made-up source files that goes with the test.
+class SourceFiles
+{
+public:
+    /// Writes a file and the folders above it; returns its path.
+    QString write(const QString& name, const QByteArray& content) const;
+    QString write(const QString& name, const QString& content) const
+    {
+        return write(name, content.toUtf8());
+    }
+    QString path(const QString& name = {}) const { return m_folder.filePath(name); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// The verse of a version, nullptr when it has no row.
+const VerseText* verseAt(const VersionText& version, int book, int chapter, int verse);
+/// Its words; "<no row>" and "<no words>" tell the two other cases apart.
+QString wordsAt(const VersionText& version, int book, int chapter, int verse);
+
+/// The rows that a query of a finished store gives.
+std::vector<QVariantList> storeRows(const QString& file, const QString& sql);
+
+} // namespace lumen

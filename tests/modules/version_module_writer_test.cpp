@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "build/version_module_writer.h"
+#include "modules/source_files.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+namespace lumen {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+VersionText madeUp()
+{
+    VersionText version;
+    version.verses.push_back({0, 1, 1, u"AB 가나"_s, u"앞글"_s, u"소제목"_s});
+    version.verses.push_back({18, 119, 105, std::nullopt, std::nullopt, {}});
+    version.verses.push_back({43, 2, 4, u"z"_s, std::nullopt, {}});
+    return version;
+}
+
+bool goOn(double)
+{
+    return true;
+}
+
+TEST(VersionModuleWriter, FillsEveryColumn)
+{
+    const SourceFiles files;
+    const QString file = files.path(u"901.dts"_s);
+    const ModuleLabel label{u"나의 역본"_s, {{u"source"_s, u"made up"_s}}};
+    ASSERT_TRUE(writeVersionModule(file, label, madeUp(), goOn).ok());
+    const auto rows = storeRows(
+        file, u"select \"index\", Chap, Verse, Cont, part, miniTitle, Testa, Category, rowid "
+              "from [나의 역본]"_s);
+    ASSERT_EQ(rows.size(), 3U);
+    // The words are scrambled, what stands before and above them is not.
+    EXPECT_EQ(rows[0], (QVariantList{u"01창:001:001"_s, u"창01"_s, 1, u"\"# 치푸"_s, u"앞글"_s,
+                                     u"소제목"_s, u"구"_s, u"모"_s, 1}));
+    EXPECT_EQ(rows[1], (QVariantList{u"19시:119:105"_s, u"시119"_s, 105, QVariant(), QVariant(),
+                                     u""_s, u"구"_s, u"시"_s, 2}));
+    // Acts stands in no group.
+    EXPECT_EQ(rows[2], (QVariantList{u"44행:002:004"_s, u"행02"_s, 4, u"["_s, QVariant(), u""_s,
+                                     u"신"_s, QVariant(), 3}));
+    EXPECT_FALSE(rows[1][5].isNull());
+}
+
+TEST(VersionModuleWriter, KeepsPasswordIndexesAndOrigin)
+{
+    const SourceFiles files;
+    const QString file = files.path(u"901.dts"_s);
+    ASSERT_TRUE(
+        writeVersionModule(file, {u"X"_s, {{u"source"_s, u"made up"_s}}}, madeUp(), goOn).ok());
+    EXPECT_EQ(storeRows(file, u"select value from MSysStore where key in ('password', 'compare') "
+                              "order by key"_s),
+              (std::vector<QVariantList>{{u"binary"_s}, {u"qolvetrinam"_s}}));
+    EXPECT_EQ(storeRows(file, u"select value from MSysOrigin where key = 'source'"_s),
+              (std::vector<QVariantList>{{u"made up"_s}}));
+    EXPECT_EQ(storeRows(file, u"select \"unique\", (select group_concat(name) from "
+                              "pragma_index_info(l.name)) from pragma_index_list('X') l "
+                              "order by 1"_s),
+              (std::vector<QVariantList>{{0, u"Chap"_s}, {1, u"index"_s}}));
+}
+
+TEST(VersionModuleWriter, LeavesNothingWhenStopped)
+{
+    const SourceFiles files;
+    const QString file = files.write(u"901.dts"_s, u"what was there"_s);
+    const auto stopped =
+        writeVersionModule(file, {u"X"_s, {}}, madeUp(), [](double share) { return share < 1; });
+    ASSERT_FALSE(stopped.ok());
+    EXPECT_EQ(stopped.failure().kind, FailureKind::Cancelled);
+    EXPECT_EQ(QDir(files.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"901.dts"_s});
+    QFile kept(file);
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), QByteArray("what was there"));
+}
+
+} // namespace
+} // namespace lumen
