@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/startup.h"
 #include "app/world.h"
+#include "forms/tool_icons.h"
 #include "platform/log.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(u"루멘 스크립트"_s);
     QApplication::setApplicationVersion(QStringLiteral(LUMEN_VERSION));
     QApplication::setDesktopFileName(u"lumenscript"_s);
+    QApplication::setWindowIcon(lumen::programIcon());
     lumen::setUpLogging();
 
     QCommandLineParser parser;

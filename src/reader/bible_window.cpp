@@ -5,6 +5,7 @@
 #include "canon/verse_index.h"
 #include "data/module_path.h"
 #include "forms/guarded.h"
+#include "forms/tool_icons.h"
 #include "forms/window_opener.h"
 #include "platform/controls/twips.h"
 #include "reader/personal_notes_tab.h"
@@ -33,6 +34,7 @@ frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
     setWindowTitle(u"루멘 스크립트"_s);
     atbar.add(kReaderTools);
     addGeneratedTools();
+    setToolIcons(atbar);
     layOut();
     bindTools();
     atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };

@@ -4,6 +4,7 @@
 #include "forms/form_geometry.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
+#include "forms/tool_icons.h"
 #include "forms/version_combo.h"
 #include "forms/wait_pointer.h"
 #include "platform/controls/twips.h"
@@ -90,6 +91,7 @@ void frm성서검색::addTools()
     atbar.add(kSearchTools);
     for (const ScopeRow& scope : kScopes)
         atbar.add({scope.toolId, scope.text, ToolKind::Toggle, u"ID_Scope"});
+    setToolIcons(atbar);
 }
 
 void frm성서검색::bindTools()
