@@ -10,7 +10,7 @@ BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlite3-dev mdb
   libsword-dev libgtest-dev libgmock-dev libbenchmark-dev"
 SOURCE_PACKAGES="sword-text-kjv sword-text-web sword-text-sparv bibledit-data npm"
 FONT_PACKAGES="fonts-nanum fonts-nanum-coding fonts-noto-core fonts-noto-cjk fonts-sil-ezra
-  fonts-sil-galatia"
+  fonts-sil-galatia libqt6svg6"
 DISPLAY_PACKAGES="xvfb xdotool imagemagick"
 
 say() { printf '%s\n' "$*"; }
