@@ -67,10 +67,12 @@ Result<BuildPlan> planOneModule(const BuildOptions& options, const SourceFolders
     const auto source = namedSource(options.format, options.files, folders.sword);
     if (!source)
         return source.failure();
+    if (!sourceIsThere(source.value()))
+        return Failure{FailureKind::NotFound,
+                       u"원본을 찾을 수 없습니다: %1"_s.arg(options.files.join(u' '))};
     BuildPlan plan;
     plan.tasks.push_back(userTask(options.moduleCode, options.moduleName, source.value(), folders,
                                   options.renumbering));
-    plan.tasks.back().hint = u"원본을 찾을 수 없습니다."_s;
     return plan;
 }
 

@@ -194,8 +194,13 @@ Result<ModuleSource> namedSword(const QString& path, const QString& installedSwo
     const QFileInfo info(path);
     if (info.isFile())
         return ModuleSource{SourceFormat::Sword, {}, swordModuleOf(path)};
-    if (!info.isDir())
-        return ModuleSource{SourceFormat::Sword, {}, {installedSword, path}};
+    if (!info.isDir()) {
+        // The name of an installed module: the user's own folder goes first, as in other programs.
+        const SwordModule own{QDir::homePath() + u"/.sword"_s, path};
+        const bool isOwn = !swordConfFile(own).isEmpty();
+        return ModuleSource{
+            SourceFormat::Sword, {}, isOwn ? own : SwordModule{installedSword, path}};
+    }
     const QDir confs(path + u"/mods.d"_s);
     const QStringList names = confs.entryList({u"*.conf"_s}, QDir::Files);
     if (names.size() == 1)

@@ -134,10 +134,10 @@ int mendDouayPsalms(VersionText& version)
         return verse.book == kPsalms && (verse.chapter == 116 || verse.chapter == 149) &&
                verse.text == kDouayFiller;
     });
-    return static_cast<int>(
-        std::count_if(version.verses.begin(), version.verses.end(), [](VerseText& verse) {
-            return verse.book == kPsalms && moveDouayPsalm(verse);
-        }));
+    int moved = 0;
+    for (VerseText& verse : version.verses)
+        moved += verse.book == kPsalms && moveDouayPsalm(verse) ? 1 : 0;
+    return moved;
 }
 
 template <typename Change>

@@ -104,6 +104,9 @@ TEST_F(BuildPlanTest, TakesNamedFilesForOneModule)
     EXPECT_EQ(plan.value().tasks[0].name, u"시험"_s);
     options.files = {files.path(u"none.xml"_s)};
     EXPECT_EQ(planBuild(options, {}).failure().kind, FailureKind::NotFound);
+    options.format = u"sword"_s;
+    options.files = {u"NoSuchModule"_s};
+    EXPECT_EQ(planBuild(options, {}).failure().kind, FailureKind::NotFound);
     options.files = {files.path(u"a.xml"_s)};
     options.format = u"word"_s;
     EXPECT_EQ(planBuild(options, {}).failure().kind, FailureKind::Invalid);
