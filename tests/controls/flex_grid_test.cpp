@@ -128,6 +128,16 @@ TEST_F(FlexGridTest, AResizeKeepsTheRowAtTheTop)
     EXPECT_EQ(grid.TopRow(), 50);
 }
 
+TEST_F(FlexGridTest, AGridFilledWhileHiddenShowsTheRowItWasSentTo)
+{
+    grid.hide();
+    fill(80);
+    grid.setTopRow(40);
+    grid.show();
+    EXPECT_EQ(grid.TopRow(), 40);
+    EXPECT_GT(grid.rowHeight(18), grid.rowHeight(39));
+}
+
 TEST_F(FlexGridTest, TheLastRowCanBeReachedWhole)
 {
     fill(100);

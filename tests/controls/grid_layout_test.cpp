@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/controls/grid_layout.h"
+#include "platform/controls/twips.h"
+#include "text/hebrew_division.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +25,7 @@ int linesInDocument(const QString& text, const QFont& font, int width)
     document.setDocumentMargin(0);
     document.setDefaultFont(font);
     document.setPlainText(text);
-    document.setTextWidth(width - 2 * kCellMarginX);
+    document.setTextWidth(width - kCellMarginLeft - kCellMarginRight);
     return qRound(document.size().height() / QFontMetricsF(font).lineSpacing());
 }
 
@@ -92,6 +94,22 @@ TEST(LayOutCellTest, TextOfVisualOrderIsNeverReordered)
     const QTextLine line = layout.lineAt(0);
     EXPECT_LT(line.cursorToX(0), line.cursorToX(2));
     EXPECT_LT(line.cursorToX(2), line.cursorToX(6));
+}
+
+TEST(LayOutCellTest, DividedHebrewKeepsItsLinesInItsColumn)
+{
+    FontLineBreaker breaker;
+    const QString verse = u"made up letters that stand for a verse in display order "_s.repeated(3);
+    for (int pixels = 90; pixels < 400; pixels += 7) {
+        SCOPED_TRACE(pixels);
+        const HebrewTarget target{u"NanumGothic"_s, 32, toTwips(pixels)};
+        const QStringList lines = hebrewLines(verse, target, breaker);
+        ASSERT_GT(lines.size(), 1);
+        // The size counts half points.
+        QTextLayout layout(shownText(lines.join(u"\r\n"_s)), QFont(u"NanumGothic"_s, 16));
+        layOutCell(layout, pixels - 1, GridAlign::Right);
+        EXPECT_EQ(layout.lineCount(), lines.size());
+    }
 }
 
 } // namespace

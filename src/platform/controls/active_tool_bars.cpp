@@ -24,10 +24,9 @@ constexpr char kLaterProperty[] = "laterTool";
 
 QString tipFor(const QString& caption, const QKeySequence& shortcut)
 {
-    const QString tip = spokenCaption(caption);
     if (shortcut.isEmpty())
-        return tip;
-    return tip + u" ("_s + shortcut.toString(QKeySequence::NativeText) + u')';
+        return spokenCaption(caption);
+    return spokenCaption(caption) + u" ("_s + shortcut.toString(QKeySequence::NativeText) + u')';
 }
 
 } // namespace

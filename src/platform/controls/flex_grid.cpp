@@ -268,6 +268,9 @@ void FlexGrid::columnsResized()
 
 void FlexGrid::applyHeights()
 {
+    // Before it is shown a grid has no width worth dividing a chapter for.
+    if (!isVisible())
+        return;
     const int top = TopRow();
     std::vector<int> widths(static_cast<std::size_t>(Cols()));
     for (int col = Cols() - 1; col >= 0; --col)
@@ -413,12 +416,20 @@ void FlexGrid::setSelectionMode(GridSelection mode)
 
 void FlexGrid::ShowRow(int row)
 {
-    scrollTo(cellIndex(row, 0), EnsureVisible);
+    scrollToRow(row, EnsureVisible);
 }
 
 void FlexGrid::setTopRow(int row)
 {
-    scrollTo(cellIndex(row, 0), PositionAtTop);
+    scrollToRow(row, PositionAtTop);
+}
+
+void FlexGrid::scrollToRow(int row, ScrollHint hint)
+{
+    if (isVisible())
+        scrollTo(cellIndex(row, 0), hint);
+    else
+        m_scrollOnShow = {row, hint};
 }
 
 int FlexGrid::TopRow() const
@@ -477,8 +488,11 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event)
 void FlexGrid::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy)) {
+        // A window without a handler of its own may have a copy tool above.
         if (onCopy)
             onCopy();
+        else
+            event->ignore();
         return;
     }
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -515,6 +529,15 @@ void FlexGrid::resizeEvent(QResizeEvent* event)
     if (top > FixedRows())
         setTopRow(top);
     m_resizeTimer.start();
+}
+
+void FlexGrid::showEvent(QShowEvent* event)
+{
+    QTableView::showEvent(event);
+    stretchColumns();
+    columnsResized();
+    if (const auto wanted = std::exchange(m_scrollOnShow, std::nullopt))
+        scrollToRow(wanted->first, wanted->second);
 }
 
 void FlexGrid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -72,7 +73,7 @@ public:
     void setStretchFrom(int firstCol);
 
     /// Computes the heights of all rows, now and from then on whenever widths change or a fill
-    /// under setRedraw(false) ends.
+    /// under setRedraw(false) ends. A hidden grid does it when it is shown.
     void AutoSize();
     /// False holds painting, heights and merged rows back until it is true again. See RedrawHold.
     void setRedraw(bool redraw);
@@ -89,7 +90,8 @@ public:
     void select(int row, int rowSel);
     void setCell(int row, int col);
     void setSelectionMode(GridSelection mode);
-    /// Scrolls as little as needed / so that the row is the topmost.
+    /// Scrolls as little as needed / so that the row is the topmost; a hidden grid does it when it
+    /// is shown.
     void ShowRow(int row);
     void setTopRow(int row);
     int TopRow() const;
@@ -129,6 +131,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
     void changeEvent(QEvent* event) override;
@@ -143,6 +146,7 @@ private:
     void applyMergedRows();
     void applyHeights();
     int highestCell(int row, const std::vector<int>& widths) const;
+    void scrollToRow(int row, ScrollHint hint);
     void stretchColumns();
     void columnsResized();
 
@@ -151,6 +155,7 @@ private:
     QTimer m_resizeTimer;
     QString m_tag;
     GridSelection m_mode = GridSelection::Rows;
+    std::optional<std::pair<int, ScrollHint>> m_scrollOnShow;
     int m_stretchFrom = -1;
     bool m_redraw = true;
     bool m_sized = false;

@@ -75,7 +75,8 @@ void GridDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& opti
     painter.setPen(color);
     // A cell beside a longer one stands in the middle; one that is cut off begins at its top.
     const int spare = std::max(0, option.rect.height() - height);
-    layout.draw(&painter, option.rect.topLeft() + QPoint(kCellMarginX, kCellMarginY + spare / 2));
+    layout.draw(&painter,
+                option.rect.topLeft() + QPoint(kCellMarginLeft, kCellMarginY + spare / 2));
 }
 
 } // namespace lumen

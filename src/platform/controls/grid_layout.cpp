@@ -44,7 +44,7 @@ int layOutCell(QTextLayout& layout, int width, GridAlign align)
                         : align == GridAlign::Center ? Qt::AlignHCenter
                                                      : Qt::AlignLeft);
     layout.setTextOption(option);
-    const int room = std::max(1, width - 2 * kCellMarginX);
+    const int room = std::max(1, width - kCellMarginLeft - kCellMarginRight);
     qreal height = 0;
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {

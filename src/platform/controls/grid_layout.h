@@ -13,8 +13,10 @@
 
 namespace lumen {
 
-/// The room around the text of a cell, pixels.
-inline constexpr int kCellMarginX = 4;
+/// The room around the text of a cell, pixels. Left and right together with the grid line stay
+/// below 100 twips, which divided Hebrew leaves free of its column's width: its lines never wrap.
+inline constexpr int kCellMarginLeft = 3;
+inline constexpr int kCellMarginRight = 2;
 inline constexpr int kCellMarginY = 3;
 
 /// The text of a cell as it is laid out: "\r\n", "\n" and "\r" become line separators.

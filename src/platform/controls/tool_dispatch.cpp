@@ -13,6 +13,19 @@ bool isNumber(QStringView text)
            std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
+bool needsHandler(const ToolRow& row)
+{
+    return row.state == ToolState::Ready && row.kind != ToolKind::Menu &&
+           row.kind != ToolKind::Separator;
+}
+
+QStringList unreached(const ToolDispatch& dispatch, const std::set<QString>& reached)
+{
+    QStringList patterns = dispatch.patterns();
+    patterns.removeIf([&](const QString& pattern) { return reached.contains(pattern); });
+    return patterns;
+}
+
 } // namespace
 
 void ToolDispatch::on(QStringView id, std::function<void()> action)
@@ -93,22 +106,14 @@ ToolFaults unpairedTools(std::span<const ToolRow> rows, const ToolDispatch& clic
     std::set<QString> reachedClicks;
     std::set<QString> reachedCombos;
     for (const ToolRow& row : rows) {
-        if (row.kind == ToolKind::Separator)
-            continue;
         const bool isCombo = row.kind == ToolKind::Combo;
         const QString id = row.id.toString();
         const QString pattern = (isCombo ? combos : clicks).patternFor(id);
-        if (!pattern.isEmpty())
-            (isCombo ? reachedCombos : reachedClicks).insert(pattern);
-        else if (row.state == ToolState::Ready && row.kind != ToolKind::Menu)
+        (isCombo ? reachedCombos : reachedClicks).insert(pattern);
+        if (pattern.isEmpty() && needsHandler(row))
             faults.withoutHandler << id;
     }
-    for (const QString& pattern : clicks.patterns())
-        if (!reachedClicks.contains(pattern))
-            faults.withoutTool << pattern;
-    for (const QString& pattern : combos.patterns())
-        if (!reachedCombos.contains(pattern))
-            faults.withoutTool << pattern;
+    faults.withoutTool = unreached(clicks, reachedClicks) + unreached(combos, reachedCombos);
     return faults;
 }
 
