@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/canon_table.h"
+#include "platform/jet/jet_error.h"
 #include "search/search_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -240,6 +241,94 @@ TEST_F(SearchWindowTest, ClosingFreesTheModuleAndKeepsPlaceAndMarks)
     EXPECT_EQ(references(), QStringList());
     EXPECT_FALSE(window->atbar.tool(u"ID_MarkHits").checked());
     EXPECT_EQ(combo(u"cb검색"_s).ListCount(), 0);
+}
+
+TEST_F(SearchWindowTest, NoTextEverBringsAnErrorBox)
+{
+    open();
+    window->atbar_event9(u"ID_대역본0-201"_s);
+    const QString half(QChar(0xDBFF));
+    for (const QString& word : {u"'"_s,
+                                u"''"_s,
+                                u"\""_s,
+                                u"["_s,
+                                u"[x]"_s,
+                                u"]"_s,
+                                u"*"_s,
+                                u"%"_s,
+                                u"a|b"_s,
+                                u"?"_s,
+                                u"#"_s,
+                                u"\\"_s,
+                                u"' or 1=1 --"_s,
+                                u"😀"_s,
+                                half,
+                                QString(QChar(u'\0')),
+                                QString(10000, u'['),
+                                QString(10000, u'\''),
+                                u"the end's mark"_s,
+                                u"\r\n"_s}) {
+        SCOPED_TRACE(word.left(20).toStdString());
+        const qsizetype hits = plainScan(kjv, word).size();
+        for (const QString& name : {u"tx검색"_s, u"txPSearch1"_s}) {
+            const bool easy = name == u"tx검색";
+            window->sstSearch->setTab(easy ? 0 : 1);
+            box(name).setText(word);
+            click(easy ? u"cmd검색"_s : u"cmdPSearch"_s);
+            EXPECT_EQ(panel(2), QString::number(hits) + u"개 검색"_s);
+        }
+    }
+}
+
+TEST_F(SearchWindowTest, ADamagedModuleIsToldAndTheFormerResultStays)
+{
+    QFile module(test.folders.data(u"201.dts"_s));
+    ASSERT_TRUE(module.open(QIODevice::WriteOnly));
+    module.write("no database at all, but long enough to have a header");
+    module.close();
+    QString told;
+    try {
+        test.jet.OpenDatabase(u"C:\\lumenscript\\Data\\201.dts"_s);
+    } catch (const JetError& error) {
+        told = error.text();
+    }
+    ASSERT_FALSE(told.isEmpty());
+    open();
+    typeAndEnter(u"tx검색"_s, u"오십일"_s);
+    window->atbar_event9(u"ID_대역본0-201"_s);
+    test.messages.expect(u"Lumenscript"_s, told, 16);
+    click(u"cmd검색"_s);
+    test.messages.verify();
+    EXPECT_EQ(references().size(), 50);
+    EXPECT_EQ(panel(2), QString());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(SearchWindowTest, HelpShowsItsPagesAndSaysWhatIsMissing)
+{
+    open();
+    for (const QString& tool : {u"ID_목차"_s, u"ID_색인"_s, u"ID_도움말검색"_s})
+        window->atbar_event9(tool);
+    EXPECT_EQ(test.help.asked, (QStringList{u"HowtoSearchBible.htm"_s, u"index"_s, u"search"_s}));
+    test.help.failure = Failure{FailureKind::NotFound, u"HowtoSearchBible.htm"_s};
+    test.messages.expect(u"도움말 없음"_s, u"도움말을 열 수 없습니다.\r\nHowtoSearchBible.htm"_s,
+                         48);
+    window->atbar_event9(u"ID_목차"_s);
+}
+
+TEST_F(SearchWindowTest, TheEditMenuOffersWhatTheFocusedControlTakes)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"은혜"_s);
+    box(u"tx검색"_s).selectAll();
+    window->atbar_event9(u"ID_편집"_s);
+    EXPECT_TRUE(window->atbar.tool(u"ID_잘라내기").enabled());
+    window->hflex결과->setFocus();
+    window->hflex결과->setRow(1);
+    window->atbar_event9(u"ID_편집"_s);
+    EXPECT_FALSE(window->atbar.tool(u"ID_잘라내기").enabled());
+    EXPECT_FALSE(window->atbar.tool(u"ID_붙여넣기").enabled());
+    EXPECT_TRUE(window->atbar.tool(u"ID_복사").enabled());
 }
 
 TEST_F(SearchWindowTest, EveryToolHasItsHandlerAndEveryHandlerItsTool)
