@@ -66,14 +66,6 @@ void FlexGrid::wireHeader()
     });
 }
 
-template <typename Change>
-void FlexGrid::quietly(Change change)
-{
-    const bool before = std::exchange(m_inCode, true);
-    change();
-    m_inCode = before;
-}
-
 int FlexGrid::Rows() const
 {
     return m_model->rows();
@@ -324,96 +316,6 @@ void FlexGrid::setRedraw(bool redraw)
     setUpdatesEnabled(true);
 }
 
-QModelIndex FlexGrid::cellIndex(int row, int col)
-{
-    quietly([&] { m_model->sync(); });
-    return m_model->index(row - FixedRows(), std::max(col, 0));
-}
-
-std::pair<int, int> FlexGrid::selectedRows() const
-{
-    const QItemSelection ranges = selectionModel()->selection();
-    if (ranges.isEmpty())
-        return {-1, -1};
-    int first = ranges.first().top();
-    int last = ranges.first().bottom();
-    for (const QItemSelectionRange& range : ranges) {
-        first = std::min(first, range.top());
-        last = std::max(last, range.bottom());
-    }
-    return {first + FixedRows(), last + FixedRows()};
-}
-
-int FlexGrid::Row() const
-{
-    const auto [first, last] = selectedRows();
-    return RowSel() == first ? last : first;
-}
-
-int FlexGrid::RowSel() const
-{
-    // The right button moves the current cell within the range, so only its ends count.
-    const auto [first, last] = selectedRows();
-    return currentIndex().isValid() && currentIndex().row() + FixedRows() == first ? first : last;
-}
-
-int FlexGrid::Col() const
-{
-    const QItemSelection ranges = selectionModel()->selection();
-    if (ranges.isEmpty())
-        return -1;
-    return ColSel() == ranges.first().left() ? ranges.first().right() : ranges.first().left();
-}
-
-int FlexGrid::ColSel() const
-{
-    const QItemSelection ranges = selectionModel()->selection();
-    return ranges.isEmpty() ? -1 : std::max(currentIndex().column(), ranges.first().left());
-}
-
-void FlexGrid::setRow(int row)
-{
-    if (m_mode == GridSelection::Cells)
-        setCell(row, std::max(currentIndex().column(), 0));
-    else
-        select(row, row);
-}
-
-void FlexGrid::select(int row, int rowSel)
-{
-    const QModelIndex from = cellIndex(row, 0);
-    const QModelIndex to = cellIndex(rowSel, 0);
-    quietly([&] {
-        if (!from.isValid() || !to.isValid()) {
-            clearSelection();
-            return;
-        }
-        const QItemSelection rows(from.row() <= to.row() ? from : to,
-                                  from.row() <= to.row() ? to : from);
-        selectionModel()->setCurrentIndex(to, QItemSelectionModel::NoUpdate);
-        selectionModel()->select(rows,
-                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    });
-}
-
-void FlexGrid::setCell(int row, int col)
-{
-    const QModelIndex cell = cellIndex(row, col);
-    quietly([&] {
-        selectionModel()->setCurrentIndex(cell, m_mode == GridSelection::Rows
-                                                    ? QItemSelectionModel::ClearAndSelect |
-                                                          QItemSelectionModel::Rows
-                                                    : QItemSelectionModel::ClearAndSelect);
-    });
-}
-
-void FlexGrid::setSelectionMode(GridSelection mode)
-{
-    m_mode = mode;
-    setSelectionBehavior(mode == GridSelection::Rows ? SelectRows : SelectItems);
-    QTableView::setSelectionMode(ContiguousSelection);
-}
-
 void FlexGrid::ShowRow(int row)
 {
     scrollToRow(row, EnsureVisible);
@@ -446,23 +348,6 @@ int FlexGrid::rowAtPoint(const QPoint& point) const
 int FlexGrid::colAtPoint(const QPoint& point) const
 {
     return columnAt(point.x());
-}
-
-QString FlexGrid::selectionText() const
-{
-    const QItemSelection ranges = selectionModel()->selection();
-    if (ranges.isEmpty())
-        return {};
-    const auto [first, last] = selectedRows();
-    QStringList lines;
-    for (int row = first; row <= last; ++row) {
-        QStringList cells;
-        for (int col = ranges.first().left(); col <= ranges.first().right(); ++col)
-            if (!isColumnHidden(col))
-                cells << m_model->text(row, col);
-        lines << cells.join(u'\t');
-    }
-    return lines.join(QStringLiteral("\r\n"));
 }
 
 void FlexGrid::mouseReleaseEvent(QMouseEvent* event)
@@ -538,13 +423,6 @@ void FlexGrid::showEvent(QShowEvent* event)
     columnsResized();
     if (const auto wanted = std::exchange(m_scrollOnShow, std::nullopt))
         scrollToRow(wanted->first, wanted->second);
-}
-
-void FlexGrid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
-{
-    QTableView::selectionChanged(selected, deselected);
-    if (!m_inCode && onSelChange)
-        onSelChange();
 }
 
 void FlexGrid::changeEvent(QEvent* event)

@@ -139,7 +139,12 @@ protected:
 private:
     /// Runs something that changes the selection without telling it as the user's.
     template <typename Change>
-    void quietly(Change change);
+    void quietly(Change change)
+    {
+        const bool before = std::exchange(m_inCode, true);
+        change();
+        m_inCode = before;
+    }
     QModelIndex cellIndex(int row, int col);
     std::pair<int, int> selectedRows() const;
     void wireHeader();
