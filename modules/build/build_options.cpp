@@ -119,7 +119,7 @@ QString defaultDataFolder()
     const QString home = qEnvironmentVariable("LUMENSCRIPT_HOME");
     if (!home.isEmpty())
         return home + u"/Data"_s;
-    const QString beside = QCoreApplication::applicationDirPath() + u"/Data"_s;
+    QString beside = QCoreApplication::applicationDirPath() + u"/Data"_s;
     if (QFileInfo(beside).isDir())
         return beside;
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +

@@ -23,12 +23,12 @@ enum class Origin { Sword, Bibledit, Npm };
 // it may hold a wildcard in its last part.
 struct Recipe
 {
-    int code;
-    Origin origin;
-    SourceFormat format;
+    int code = 0;
+    Origin origin = Origin::Sword;
+    SourceFormat format = SourceFormat::Sword;
     QStringView package;
     QStringView path;
-    Mend mend;
+    Mend mend = nullptr;
     QStringView text; ///< what the text is
     QStringView licence;
 };

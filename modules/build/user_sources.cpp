@@ -27,7 +27,7 @@ constexpr int kMixedScript = 102;
 struct SwordName
 {
     QStringView name;
-    int code;
+    int code = 0;
 };
 
 // The names under which SWORD modules of catalogue versions are commonly spread.

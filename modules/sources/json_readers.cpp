@@ -39,10 +39,10 @@ std::optional<Failure> addBook(const QString& file, const QJsonObject& root, Ver
     if (!book)
         return sourceFailure(fileName(file), 0, u"알 수 없는 책 이름입니다: \"%1\""_s.arg(title));
     const QJsonArray chapters = root[u"chapters"_s].toArray();
-    for (const QJsonValue& chapterValue : chapters) {
+    for (const auto& chapterValue : chapters) {
         const int chapter = chapterValue[u"chapter"_s].toInt();
         const QJsonArray verses = chapterValue[u"verses"_s].toArray();
-        for (const QJsonValue& value : verses) {
+        for (const auto& value : verses) {
             const int verse = value[u"verse"_s].toInt();
             if (chapter < 1 || verse < 1 || !value[u"text"_s].isString())
                 return sourceFailure(fileName(file), 0,
@@ -139,9 +139,9 @@ VersionResult readNestedJsonFile(const QString& file)
     QStringList unknownBooks;
     const QJsonValue text = document.value().object()[u"osis"_s][u"osisText"_s];
     const QJsonArray books = asList(text[u"div"_s]);
-    for (const QJsonValue& book : books)
-        for (const QJsonValue& chapter : asList(book[u"chapter"_s]))
-            for (const QJsonValue& verse : asList(chapter[u"verse"_s]))
+    for (const auto& book : books)
+        for (const auto& chapter : asList(book[u"chapter"_s]))
+            for (const auto& verse : asList(chapter[u"verse"_s]))
                 if (auto failure = addNestedVerse(file, verse.toObject(), version, unknownBooks))
                     return *failure;
     if (version.verses.empty())
@@ -158,7 +158,7 @@ VersionResult readFlatJsonFile(const QString& file)
         return document.failure();
     QStringList texts;
     const QJsonArray entries = document.value().array();
-    for (const QJsonValue& entry : entries)
+    for (const auto& entry : entries)
         if (entry.toString() != u"[]"_s)
             texts << entry.toString();
     VersionText version;

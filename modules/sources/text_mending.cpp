@@ -67,11 +67,11 @@ bool dropDoubledBrackets(QString& text, int& depth)
 
 struct PsalmMove
 {
-    int chapter;
-    int firstVerse;
-    int lastVerse;
-    int toChapter;
-    int toVerse;
+    int chapter = 0;
+    int firstVerse = 0;
+    int lastVerse = 0;
+    int toChapter = 0;
+    int toVerse = 0;
 };
 
 constexpr int kToTheEnd = 1000;

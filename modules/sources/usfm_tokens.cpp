@@ -13,7 +13,7 @@ namespace {
 struct KindRow
 {
     QStringView marker; ///< without the level: "q" stands for q1 to q9 too
-    UsfmKind kind;
+    UsfmKind kind = UsfmKind::Character;
 };
 
 constexpr std::array kKinds{
@@ -112,6 +112,25 @@ bool isMarkerLetter(QChar c)
            c == u'-';
 }
 
+// The marker at `at`, which moves behind it and the blank that ends it.
+UsfmToken readMarker(QStringView file, qsizetype& at)
+{
+    const auto skip = [&file, &at](QChar c) {
+        const bool found = at < file.size() && file[at] == c;
+        at += found ? 1 : 0;
+        return found;
+    };
+    UsfmToken token;
+    skip(u'\\');
+    skip(u'+'); // a marker nested in another
+    for (; at < file.size() && isMarkerLetter(file[at]); ++at)
+        token.marker += file[at];
+    token.closing = skip(u'*');
+    if (!token.closing)
+        skip(u' ');
+    return token;
+}
+
 } // namespace
 
 UsfmKind usfmKind(QStringView marker)
@@ -134,29 +153,16 @@ std::vector<UsfmToken> usfmTokens(QStringView file)
     int line = 1;
     qsizetype at = 0;
     while (at < file.size()) {
-        if (file[at] != u'\\') {
-            if (file[at] == u'\n')
-                ++line;
-            if (!tokens.empty())
-                tokens.back().text +=
-                    file[at] == u'\n' || file[at] == u'\r' ? QChar(u' ') : file[at];
-            ++at;
+        if (file[at] == u'\\') {
+            tokens.push_back(readMarker(file, at));
+            tokens.back().line = line;
             continue;
         }
-        UsfmToken token;
-        token.line = line;
+        const bool lineEnd = file[at] == u'\n' || file[at] == u'\r';
+        line += file[at] == u'\n' ? 1 : 0;
+        if (!tokens.empty())
+            tokens.back().text += lineEnd ? QChar(u' ') : file[at];
         ++at;
-        if (at < file.size() && file[at] == u'+') // a marker nested in another
-            ++at;
-        for (; at < file.size() && isMarkerLetter(file[at]); ++at)
-            token.marker += file[at];
-        if (at < file.size() && file[at] == u'*') {
-            token.closing = true;
-            ++at;
-        } else if (at < file.size() && file[at] == u' ') {
-            ++at;
-        }
-        tokens.push_back(std::move(token));
     }
     return tokens;
 }

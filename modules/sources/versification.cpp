@@ -70,6 +70,26 @@ QString deviationLine(const BookDeviation& deviation)
     return u"%1: %2"_s.arg(bookName(deviation.book), pieces.join(u"; "_s));
 }
 
+QStringList missingVerses(const QSet<QString>& present, Numbering numbering, int book)
+{
+    QStringList missing;
+    for (int chapter = 1; chapter <= chapterCount(book); ++chapter)
+        for (int verse = 1; verse <= verseCount(numbering, book, chapter); ++verse)
+            if (!present.contains(BibleCode::verseKey(book, chapter, verse)))
+                missing << shortPlace(chapter, verse);
+    return missing;
+}
+
+void addDeviation(CanonCheck& check, const BookDeviation& deviation)
+{
+    check.missing += static_cast<int>(deviation.missing.size());
+    check.beyond += static_cast<int>(deviation.beyond.size());
+    check.withoutWords += static_cast<int>(deviation.withoutWords.size());
+    if (!deviation.missing.isEmpty() || !deviation.beyond.isEmpty() ||
+        !deviation.withoutWords.isEmpty())
+        check.deviations << deviationLine(deviation);
+}
+
 using Places = QHash<QString, VersePlace>;
 
 QString placeKey(const VersePlace& place)
@@ -153,16 +173,8 @@ CanonCheck checkAgainstCanon(const VersionText& version, Numbering numbering)
     for (int book = 0; book < kBookCount; ++book) {
         auto& deviation = books[static_cast<std::size_t>(book)];
         deviation.book = book;
-        for (int chapter = 1; chapter <= chapterCount(book); ++chapter)
-            for (int verse = 1; verse <= verseCount(numbering, book, chapter); ++verse)
-                if (!present.contains(BibleCode::verseKey(book, chapter, verse)))
-                    deviation.missing << shortPlace(chapter, verse);
-        check.missing += static_cast<int>(deviation.missing.size());
-        check.beyond += static_cast<int>(deviation.beyond.size());
-        check.withoutWords += static_cast<int>(deviation.withoutWords.size());
-        if (!deviation.missing.isEmpty() || !deviation.beyond.isEmpty() ||
-            !deviation.withoutWords.isEmpty())
-            check.deviations << deviationLine(deviation);
+        deviation.missing = missingVerses(present, numbering, book);
+        addDeviation(check, deviation);
     }
     return check;
 }
