@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/jet/byte_search.h"
 #include "platform/jet/jet_error.h"
 #include "platform/jet/like_pattern.h"
 
@@ -195,6 +196,25 @@ TEST(LikePatternTest, RandomPatternsAgreeWithAPlainMatcher)
     }
     // Both answers must come up often enough for the comparison to mean something.
     EXPECT_GT(hits, kRounds / 50);
+}
+
+TEST(LikePatternTest, TheByteSearchFindsTheFirstPlaceAtAllLengths)
+{
+    std::mt19937 random(11);
+    const auto letters = [&random](std::size_t length) {
+        std::string text;
+        while (text.size() < length)
+            text += "ab\xEA"[random() % 3];
+        return text;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        // Texts of some blocks, parts that stand in them about half of the time.
+        const std::string text = letters(random() % 100);
+        const std::string part = letters(random() % 9);
+        const std::size_t from = random() % (text.size() + 2);
+        ASSERT_EQ(findBytes(text, part, from), std::string_view(text).find(part, from))
+            << part << " in " << text << " from " << from;
+    }
 }
 
 TEST(LikePatternTest, APrefixEndsBeforeTheNextCodePoint)

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/jet/like_pattern.h"
 
+#include "platform/jet/byte_search.h"
 #include "platform/jet/jet_error.h"
-
-#include <cstring>
 
 namespace lumen {
 
@@ -85,15 +84,6 @@ char32_t otherCase(char32_t character)
     if (character >= U'A' && character <= U'Z')
         return character - U'A' + U'a';
     return character;
-}
-
-std::size_t findBytes(std::string_view text, std::string_view part, std::size_t from)
-{
-    if (from > text.size())
-        return std::string_view::npos;
-    const void* hit = ::memmem(text.data() + from, text.size() - from, part.data(), part.size());
-    return hit == nullptr ? std::string_view::npos
-                          : static_cast<std::size_t>(static_cast<const char*>(hit) - text.data());
 }
 
 } // namespace
