@@ -53,6 +53,8 @@ void frm성서::layOut()
     textLayout->setContentsMargins(0, 0, 0, 0);
     textLayout->addWidget(txCont);
     textLayout->addWidget(hflex본문);
+    tx미리보기->setParent(texts);
+    tx미리보기->hide();
     hflex본문->hide();
     hflex본문->setSelectionMode(GridSelection::Rows);
     txCont->setTabWidth(kTabWidth);

@@ -60,6 +60,8 @@ public:
     void Proc이동(QString& reference) override;
     void goTo(int book, int chapter, int verse) override;
     void FillBibleText() override;
+    /// Fills tx미리보기 with the chapter as the print preview takes it.
+    void Proc텍스트미리보기채우기();
     void applySettings() override;
     void bringToFront() override;
 
@@ -81,6 +83,7 @@ public:
 
     ActiveToolBars atbar{*this};
     TextControl* txCont = named<TextControl>(u"txCont", u"성서 본문");
+    TextControl* tx미리보기 = named<TextControl>(u"tx미리보기"); ///< never shown
     FlexGrid* hflex본문 = named<FlexGrid>(u"hflex본문", u"성서 본문 표");
     QStatusBar* sb상황판 = named<QStatusBar>(u"sb상황판");
     QLabel* statusPanel1 = named<QLabel>(u"sb상황판(1)");
@@ -142,6 +145,7 @@ private:
     void runEdit(EditCommand command);
 
     void fillChapter();
+    ChapterStyle chapterStyle();
     void fillTextView(const std::vector<ChapterSource>& sources);
     void fillTableView(const std::vector<ChapterSource>& sources);
     QString divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf);

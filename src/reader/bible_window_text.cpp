@@ -198,7 +198,7 @@ QString frm성서::divideHebrew(const QString& stored, const HebrewTarget& targe
     return DivideHebrewCont(stored, shown, asRtf, m_lineBreaker);
 }
 
-void frm성서::fillTextView(const std::vector<ChapterSource>& sources)
+ChapterStyle frm성서::chapterStyle()
 {
     ChapterStyle style;
     style.rtf.mainFont = m_settings.MainFont;
@@ -215,7 +215,21 @@ void frm성서::fillTextView(const std::vector<ChapterSource>& sources)
     style.divideHebrew = [this](const QString& stored, const QString& font, int halfPoints) {
         return divideHebrew(stored, {font, halfPoints, txCont->textWidth()}, true);
     };
-    m_textView.show(composeChapter(sources, style));
+    return style;
+}
+
+void frm성서::fillTextView(const std::vector<ChapterSource>& sources)
+{
+    m_textView.show(composeChapter(sources, chapterStyle()));
+}
+
+void frm성서::Proc텍스트미리보기채우기()
+{
+    ChapterStyle style = chapterStyle();
+    style.kind = DocumentKind::Preview;
+    const ComposedChapter composed =
+        composeChapter(m_slots.readChapter(book(), chapter(), DocumentKind::Preview), style);
+    TextView(*tx미리보기).show(composed);
 }
 
 void frm성서::fillTableView(const std::vector<ChapterSource>& sources)

@@ -102,7 +102,6 @@ void frm성서::bindTools()
 
 void frm성서::bindViewTools()
 {
-    m_tools.on(u"ID_보기", [] {});
     m_tools.on(u"ID_표준도구모음", [this] {
         setBarVisible(u"ID_표준도구모음", !atbar.barVisible(reader_bar::kStandard));
     });

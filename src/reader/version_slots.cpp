@@ -66,15 +66,16 @@ bool VersionSlots::holdsHebrew() const
                        [](const auto& slot) { return slot->code >= 301 && slot->code <= 303; });
 }
 
-std::vector<ChapterSource> VersionSlots::readChapter(int book, int chapter)
+std::vector<ChapterSource> VersionSlots::readChapter(int book, int chapter, DocumentKind kind)
 {
+    const auto query = kind == DocumentKind::Preview ? previewChapterQuery : chapterQuery;
     std::vector<ChapterSource> sources;
     for (int number = 0; number < kSlotCount; ++number) {
         VersionSlot& slot = (*this)(number);
         if (!slot.isOpen())
             continue;
         const QList<VerseRow> rows = readVerses(slot.control, slot.control.DatabaseName,
-                                                chapterQuery(slot.table, book, chapter, number));
+                                                query(slot.table, book, chapter, number));
         sources.push_back(plainSource(number, slot.code, rows));
         if (number == 0 && rows.isEmpty())
             break;

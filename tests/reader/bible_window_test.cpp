@@ -272,6 +272,18 @@ TEST_F(BibleWindowTest, StoredValuesOutsideTheirLimitsFallBack)
     EXPECT_EQ(reader->versionName(1), u"None"_s);
 }
 
+TEST_F(BibleWindowTest, ThePreviewHoldsTheChapterWithItsOwnHeadings)
+{
+    start();
+    pickVersion(u"ID_cb대역본2", 201);
+    reader->Proc텍스트미리보기채우기();
+    const QString preview = reader->tx미리보기->Text();
+    EXPECT_TRUE(preview.startsWith(u"\t[지어낸 첫째 제목]\n\n1\t"_s));
+    QString shown = reader->txCont->Text();
+    EXPECT_EQ(preview, shown.replace(u'『', u'[').replace(u'』', u']'));
+    EXPECT_FALSE(reader->tx미리보기->isVisible());
+}
+
 TEST_F(BibleWindowTest, TheEndLeavesTwoGenerationsOfBackups)
 {
     start();
