@@ -54,4 +54,18 @@ build_preset() {
   say "Built in $((SECONDS - started)) s."
 }
 
+# build_fonts <folder>: the Hebrew and Greek fonts, unless they are newer than what makes them.
+build_fonts() {
+  local font source
+  for font in OrvaneHeb OrvaneHebC OrvaneGrk; do
+    for source in scripts/build-fonts /usr/share/fonts/truetype/{ezra/SILEOT,galatia/GalSILR}.ttf; do
+      if [ ! -e "$1/$font.ttf" ] || [ "$source" -nt "$1/$font.ttf" ]; then
+        say "Building the Hebrew and Greek fonts ..."
+        scripts/build-fonts "$1"
+        return
+      fi
+    done
+  done
+}
+
 mkdir -p build
