@@ -28,27 +28,30 @@ namespace {
 constexpr int kRuns = 11;
 constexpr int kVerses = 31102;
 
-/// Verses of the usual length out of some thousand words, a few of which are the searched ones.
-QList<PlainVerse> madeBible()
+/// A verse of the usual length out of some thousand words, now and then with a searched one.
+QString madeText(QRandomGenerator& random)
 {
     const QStringList rare{u"faith"_s, u"temple"_s, u"shepherd"_s, u"vineyard"_s};
+    QString text;
+    for (int word = random.bounded(10, 40); word > 0; --word)
+        text += u"word%1 "_s.arg(random.bounded(5000));
+    if (random.bounded(50) == 0)
+        text += rare.at(random.bounded(rare.size()));
+    if (random.bounded(4) == 0)
+        text += u" the king "_s;
+    return text;
+}
+
+QList<PlainVerse> madeBible()
+{
+    constexpr int kVersesPerChapter = kVerses / kChapterTotal + 1;
     QRandomGenerator random(1);
     QList<PlainVerse> verses;
-    int left = kVerses;
-    for (int book = 0; book < kBookCount && left > 0; ++book)
-        for (int chapter = 1; chapter <= chapterCount(book) && left > 0; ++chapter) {
-            const int inChapter = std::min(left, kVerses / kChapterTotal + 1);
-            for (int verse = 1; verse <= inChapter; ++verse, --left) {
-                QString text;
-                for (int word = random.bounded(10, 40); word > 0; --word)
-                    text += u"word%1 "_s.arg(random.bounded(5000));
-                if (random.bounded(50) == 0)
-                    text += rare.at(random.bounded(rare.size()));
-                if (random.bounded(4) == 0)
-                    text += u" the king "_s;
-                verses << PlainVerse{book, chapter, verse, text, {}, {}};
-            }
-        }
+    for (int book = 0; book < kBookCount; ++book)
+        for (int chapter = 1; chapter <= chapterCount(book); ++chapter)
+            for (int verse = 1; verse <= kVersesPerChapter; ++verse)
+                verses << PlainVerse{book, chapter, verse, madeText(random), {}, {}};
+    verses.resize(kVerses);
     return verses;
 }
 

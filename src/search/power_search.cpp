@@ -37,12 +37,12 @@ QStringList PowerTerms::texts() const
 QString powerCriterion(const PowerTerms& input)
 {
     const PowerTerms terms = input.closedUp();
-    const QString first = condition(terms.first);
+    QString first = condition(terms.first);
     if (terms.second.isEmpty())
         return first;
     // The second and third conditions begin with a blank of their own.
     const QString second = u" "_s + condition(terms.second);
-    const QString firstPair = first + conjunctionText(terms.afterFirst) + second;
+    QString firstPair = first + conjunctionText(terms.afterFirst) + second;
     if (terms.third.isEmpty())
         return firstPair;
     const QString third = u" "_s + condition(terms.third);

@@ -60,8 +60,39 @@ public:
         return verse.mid(start, m_random.bounded(1, 7));
     }
 
+    /// The same trimmed, whole and not empty.
+    QString plainWord(const MadeBible& bible)
+    {
+        QString result;
+        while (result.isEmpty() || !result.isValidUtf16())
+            result = Trim(word(bible)).toString();
+        return result;
+    }
+
 private:
     QRandomGenerator m_random{kSeed};
+};
+
+/// Three texts with two conjunctions, and what they mean.
+struct PowerCase
+{
+    QString a;
+    QString b;
+    QString c;
+    Conjunction first;
+    Conjunction second;
+
+    PowerTerms terms() const { return {a, b, c, first, second}; }
+    bool meets(const QString& text) const
+    {
+        const bool hasA = text.contains(a);
+        const bool hasB = text.contains(b);
+        const bool hasC = text.contains(c);
+        if (first == Conjunction::Or && second == Conjunction::And)
+            return (hasA || hasB) && hasC;
+        const bool pair = first == Conjunction::And ? hasA && hasB : hasA || hasB;
+        return second == Conjunction::And ? pair && hasC : pair || hasC;
+    }
 };
 
 bool holdsLoneSurrogate(const QString& text)
@@ -127,38 +158,24 @@ TEST_F(RandomWordsTest, PowerSearchAndNarrowingAgreeWithAPlainLook)
     for (int number = 0; number < 200; ++number)
         verses << madeVerse(number / 100, number / 10 % 10 + 1, number % 10 + 1, random.text(12));
     writeAndOpen(verses);
-    const auto word = [&] {
-        QString text;
-        while (text.isEmpty() || holdsLoneSurrogate(text))
-            text = Trim(random.word(bible)).toString();
-        return text;
-    };
     for (int round = 0; round < 800; ++round) {
-        const QString a = word();
-        const QString b = word();
-        const QString c = word();
-        const auto has = [](const PlainVerse& verse, const QString& text) {
-            return verse.cont->contains(text);
-        };
-        const auto one = round % 2 == 0 ? Conjunction::And : Conjunction::Or;
-        const auto two = round / 2 % 2 == 0 ? Conjunction::And : Conjunction::Or;
-        const auto meets = [&](const PlainVerse& verse) {
-            const bool first = has(verse, a);
-            const bool second = has(verse, b);
-            const bool third = has(verse, c);
-            if (one == Conjunction::Or && two == Conjunction::And)
-                return (first || second) && third;
-            const bool pair = one == Conjunction::And ? first && second : first || second;
-            return two == Conjunction::And ? pair && third : pair || third;
-        };
-        search.query(scopedQuery(SearchKind::Power, u"개역한글"_s,
-                                 powerCriterion({a, b, c, one, two}), u"All"_s));
-        ASSERT_EQ(found(), plainScan(bible, meets)) << round;
-        const QString d = word();
-        search.narrow(easyCriterion(d));
-        ASSERT_EQ(found(),
-                  plainScan(bible,
-                            [&](const PlainVerse& verse) { return meets(verse) && has(verse, d); }))
+        const PowerCase terms{random.plainWord(bible), random.plainWord(bible),
+                              random.plainWord(bible),
+                              round % 2 == 0 ? Conjunction::And : Conjunction::Or,
+                              round / 2 % 2 == 0 ? Conjunction::And : Conjunction::Or};
+        search.query(
+            scopedQuery(SearchKind::Power, u"개역한글"_s, powerCriterion(terms.terms()), u"All"_s));
+        ASSERT_EQ(
+            found(),
+            plainScan(bible, [&](const PlainVerse& verse) { return terms.meets(*verse.cont); }))
+            << round;
+        const QString more = random.plainWord(bible);
+        search.narrow(easyCriterion(more));
+        ASSERT_EQ(found(), plainScan(bible,
+                                     [&](const PlainVerse& verse) {
+                                         return terms.meets(*verse.cont) &&
+                                                verse.cont->contains(more);
+                                     }))
             << round;
     }
 }
