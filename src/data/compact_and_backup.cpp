@@ -78,7 +78,8 @@ void CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine& j
 {
     if (!file.copy.isEmpty())
         compactInPlace(appPath, file, jet, files);
-    backUp(appPath, file, files);
+    if (!file.backup.isEmpty())
+        backUp(appPath, file, files);
 }
 
 } // namespace lumen

@@ -12,9 +12,9 @@ class JetEngine;
 /// One user file as the window that closes it treats it. All names stand in the folder \Data.
 struct UserFile
 {
-    QStringView name; ///< "\myc.mdb"
-    QStringView copy; ///< of the compact copy, "\mycc.mdb"; "" for a file that isn't compacted
-    QStringView backup;
+    QStringView name;   ///< "\myc.mdb"
+    QStringView copy;   ///< of the compact copy, "\mycc.mdb"; "" for a file that isn't compacted
+    QStringView backup; ///< "" for a file that isn't backed up
     QStringView formerBackup;
     /// Known to the engine as default password and given to the copy; "" for none.
     QStringView password = {};
@@ -42,6 +42,7 @@ inline constexpr UserFile kQuietTime{u"\\QT.mdb",    u"\\QTc.mdb", u"\\QT.mdb",
                                      u"\\QTbak.mdb", u"",          true};
 inline constexpr UserFile kIllustrations{u"\\예화.dts",    u"\\예화c.dts", u"\\예화.dts",
                                          u"\\예화bak.dts", u"qolvetrinam", true};
+inline constexpr UserFile kSearchScratch{u"\\z199.dts", u"\\z199c.dts", u"", u"", u"qolvetrinam"};
 } // namespace user_file
 
 /// Compacts a user file in \Data and copies it to the folder \OrvaneBackup of the program's drive,

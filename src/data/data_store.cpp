@@ -3,6 +3,7 @@
 
 #include "data/module_path.h"
 #include "platform/jet/field_types.h"
+#include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_error.h"
 #include "platform/jet/store_writer.h"
 #include "platform/log.h"
@@ -174,6 +175,16 @@ Result<Done> createUserDatabases(const QString& appPath, FileSystem& files,
             outcome = created;
     }
     return outcome;
+}
+
+Result<Done> createScratchTables(const QString& appPath, const JetEngine& jet)
+{
+    const UserStore store = searchScratch();
+    const QString path =
+        jet.paths().nativePath(joinedPath(appPath, QString(u"\\Data\\"_s + store.name)));
+    if (jet.isOpen(path))
+        return Failure{FailureKind::InUse, path};
+    return create(store, path);
 }
 
 } // namespace lumen

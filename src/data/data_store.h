@@ -10,6 +10,7 @@
 namespace lumen {
 
 class FileSystem;
+class JetEngine;
 
 /// The password of all modules.
 inline constexpr char16_t kModulePassword[] = u"qolvetrinam";
@@ -32,5 +33,9 @@ inline constexpr char16_t kCheckData[] = u"MS Access;pwd=qolvetrinam";
 /// being made; the first failure is told.
 Result<Done> createUserDatabases(const QString& appPath, FileSystem& files,
                                  const PathResolver& paths, const QDate& today);
+
+/// Writes the empty scratch tables of the search over whatever stands under their name, in one
+/// step. Fails while the file is open.
+Result<Done> createScratchTables(const QString& appPath, const JetEngine& jet);
 
 } // namespace lumen

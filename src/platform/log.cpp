@@ -9,6 +9,7 @@ Q_LOGGING_CATEGORY(platformLog, "lumen.platform", QtWarningMsg)
 Q_LOGGING_CATEGORY(jetLog, "lumen.jet", QtWarningMsg)
 Q_LOGGING_CATEGORY(dataLog, "lumen.data", QtWarningMsg)
 Q_LOGGING_CATEGORY(formsLog, "lumen.forms", QtWarningMsg)
+Q_LOGGING_CATEGORY(searchLog, "lumen.search", QtWarningMsg)
 
 void setUpLogging()
 {

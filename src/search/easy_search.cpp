@@ -8,10 +8,7 @@
 using namespace Qt::StringLiterals;
 
 namespace lumen {
-namespace {
 
-/// Half of a surrogate pair is no character: it can't be stored, but on its way into a query it
-/// would become "?", which fits any character. The non-character in its place fits no verse.
 QString withoutLoneSurrogates(QString text)
 {
     constexpr QChar kNoCharacter(u'\xFFFF');
@@ -23,8 +20,6 @@ QString withoutLoneSurrogates(QString text)
     }
     return text;
 }
-
-} // namespace
 
 QString searchLiteral(const QString& word)
 {

@@ -7,6 +7,10 @@
 
 namespace lumen {
 
+/// Half of a surrogate pair is no character: it can't be stored, but on its way into a query it
+/// would become "?", which fits any character. The non-character in its place fits no verse.
+QString withoutLoneSurrogates(QString text);
+
 /// The literal between the wildcards of a search: the word as the modules store it, then quoted, so
 /// that a character that is stored as a wildcard stands for itself too.
 QString searchLiteral(const QString& word);

@@ -7,6 +7,7 @@
 #include "platform/controls/splitter.h"
 #include "platform/controls/tab_control.h"
 #include "platform/controls/text_control.h"
+#include "search/original_query.h"
 #include "search/search_settings.h"
 
 #include <QLabel>
@@ -15,11 +16,6 @@
 #include <QWidget>
 
 namespace lumen {
-
-/// What a condition of the original-language search looks for; the values are the list indexes.
-enum class ConditionKind { Root, Literal, Lemma, Strong, Parsing };
-
-inline constexpr int kConditionCount = 5;
 
 /// The tab "원전분해 검색": up to five conditions on the words of the original texts.
 class ParsingPanel : public QWidget // no Q_OBJECT: moc cannot read the members

@@ -50,6 +50,8 @@ public:
     void commitAll();
     void rollbackAll();
 
+    /// What tells where a file of the program lies.
+    const PathResolver& paths() const { return m_paths; }
     bool isOpen(const QString& nativePath) const override;
     void commitPending(const QString& nativePath) override;
 

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "search/scratch_tables.h"
+
+#include "data/compact_and_backup.h"
+#include "data/data_store.h"
+#include "data/module_path.h"
+#include "platform/files/file_system.h"
+#include "platform/jet/jet_engine.h"
+#include "platform/jet/jet_error.h"
+#include "platform/log.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+constexpr QStringView kIndex = u"Index";
+
+QString tableName(int table)
+{
+    return u"Table"_s + QString::number(table);
+}
+
+void add(Recordset& table, const QVariant& key)
+{
+    table.AddNew();
+    table.Fields(kIndex).setValue(key);
+    table.Update();
+}
+
+} // namespace
+
+ScratchTables::ScratchTables(JetEngine& jet, FileSystem& files, QString appPath)
+    : m_jet(jet), m_files(files), m_appPath(std::move(appPath))
+{
+}
+
+QString ScratchTables::path() const
+{
+    return joinedPath(m_appPath, u"\\Data\\z199.dts");
+}
+
+bool ScratchTables::exists() const
+{
+    return m_files.FileExists(path());
+}
+
+bool ScratchTables::startAfresh()
+{
+    if (!exists())
+        return false;
+    close();
+    const Result<Done> made = createScratchTables(m_appPath, m_jet);
+    ignoreFailure(made, "the tables that are there may do as well");
+    return made.ok();
+}
+
+bool ScratchTables::prepare()
+{
+    try {
+        open();
+        for (int table = 0; table < kShown; ++table)
+            m_database->Execute(u"Delete * from "_s + tableName(table));
+        m_database->Execute(u"Delete * from "_s + tableName(kShown));
+        return true;
+    } catch (const JetError& error) {
+        qCWarning(searchLog) << "scratch tables:" << error.number() << error.text();
+        m_jet.rollbackAll();
+        m_database.reset();
+        return false;
+    }
+}
+
+Database& ScratchTables::open()
+{
+    if (!m_database)
+        m_database =
+            m_jet.OpenDatabase(path(), false, false, QString::fromUtf16(connect_text::kSearch));
+    return *m_database;
+}
+
+void ScratchTables::close()
+{
+    if (!m_database)
+        return;
+    m_database->Close();
+    m_database.reset();
+}
+
+void ScratchTables::empty(int table)
+{
+    open().Execute(u"delete * from "_s + tableName(table));
+}
+
+void ScratchTables::StringToDB(const QString& positions, int table)
+{
+    const auto keys = open().OpenRecordset(tableName(table));
+    keys->setIndex(u"PrimaryKey"_s);
+    for (const QString& key : positions.split(u';')) {
+        keys->Seek(u"="_s, key);
+        if (keys->NoMatch())
+            add(*keys, key);
+    }
+}
+
+void ScratchTables::fill(int table, Recordset& records)
+{
+    const auto keys = open().OpenRecordset(tableName(table));
+    if (records.RecordCount() < 1)
+        return;
+    for (records.MoveFirst(); !records.Eof(); records.MoveNext())
+        add(*keys, records.Fields(kIndex).Value());
+}
+
+std::unique_ptr<Recordset> ScratchTables::query(const QString& sql)
+{
+    return open().OpenRecordset(sql);
+}
+
+QStringList ScratchTables::keys(int table)
+{
+    QStringList keys;
+    const auto records = open().OpenRecordset(tableName(table));
+    for (; !records->Eof(); records->MoveNext())
+        keys << Text(records->Fields(kIndex));
+    return keys;
+}
+
+void ScratchTables::cleanUp()
+{
+    if (!exists())
+        return;
+    try {
+        for (int table = 0; table <= kLast; ++table)
+            empty(table);
+        close();
+    } catch (const JetError& error) {
+        qCWarning(searchLog) << "not cleaned:" << error.number() << error.text();
+        m_database.reset();
+    }
+    CompactAndBackup(m_appPath, user_file::kSearchScratch, m_jet, m_files);
+}
+
+} // namespace lumen
