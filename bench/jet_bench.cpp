@@ -284,6 +284,34 @@ void opensReadsAChapterAndCloses(benchmark::State& state)
     }
 }
 
+/// As the original-language search does with the hits of a word.
+void fillsAScratchTable(benchmark::State& state)
+{
+    constexpr int kHitsOfAWord = 5000;
+    const QString file = bench().folder.filePath(u"z199.dts"_s);
+    StoreWriter writer(file, StoreCompare::Binary);
+    writer.createTable({.name = u"Table0"_s,
+                        .columns = {{.name = u"Index"_s, .size = 20}},
+                        .indexes = {{u"PrimaryKey"_s, {u"Index"_s}, false, true}}});
+    writer.commit();
+    const auto database = bench().engine.OpenDatabase(file);
+    for (auto round : state) {
+        database->Execute(u"delete * from Table0"_s);
+        const auto records = database->OpenRecordset(u"Table0"_s);
+        records->setIndex(u"PrimaryKey"_s);
+        for (int i = 0; i < kHitsOfAWord; ++i) {
+            const QVariant& key = bench().rows[i * 6][0];
+            records->Seek(u"="_s, key);
+            if (!records->NoMatch())
+                continue;
+            records->AddNew();
+            records->Fields(u"index").setValue(key);
+            records->Update();
+        }
+        bench().engine.commitAll();
+    }
+}
+
 void writesAModule(benchmark::State& state)
 {
     for (auto round : state)
@@ -311,6 +339,7 @@ void registerAll()
         add("readsAVerse", readsAVerse, {bible});
         add("opensReadsAChapterAndCloses", opensReadsAChapterAndCloses, {bible});
     }
+    add("fillsAScratchTable", fillsAScratchTable, {});
     add("writesAModule", writesAModule, {});
 }
 

@@ -118,6 +118,14 @@ TEST_F(UserQueryTest, ASelectIntoMakesATableOfTheSameTypes)
     EXPECT_EQ(copy->Fields(u"설교일").Type(), FieldType::Date);
     EXPECT_EQ(copy->Fields(u"이름").Size(), 130);
     EXPECT_EQ(errorOf([&] { database->Execute(u"select * into 사본 from 설교"_s); }), 3010);
+    engine.commitAll();
+    database->Execute(u"select 일련번호 into 둘째 from 설교"_s);
+    EXPECT_EQ(database->OpenRecordset(u"둘째"_s)->FieldCount(), 1);
+    engine.rollbackAll();
+    EXPECT_EQ(errorOf([&] { database->OpenRecordset(u"둘째"_s); }), 3078);
+    database->Execute(u"select * into 둘째 from 설교"_s);
+    EXPECT_EQ(database->OpenRecordset(u"둘째"_s)->FieldCount(), 5);
+    engine.rollbackAll();
     EXPECT_EQ(errorOf([&] { database->Execute(u"select * from 설교"_s); }), 3001);
     EXPECT_EQ(database->TableDefs().Count(), 4);
     EXPECT_EQ(database->TableDefs()(0).Name, u"MSysOrigin"_s);

@@ -6,6 +6,7 @@
 #include "platform/jet/pending_file.h"
 #include "platform/jet/sqlite_statement.h"
 #include "platform/jet/store_layout.h"
+#include "platform/log.h"
 
 #include <QFileInfo>
 
@@ -22,8 +23,10 @@ constexpr int kBusyMs = 2000;
 void checkIntegrity(const SqliteHandle& handle)
 {
     SqliteStatement statement(handle.get(), "PRAGMA integrity_check(1)");
-    if (!statement.step() || statement.text(0) != u"ok")
-        throw jetError(ErrorNumber::kCorrupt, statement.text(0));
+    if (statement.step() && statement.text(0) == u"ok")
+        return;
+    qCInfo(jetLog) << "integrity check:" << statement.text(0);
+    throw jetError(ErrorNumber::kCorrupt);
 }
 
 void setPassword(const QString& store, const QString& password)

@@ -12,6 +12,7 @@
 
 #include <exception>
 #include <sqlite3.h>
+#include <utility>
 
 namespace lumen {
 
@@ -181,6 +182,7 @@ void Connection::endTransaction()
 {
     try {
         m_handle.run("COMMIT");
+        m_tablesMade = false;
     } catch (const JetError&) {
         rollback();
         throw;
@@ -193,6 +195,14 @@ void Connection::rollback()
     noteChange();
     if (inTransaction())
         m_handle.run("ROLLBACK");
+    if (std::exchange(m_tablesMade, false))
+        m_schema.forget();
+}
+
+void Connection::noteTableMade()
+{
+    m_tablesMade = true;
+    m_schema.forget();
 }
 
 qint64 Connection::takeAutonumber(const TableInfo& table)

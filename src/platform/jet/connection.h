@@ -55,6 +55,8 @@ public:
 
     /// Opens the implicit transaction when none is open; error 3027 on a read-only file.
     void beginWrite();
+    /// To be called when a table was made.
+    void noteTableMade();
     /// To be called behind each write: rows read before are stale.
     void noteChange() { ++m_changes; }
     quint64 changes() const { return m_changes; }
@@ -92,6 +94,7 @@ private:
     bool m_explicit = false;
     bool m_commitQueued = false;
     quint64 m_changes = 0;
+    bool m_tablesMade = false; ///< in the open transaction
     std::map<QString, qint64> m_autonumbers;
     QStringList m_unordered;
 };

@@ -15,7 +15,7 @@ namespace {
 void runInto(Connection& connection, const IntoQuery& query)
 {
     connection.statement(query.create.sql)->execute();
-    connection.schema().forget();
+    connection.noteTableMade();
     const auto insert = connection.statement(query.insert.sql);
     insert->bindAll(query.insert.parameters);
     insert->execute();

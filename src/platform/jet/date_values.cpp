@@ -101,26 +101,28 @@ std::optional<QDate> readDate(Scanner& scanner)
     return date.isValid() && date.year() >= kFirstYear ? std::optional(date) : std::nullopt;
 }
 
+/// The hour of a day that "오전" or "오후" divides: 12 is the first of its half.
+std::optional<int> hourOfHalf(int hour, bool afternoon)
+{
+    if (hour < 1 || hour > 12)
+        return std::nullopt;
+    return hour % 12 + (afternoon ? 12 : 0);
+}
+
 std::optional<QTime> readTime(Scanner& scanner)
 {
     const bool morning = scanner.take(u"오전");
     const bool afternoon = !morning && scanner.take(u"오후");
-    if (morning || afternoon)
-        scanner.blanks();
+    scanner.blanks();
     auto hour = scanner.number(2);
+    if (hour && (morning || afternoon))
+        hour = hourOfHalf(*hour, afternoon);
     if (!hour || !scanner.take(u":"))
         return std::nullopt;
     const auto minute = scanner.number(2);
-    std::optional<int> second = 0;
-    if (scanner.take(u":"))
-        second = scanner.number(2);
+    const auto second = scanner.take(u":") ? scanner.number(2) : std::optional(0);
     if (!minute || !second)
         return std::nullopt;
-    if (morning || afternoon) {
-        if (*hour < 1 || *hour > 12)
-            return std::nullopt;
-        *hour = *hour % 12 + (afternoon ? 12 : 0);
-    }
     const QTime time(*hour, *minute, *second);
     return time.isValid() ? std::optional(time) : std::nullopt;
 }

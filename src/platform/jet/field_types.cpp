@@ -16,7 +16,7 @@ namespace {
 
 struct TypeName
 {
-    FieldType type;
+    FieldType type = FieldType::Text;
     QStringView name;
 };
 

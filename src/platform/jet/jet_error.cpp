@@ -12,7 +12,7 @@ namespace {
 
 struct ErrorText
 {
-    int number;
+    int number = 0;
     QStringView text;
 };
 

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kReadAhead = 64;
-constexpr qsizetype kReadAheadBytes = 256 * 1024;
+constexpr qsizetype kReadAheadBytes = 262144; // a quarter of a MiB
 /// Up to so many keys a criterion is tried key by key, beyond it by one scan of the table.
 constexpr std::size_t kMostProbes = 1024;
 

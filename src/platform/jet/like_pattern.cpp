@@ -183,26 +183,35 @@ void LikePattern::chooseAnchor(Segment& segment)
     }
 }
 
+LikePattern::Shape LikePattern::shape() const
+{
+    // A letter for each segment: empty, literal or anything else.
+    std::string kinds;
+    for (const Segment& segment : m_segments)
+        kinds += segment.elements.empty() ? 'e' : isLiteral(segment) ? 'l' : 'x';
+    struct Known
+    {
+        std::string_view kinds;
+        Shape shape;
+    };
+    constexpr Known kKnown[] = {{"e", Shape::Exact},       {"l", Shape::Exact},
+                                {"ee", Shape::Everything}, {"le", Shape::Prefix},
+                                {"el", Shape::Suffix},     {"ele", Shape::Contains}};
+    for (const Known& known : kKnown)
+        if (kinds == known.kinds)
+            return known.shape;
+    return Shape::General;
+}
+
 void LikePattern::finish()
 {
     for (Segment& segment : m_segments)
         chooseAnchor(segment);
-    const std::size_t count = m_segments.size();
-    const Segment& first = m_segments.front();
-    const Segment& last = m_segments.back();
-    if (count == 1 && (first.elements.empty() || isLiteral(first)))
-        m_shape = Shape::Exact;
-    else if (count == 2 && first.elements.empty() && last.elements.empty())
-        m_shape = Shape::Everything;
-    else if (count == 2 && isLiteral(first) && last.elements.empty())
-        m_shape = Shape::Prefix;
-    else if (count == 2 && first.elements.empty() && isLiteral(last))
-        m_shape = Shape::Suffix;
-    else if (count == 3 && first.elements.empty() && last.elements.empty() &&
-             isLiteral(m_segments[1]))
-        m_shape = Shape::Contains;
+    m_shape = shape();
+    if (m_shape == Shape::General)
+        return;
     for (const Segment& segment : m_segments)
-        if (m_shape != Shape::General && isLiteral(segment))
+        if (isLiteral(segment))
             m_literal = segment.elements[0].literal;
 }
 

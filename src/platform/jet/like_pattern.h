@@ -59,6 +59,7 @@ private:
     void addLiteral(char32_t character);
     void addElement(Element element);
     void finish();
+    Shape shape() const;
     static void chooseAnchor(Segment& segment);
     static bool isLiteral(const Segment& segment);
 

@@ -60,7 +60,9 @@ void throwSqliteError(sqlite3* handle, int code)
     const QString message =
         QString::fromUtf8(handle != nullptr ? sqlite3_errmsg(handle) : sqlite3_errstr(code));
     qCInfo(jetLog) << "sqlite error" << extended << message;
-    throw jetError(errorNumber((extended & 0xff) == (code & 0xff) ? extended : code), message);
+    const int number = errorNumber((extended & 0xff) == (code & 0xff) ? extended : code);
+    // SQLite's own words help nobody but the reader of a faulty query.
+    throw jetError(number, number == ErrorNumber::kCriterionSyntax ? message : QString());
 }
 
 SqliteHandle::SqliteHandle(const QString& nativePath, int flags)

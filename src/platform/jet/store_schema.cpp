@@ -139,8 +139,11 @@ const TableInfo& StoreSchema::table(const QString& name)
 
 void StoreSchema::forget()
 {
-    // The tables stay: recordsets and statements point at them, and none ever changes.
     m_namesRead = false;
+    for (auto& [name, table] : m_tables)
+        if (table)
+            m_former.push_back(std::move(table));
+    m_tables.clear();
 }
 
 std::unique_ptr<TableInfo> StoreSchema::read(const QString& name) const

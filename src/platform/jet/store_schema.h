@@ -57,7 +57,7 @@ public:
     const TableInfo* find(QStringView name);
     /// find() or error 3078.
     const TableInfo& table(const QString& name);
-    /// To be called when a table came into being.
+    /// To be called when a table came into being or went with a transaction.
     void forget();
 
 private:
@@ -67,6 +67,7 @@ private:
     bool m_namesRead = false;
     QStringList m_names;
     std::map<QString, std::unique_ptr<TableInfo>> m_tables;
+    std::vector<std::unique_ptr<TableInfo>> m_former; ///< open recordsets may still point at them
 };
 
 } // namespace lumen
