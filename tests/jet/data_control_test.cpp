@@ -51,6 +51,13 @@ TEST_F(DataControlTest, RefreshOpensWhatTheTextsSay)
     show(control, u"102.dts"_s, u"QT"_s);
     EXPECT_EQ(Text(control.Recordset()->Fields(u"글")), u"102.dts"_s);
     EXPECT_FALSE(engine.isOpen(path(u"101.dts"_s)));
+    // A window may close recordset and database by themselves.
+    control.Recordset()->Close();
+    control.Database()->Close();
+    control.boundChanged();
+    EXPECT_FALSE(engine.isOpen(path(u"102.dts"_s)));
+    control.Refresh();
+    EXPECT_EQ(control.Recordset()->RecordCount(), 3);
     control.Close();
     EXPECT_EQ(control.Recordset(), nullptr);
     EXPECT_EQ(control.Database(), nullptr);

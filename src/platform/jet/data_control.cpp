@@ -20,8 +20,8 @@ DataControl::~DataControl()
 void DataControl::Refresh()
 {
     std::unique_ptr<lumen::Database> opened;
-    const bool same = m_database && DatabaseName == m_openName && Connect == m_openConnect &&
-                      ReadOnly == m_openReadOnly;
+    const bool same = m_database && !m_database->isClosed() && DatabaseName == m_openName &&
+                      Connect == m_openConnect && ReadOnly == m_openReadOnly;
     if (!same)
         opened =
             std::make_unique<lumen::Database>(m_engine.connect(DatabaseName, Connect), ReadOnly);
@@ -69,8 +69,8 @@ void DataControl::bind(BoundColumn column)
 
 void DataControl::boundChanged()
 {
-    if (!m_showing && m_recordset && m_recordset->AbsolutePosition() >= 0 &&
-        m_recordset->editMode() == EditMode::None)
+    if (!m_showing && m_recordset && !m_recordset->isClosed() &&
+        m_recordset->AbsolutePosition() >= 0 && m_recordset->editMode() == EditMode::None)
         m_recordset->Edit();
 }
 
