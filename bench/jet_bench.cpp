@@ -13,6 +13,7 @@
 
 #include <array>
 #include <benchmark/benchmark.h>
+#include <cmath>
 #include <cstring>
 #include <map>
 #include <random>
@@ -300,7 +301,7 @@ void fillsAScratchTable(benchmark::State& state)
         const auto records = database->OpenRecordset(u"Table0"_s);
         records->setIndex(u"PrimaryKey"_s);
         for (int i = 0; i < kHitsOfAWord; ++i) {
-            const QVariant& key = bench().rows[i * 6][0];
+            const QVariant& key = bench().rows[qsizetype{6} * i][0];
             records->Seek(u"="_s, key);
             if (!records->NoMatch())
                 continue;
