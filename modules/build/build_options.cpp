@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/build_options.h"
 
+#include "build/original_recipes.h"
 #include "common/arguments.h"
 
 #include <QCoreApplication>
@@ -24,20 +25,24 @@ Failure misuse(const QString& text)
     return Failure{FailureKind::Invalid, text};
 }
 
-Result<QSet<int>> parseCodes(const QString& text)
+Result<Done> takeOnly(const QString& text, BuildOptions& options)
 {
-    QSet<int> codes;
     const QStringList items = text.split(u',', Qt::SkipEmptyParts);
     for (const QString& item : items) {
+        const QString file = referenceFile(item.trimmed());
+        if (!file.isEmpty()) {
+            options.onlyFiles.insert(file);
+            continue;
+        }
         bool isNumber = false;
         const int code = item.trimmed().toInt(&isNumber);
         if (!isNumber || code < 101 || code > 999)
-            return misuse(u"역본 번호가 아닙니다: %1"_s.arg(item));
-        codes.insert(code);
+            return misuse(u"역본 번호나 모듈 이름이 아닙니다: %1"_s.arg(item));
+        options.only.insert(code);
     }
-    if (codes.isEmpty())
+    if (options.makesAll())
         return misuse(u"--only 뒤에 역본 번호가 없습니다."_s);
-    return codes;
+    return Done{};
 }
 
 Result<Done> takeModule(const Arguments& arguments, BuildOptions& options)
@@ -101,10 +106,9 @@ Result<BuildOptions> parseBuildOptions(const QStringList& args)
     options.baptist = arguments.has(u"baptist"_s);
     options.renumbering = arguments.has(u"renumber"_s) ? Renumbering::English : Renumbering::Keep;
     if (arguments.has(u"only"_s)) {
-        const auto codes = parseCodes(arguments.value(u"only"_s));
-        if (!codes)
-            return codes.failure();
-        options.only = codes.value();
+        const auto taken = takeOnly(arguments.value(u"only"_s), options);
+        if (!taken)
+            return taken.failure();
     }
     for (const auto take : {takeModule, takeJobs, takeFolders}) {
         const auto taken = take(arguments, options);
@@ -134,9 +138,9 @@ QString buildUsage()
 설치된 공개 자료와 직접 가진 파일로 성경 모듈을 만듭니다. 원본이 그대로인 모듈은 다시 만들지 않습니다.
 
   --out 폴더       모듈을 둘 폴더. 주지 않으면 프로그램의 Data 폴더
-  --only 번호,...  이 역본만 만듭니다. 예: --only 101,201
+  --only 번호,...  이 역본과 모듈만 만듭니다. 예: --only 101,201,z101,CRef
   --source 폴더    직접 가진 파일이 있는 폴더(--user도 같음). 개역한글의 JSON, USFM, OSIS, SWORD
-                   모듈을 찾습니다. 폴더나 파일의 이름이 역본 번호로 시작하면 그 역본이 됩니다.
+                   모듈, 비잔틴 헬라어 본문의 CSV를 찾습니다. 폴더나 파일의 이름이 역본 번호로 시작하면 그 역본이 됩니다.
                    예: "214", "901 나의 역본"
   --module 번호    적은 파일로 이 역본 하나만 만듭니다. 901부터 915까지는 사용자 역본입니다.
   --format 형식    그 파일의 형식: sword, osis, usfm, json

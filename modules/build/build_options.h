@@ -14,8 +14,9 @@ namespace lumen {
 struct BuildOptions
 {
     bool help = false;
-    QString outFolder; ///< native; the program's Data folder unless told
-    QSet<int> only;    ///< codes; empty for all
+    QString outFolder;       ///< native; the program's Data folder unless told
+    QSet<int> only;          ///< codes of versions
+    QSet<QString> onlyFiles; ///< modules that are no versions; all are made when both are empty
     QString sourceFolder;
     int moduleCode = 0; ///< of the one module that is made of named files, 0 for none
     QString moduleName;
@@ -25,6 +26,8 @@ struct BuildOptions
     bool baptist = false;
     Renumbering renumbering = Renumbering::Keep;
     int jobs = 1;
+
+    bool makesAll() const { return only.isEmpty() && onlyFiles.isEmpty(); }
 };
 
 /// Invalid with a Korean text when the arguments make no sense.

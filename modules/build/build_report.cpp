@@ -15,8 +15,17 @@ QString grouped(int number)
     return QLocale(QLocale::Korean).toString(number);
 }
 
+QString referenceLine(const ModuleOutcome& outcome)
+{
+    QStringList pieces{grouped(outcome.check.rows) + u"행"_s};
+    pieces << outcome.facts << u"%1초"_s.arg(outcome.seconds, 0, 'f', 1);
+    return pieces.join(u", "_s);
+}
+
 QString builtLine(const ModuleOutcome& outcome)
 {
+    if (!outcome.file.isEmpty())
+        return referenceLine(outcome);
     const CanonCheck& check = outcome.check;
     QStringList pieces{grouped(check.rows) + u"절"_s};
     if (check.withoutWords > 0)
@@ -37,7 +46,8 @@ QString builtLine(const ModuleOutcome& outcome)
 
 QString outcomeLine(const ModuleOutcome& outcome)
 {
-    const QString label = u"%1 %2: "_s.arg(outcome.code).arg(outcome.name);
+    const QString module = outcome.file.isEmpty() ? QString::number(outcome.code) : outcome.file;
+    const QString label = u"%1 %2: "_s.arg(module, outcome.name);
     switch (outcome.state) {
     case ModuleState::Built:
         return label + builtLine(outcome);

@@ -4,6 +4,8 @@
 #include "build/build_progress.h"
 #include "build/build_report.h"
 #include "build/module_builder.h"
+#include "build/original_recipes.h"
+#include "build/reference_builder.h"
 #include "build/user_sources.h"
 #include "common/interruption.h"
 
@@ -29,12 +31,9 @@ void addInstalled(const BuildOptions& options, const SourceFolders& folders, Tas
         tasks[task.code] = std::move(task);
 }
 
-void addUserFolder(const BuildOptions& options, const SourceFolders& folders, TaskMap& tasks,
-                   BuildPlan& plan)
+void addUserSources(const BuildOptions& options, const SourceFolders& folders,
+                    const UserSources& sources, TaskMap& tasks, BuildPlan& plan)
 {
-    if (options.sourceFolder.isEmpty())
-        return;
-    const UserSources sources = findUserSources(options.sourceFolder);
     plan.remarks << sources.remarks;
     for (const UserSource& source : sources.found) {
         const QString refused = whyNotBuildable(source.code, source.name);
@@ -44,6 +43,29 @@ void addUserFolder(const BuildOptions& options, const SourceFolders& folders, Ta
             tasks[source.code] =
                 userTask(source.code, source.name, source.source, folders, options.renumbering);
     }
+}
+
+// The Korean text that versions are made of is also what glosses are derived from.
+void addOriginals(const SourceFolders& folders, const UserSources& user, TaskMap& tasks,
+                  BuildPlan& plan)
+{
+    OriginalSources sources = installedOriginals(folders);
+    sources.byzantineFiles = user.byzantineFiles;
+    if (tasks.contains(kKorean))
+        sources.koreanFiles = tasks[kKorean].source.files;
+    plan.corpus = std::make_unique<OriginalCorpus>(std::move(sources));
+    for (ModuleTask& task : originalVersionTasks(*plan.corpus))
+        tasks.try_emplace(task.code, std::move(task));
+}
+
+bool isWanted(const BuildOptions& options, int code)
+{
+    return options.makesAll() ? !isMadeOnRequest(code) : options.only.contains(code);
+}
+
+bool isWanted(const BuildOptions& options, const QString& file)
+{
+    return options.makesAll() || options.onlyFiles.contains(file);
 }
 
 // A module that was asked for by its number and has no source is told, not passed over.
@@ -76,8 +98,13 @@ Result<BuildPlan> planOneModule(const BuildOptions& options, const SourceFolders
     return plan;
 }
 
-QString labelOf(const ModuleTask& task)
+QString labelAt(const BuildPlan& plan, std::size_t at)
 {
+    if (at >= plan.tasks.size()) {
+        const ReferenceTask& task = plan.references[at - plan.tasks.size()];
+        return u"%1 %2"_s.arg(task.file, task.name);
+    }
+    const ModuleTask& task = plan.tasks[at];
     return u"%1 %2"_s.arg(task.code).arg(task.name);
 }
 
@@ -90,31 +117,45 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     BuildPlan plan;
     TaskMap tasks;
     addInstalled(options, folders, tasks);
-    addUserFolder(options, folders, tasks, plan);
+    UserSources user;
+    if (!options.sourceFolder.isEmpty())
+        user = findUserSources(options.sourceFolder);
+    addUserSources(options, folders, user, tasks, plan);
+    addOriginals(folders, user, tasks, plan);
     if (options.baptist && tasks.contains(kKorean))
         tasks[kBaptist] = baptistTask(tasks[kKorean]);
     refuseWithoutSource(options, tasks, plan);
     for (auto& [code, task] : tasks)
-        if (options.only.isEmpty() || options.only.contains(code))
+        if (isWanted(options, code))
             plan.tasks.push_back(std::move(task));
+    for (ReferenceTask& task : referenceTasks(plan.corpus->sources()))
+        if (isWanted(options, task.file))
+            plan.references.push_back(std::move(task));
     return plan;
 }
 
 std::vector<ModuleOutcome> runPlan(const BuildPlan& plan, const QString& outFolder, int jobs)
 {
-    const std::size_t count = plan.tasks.size();
+    const std::size_t versions = plan.tasks.size();
+    const std::size_t count = versions + plan.references.size();
     std::vector<ModuleOutcome> outcomes(count);
     BuildProgress progress(count);
+    const auto make = [&](std::size_t i) {
+        const QString label = labelAt(plan, i);
+        const auto advance = [&](double share) {
+            progress.advance(i, share, label);
+            return !interrupted();
+        };
+        outcomes[i] = i < versions ? buildModule(plan.tasks[i], outFolder, advance)
+                                   : buildReference(plan.references[i - versions], *plan.corpus,
+                                                    outFolder, advance);
+        progress.finish(i, outcomeLine(outcomes[i]));
+    };
+    // The longest work comes first, so that no worker ends long before the others.
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
-        for (std::size_t i = next++; i < count; i = next++) {
-            const ModuleTask& task = plan.tasks[i];
-            outcomes[i] = buildModule(task, outFolder, [&](double share) {
-                progress.advance(i, share, labelOf(task));
-                return !interrupted();
-            });
-            progress.finish(i, outcomeLine(outcomes[i]));
-        }
+        for (std::size_t i = next++; i < count; i = next++)
+            make((i + versions) % count);
     };
     std::vector<std::jthread> workers;
     const std::size_t extra = std::min(static_cast<std::size_t>(std::max(jobs, 1)), count);

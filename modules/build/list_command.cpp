@@ -3,7 +3,9 @@
 #include "build/build_options.h"
 #include "build/module_builder.h"
 #include "build/module_stamp.h"
+#include "build/original_recipes.h"
 #include "build/recipes.h"
+#include "build/reference_builder.h"
 #include "common/arguments.h"
 #include "common/console.h"
 
@@ -37,6 +39,30 @@ QString stateOf(const ModuleTask& task, const QString& folder)
                                                 : u"만들어져 있으나 원본이 바뀜"_s;
 }
 
+QString stateOf(const ReferenceTask& task, const QString& folder)
+{
+    const QString file = u"%1/%2.dts"_s.arg(folder, task.file);
+    const bool built = QFileInfo::exists(file);
+    const QString missing = missingReferenceSource(task);
+    if (!missing.isEmpty())
+        return built ? u"만들어져 있음, 원본 없음"_s : missing;
+    if (!built)
+        return u"만들 수 있음"_s;
+    return storedStamp(file) == referenceStamp(task) ? u"만들어져 있음"_s
+                                                     : u"만들어져 있으나 원본이 바뀜"_s;
+}
+
+void listOriginals(const QString& folder)
+{
+    OriginalCorpus corpus(installedOriginals(installedFolders()));
+    for (const ModuleTask& task : originalVersionTasks(corpus))
+        printLine(
+            u"%1 %2: %3 [%4]"_s.arg(task.code).arg(task.name, stateOf(task, folder), task.origin));
+    for (const ReferenceTask& task : referenceTasks(corpus.sources()))
+        printLine(
+            u"%1 %2: %3 [%4]"_s.arg(task.file, task.name, stateOf(task, folder), task.origin));
+}
+
 } // namespace
 
 int runList(const QStringList& args)
@@ -54,6 +80,7 @@ int runList(const QStringList& args)
     for (const ModuleTask& task : installedTasks(installedFolders(), Renumbering::Keep))
         printLine(
             u"%1 %2: %3 [%4]"_s.arg(task.code).arg(task.name, stateOf(task, folder), task.origin));
+    listOriginals(folder);
     printLine(u"개역한글(101)과 개역한자(102)는 JSON 파일로, 다른 역본은 SWORD, OSIS, USFM 파일로 "
               u"만들 수 "
               "있습니다. \"lumen-modules build --help\"를 보십시오."_s);

@@ -33,7 +33,7 @@ ModuleOutcome& failed(ModuleOutcome& outcome, const Failure& failure)
 
 VersionResult preparedText(const ModuleTask& task)
 {
-    VersionResult read = readSource(task.source);
+    VersionResult read = task.reader ? task.reader() : readSource(task.source);
     if (!read)
         return read;
     VersionText& version = read.value();

@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace lumen {
@@ -20,6 +21,9 @@ struct ModuleTask
     int code = 0;
     QString name; ///< of the version, and so of its table
     ModuleSource source;
+    /// Reads the text in place of the source's own reader; the source still tells whether it is
+    /// there and what it looks like.
+    std::function<VersionResult()> reader;
     std::vector<Mend> mends;
     Numbering numbering = Numbering::English;
     QString ownMapping; ///< mapping files for renumbering, "" to keep the source's numbers
@@ -36,12 +40,14 @@ enum class ModuleState { Built, UpToDate, SourceMissing, Failed, Interrupted };
 struct ModuleOutcome
 {
     int code = 0;
+    QString file; ///< of a module that is no version, without ".dts"
     QString name;
     ModuleState state = ModuleState::Failed;
     QString problem; ///< why it failed or what is missing
     CanonCheck check;
-    int parts = 0;    ///< verses with a piece in front of the words
-    int headings = 0; ///< verses with a heading above
+    int parts = 0;     ///< verses with a piece in front of the words
+    int headings = 0;  ///< verses with a heading above
+    QStringList facts; ///< counts for the line on a module that is no version
     QStringList remarks;
     double seconds = 0;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/user_sources.h"
 
+#include "original/original_versions.h"
 #include "sources/json_readers.h"
 #include "sources/usfm_reader.h"
 
@@ -101,6 +102,9 @@ void FolderSearch::visit(const QString& folder, const QStringList& files)
     for (const QString& file : endingWith(files, {u".xml", u".osis"}))
         if (isOsisFile(file))
             visitOsis(file);
+    for (const QString& file : endingWith(files, {u".csv"}))
+        if (looksLikeByzantine(file))
+            m_sources.byzantineFiles << file;
     if (QFileInfo(folder).fileName() == u"mods.d")
         for (const QString& file : endingWith(files, {u".conf"}))
             visitSword(file);

@@ -21,7 +21,8 @@ struct UserSource
 struct UserSources
 {
     std::vector<UserSource> found;
-    QStringList remarks; ///< Korean lines on what has no place
+    QStringList byzantineFiles; ///< tables of the Byzantine Greek text, a book a file
+    QStringList remarks;        ///< Korean lines on what has no place
 };
 
 /// Looks through a folder and all below it for Bibles: JSON files a book, USFM files, OSIS files,

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "build/module_builder.h"
+#include "original/reference_task.h"
+
+#include <QString>
+
+namespace lumen {
+
+/// Tells the making of a module apart, as taskStamp() does for versions.
+QString referenceStamp(const ReferenceTask& task);
+
+/// Makes a module that is no version, unless the one that is there was made of the same sources by
+/// the same rules. Never throws: what goes wrong stands in the outcome, and the file that was there
+/// stays.
+ModuleOutcome buildReference(const ReferenceTask& task, OriginalCorpus& corpus,
+                             const QString& folder, const BuildAdvance& advance);
+
+/// Why a source is not there, "" when all are.
+QString missingReferenceSource(const ReferenceTask& task);
+
+} // namespace lumen

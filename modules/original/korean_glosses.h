@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "original/original_text.h"
+#include "platform/result.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+namespace lumen {
+
+/// A Korean word or a few for each of Strong's numbers. Those of the most frequent words are
+/// written by hand; the others are derived from a Korean text of the user, as far as they come out
+/// with some certainty.
+class KoreanGlosses
+{
+public:
+    enum class Source { Hand, Derived };
+
+    void add(bool isGreek, int strong, const QStringList& words, Source source);
+    void addRemark(const QString& remark) { m_remarks << remark; }
+
+    /// The best word, "" for none.
+    QString gloss(bool isGreek, int strong) const { return words(isGreek, strong).value(0); }
+    /// Up to three words, the best first.
+    QStringList words(bool isGreek, int strong) const;
+    bool isDerived(bool isGreek, int strong) const;
+    bool hasDerived() const { return m_hasDerived; }
+
+    /// What a module's origin says about them.
+    QString originLine() const;
+    const QStringList& remarks() const { return m_remarks; }
+
+private:
+    struct Entry
+    {
+        QStringList words;
+        Source source = Source::Hand;
+    };
+
+    const Entry* find(bool isGreek, int strong) const;
+
+    QHash<int, Entry> m_hebrew;
+    QHash<int, Entry> m_greek;
+    QStringList m_remarks;
+    bool m_hasDerived = false;
+};
+
+/// The glosses for a text. Without Korean files only those written by hand; NotFound and Damaged
+/// when a file can't be read.
+Result<KoreanGlosses> koreanGlosses(const OriginalText& text, const QStringList& koreanFiles);
+
+} // namespace lumen
