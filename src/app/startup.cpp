@@ -5,7 +5,9 @@
 #include "app/world.h"
 #include "data/check_data.h"
 #include "data/data_store.h"
+#include "forms/guarded.h"
 #include "platform/files/instance_lock.h"
+#include "platform/jet/jet_engine.h"
 #include "platform/log.h"
 #include "reader/bible_window.h"
 #include "tools/about_window.h"
@@ -73,6 +75,8 @@ int Main(World& world)
 
     Windows windows(services, state);
     frm성서 reader(services, state, windows);
+    services.jet.setCommitFailed(
+        [&](const JetError& error) { handleEngineError(services, &reader, error); });
     windows.setReader(&reader);
     reader.closeToolWindows = [&windows] { return windows.closeAll(); };
     {
