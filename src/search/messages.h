@@ -17,6 +17,17 @@ inline constexpr MessageText kNoEarlierResult{
     u"안내", u"앞서 검색된 내용이 없으므로 전체 범위에 대하여 검색합니다.", 48};
 inline constexpr MessageText kNoBookChosen{u"선택된 책 없음",
                                            u"선택된 책이 없습니다. 그대로 문서창을 닫을까요?", 52};
+/// %1 is the number of the condition, from 1.
+inline constexpr MessageText kConditionMissing{u"중간 항목이 비었음",
+                                               u"단어 %1 항목이 비었습니다.\r\n"
+                                               u"중간에 빈 검색 항목이 들어갈 수 없습니다. ",
+                                               16};
+inline constexpr MessageText kAnalysisLost{
+    u"파일 손실", u"z101.dts 파일을 찾을 수 없습니다. 루멘 스크립트를 재설치하시기 바랍니다.", 48};
+inline constexpr MessageText kScratchLost{u"파일 손실",
+                                          u"Data 디렉토리내의 z199.dts 파일이 손실되었습니다. "
+                                          u"검색 작업이 불가능하므로 재설치 하십시요.",
+                                          16};
 inline constexpr MessageText kHelpMissing{u"도움말 없음", u"도움말을 열 수 없습니다.\r\n%1", 48};
 
 } // namespace lumen::messages

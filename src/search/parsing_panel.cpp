@@ -2,6 +2,7 @@
 #include "search/parsing_panel.h"
 
 #include "search/easy_panel.h"
+#include "text/parsing_decoder.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -72,6 +73,7 @@ void ParsingPanel::reset()
 {
     for (int condition = 0; condition < kConditionCount; ++condition) {
         txHGSearch(condition)->clear();
+        setPattern(condition, {});
         cbType(condition)->Clear();
         for (const char16_t* kind : kConditionKinds)
             cbType(condition)->AddItem(QString::fromUtf16(kind));
@@ -89,8 +91,34 @@ void ParsingPanel::cbParVer_Click()
 {
     for (int condition = 0; condition < kConditionCount; ++condition) {
         showFont(condition);
-        lstParsing(condition)->Clear();
+        setPattern(condition, {});
     }
+}
+
+void ParsingPanel::setPattern(int condition, const QString& code)
+{
+    m_patterns[static_cast<std::size_t>(condition)] = code;
+    lstParsing(condition)->Clear();
+    if (code.isEmpty())
+        return;
+    // The decoder takes the parentheses off what it is given.
+    QString decoded = code;
+    lstParsing(condition)->AddItems(
+        BibleCode::ParsingDecoder(decoded).split(u',', Qt::SkipEmptyParts));
+}
+
+OriginalQuestion ParsingPanel::question() const
+{
+    OriginalQuestion question;
+    question.language = isHebrew() ? OriginalLanguage::Hebrew : OriginalLanguage::Greek;
+    for (int i = 0; i < kConditionCount; ++i)
+        question.conditions[static_cast<std::size_t>(i)] = {
+            static_cast<ConditionKind>(cbType(i)->ListIndex()), txHGSearch(i)->text(),
+            m_patterns[static_cast<std::size_t>(i)]};
+    for (int i = 0; i + 1 < kConditionCount; ++i)
+        question.conjunctions[static_cast<std::size_t>(i)] =
+            cbAndOr(i)->ListIndex() == 1 ? Conjunction::Or : Conjunction::And;
+    return question;
 }
 
 void ParsingPanel::cbType_Click(int condition)

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include <array>
+
 namespace lumen {
 
 /// The tab "원전분해 검색": up to five conditions on the words of the original texts.
@@ -26,6 +28,10 @@ public:
     /// Fills the kinds and conjunctions anew, chooses the first of each and empties the boxes.
     void reset();
     bool isHebrew() const { return cbParVer->ListIndex() != 1; }
+    /// The conditions as they stand; the scope is left open.
+    OriginalQuestion question() const;
+    /// Gives a condition its parsing code and shows the phrases of it; "" takes the code away.
+    void setPattern(int condition, const QString& code);
     void cbParVer_Click();
     void cbType_Click(int condition);
 
@@ -47,6 +53,8 @@ public:
 private:
     QWidget* conditionPage(int condition);
     void showFont(int condition);
+
+    std::array<QString, kConditionCount> m_patterns; ///< the codes behind the phrases
 };
 
 /// The panes below the third tab: the verses found, the words of one verse with analysis and

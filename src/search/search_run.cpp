@@ -106,6 +106,7 @@ void frm성서검색::openVerseTab(SearchTab tab)
 void frm성서검색::openParsingTab()
 {
     parsingResults.open(m_settings);
+    m_original.open();
     parsing->sstHGSearch->setTab(0);
     parsing->cbParRange->setCurrentIndex(0);
     m_scopes.cbParRange_Click();
@@ -118,6 +119,8 @@ void frm성서검색::startSearch()
         cmd검색_Click();
     else if (currentTab() == SearchTab::Power)
         cmdPSearch_Click();
+    else
+        m_original.ProcParsingSearch(m_scopes.parsingScopeTag());
 }
 
 void frm성서검색::cmd검색_Click()
@@ -219,10 +222,9 @@ void frm성서검색::turnPage(bool forward)
     showPage(forward ? pages.next(page) : pages.previous(page));
 }
 
-void frm성서검색::openVerse(int row)
+void frm성서검색::openVerse(const QString& reference)
 {
-    const QString reference = hflex결과->TextMatrix(row, ResultGrid::kReferenceColumn);
-    if (row < 1 || reference.isEmpty())
+    if (reference.isEmpty())
         return;
     const VersePlace place = BibleCode::ParseRef(reference);
     m_reader.goTo(place.book, place.chapter, place.verse);

@@ -45,10 +45,12 @@ constexpr VersionChoiceRule kVersionRule{.missingFile = AbsentVersion::ComboRow,
 frm성서검색::frm성서검색(Services& services, AppState& state, ReaderPlace& reader, QWidget* parent)
     : QMainWindow(parent), m_services(services), m_state(state), m_reader(reader),
       m_versions(services, state, kVersionRule), m_scopes(services, *this, *easy, *power, *parsing),
-      m_search(services.jet), m_results(*hflex결과, [this](const QString& text, const QString& font,
-                                                           int halfPoints, int width) {
-          return DivideHebrewCont(text, {font, halfPoints, width}, false, m_lineBreaker);
-      })
+      m_search(services.jet),
+      m_original(services, state, *this, *parsing, parsingResults, m_search),
+      m_results(*hflex결과,
+                [this](const QString& text, const QString& font, int halfPoints, int width) {
+                    return DivideHebrewCont(text, {font, halfPoints, width}, false, m_lineBreaker);
+                })
 {
     setObjectName(u"frm성서검색"_s);
     setWindowTitle(u"성서 검색"_s);
@@ -76,10 +78,9 @@ void frm성서검색::layOut()
     sb상황판->addPermanentWidget(statusPanel2);
     setStatusBar(sb상황판);
     parsingResults.splitParsing->hide();
-    // What their windows and the engine of the third tab will open.
+    // What their windows will open.
     easy->cmdKeyboard->setEnabled(false);
     power->cmdPKeyboard->setEnabled(false);
-    parsing->cmdParsingSearch->setEnabled(false);
     for (int condition = 0; condition < kConditionCount; ++condition) {
         parsing->cmdInput(condition)->setEnabled(false);
         parsing->cmdSetParsing(condition)->setEnabled(false);
@@ -163,8 +164,17 @@ void frm성서검색::wireSearches()
         connect(box, &QLineEdit::returnPressed, this, [this] { cmdPSearch_Click(); });
         wireTextBox(*box);
     }
-    for (QLineEdit* box : parsing->txHGSearch)
+    const auto searchOriginal = [this] {
+        m_original.ProcParsingSearch(m_scopes.parsingScopeTag());
+    };
+    connect(parsing->cmdParsingSearch, &QPushButton::clicked, this, searchOriginal);
+    for (QLineEdit* box : parsing->txHGSearch) {
+        connect(box, &QLineEdit::returnPressed, this, searchOriginal);
         wireTextBox(*box);
+    }
+    m_original.onState = [this](const QString& text) { statusPanel2->setText(text); };
+    m_original.onAnalysisLost = [this] { easy->cb역본->setListIndex(0); };
+    m_original.onOpenVerse = [this](const QString& reference) { openVerse(reference); };
     sstSearch->onTabClick = [this](int tab, int) {
         if (!m_loading)
             sstSearch_Click(static_cast<SearchTab>(tab));
@@ -192,8 +202,12 @@ void frm성서검색::wirePages()
 void frm성서검색::wireResults()
 {
     hflex결과->onClick = [this] { UpdateEditMenu(); };
-    hflex결과->onDblClick = [this](int row, int) { openVerse(row); };
-    hflex결과->onEnter = [this] { openVerse(hflex결과->Row()); };
+    const auto openRow = [this](int row) {
+        if (row > 0)
+            openVerse(hflex결과->TextMatrix(row, ResultGrid::kReferenceColumn));
+    };
+    hflex결과->onDblClick = [openRow](int row, int) { openRow(row); };
+    hflex결과->onEnter = [this, openRow] { openRow(hflex결과->Row()); };
     hflex결과->onCopy = [this] { edit(EditCommand::Copy); };
     hflex결과->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
     for (FlexGrid* grid : {hflex결과, parsingResults.flexParsing})
@@ -220,6 +234,7 @@ void frm성서검색::Form_Load()
         first->setListIndex(0);
     parsing->reset();
     parsing->cbParVer->setListIndex(0);
+    m_original.Form_Load();
     for (QLineEdit* box : {easy->tx검색, power->txPSearch1, power->txPSearch2, power->txPSearch3})
         box->clear();
     easy->cb검색->Clear();
@@ -246,6 +261,7 @@ void frm성서검색::Form_Unload()
     saveSearchSettings(m_services.registry, m_settings);
     ignoreFailure(m_services.registry.flush(), "unsaved settings never keep the window open");
     m_search.close();
+    m_original.Form_Unload();
     m_paged = false;
 }
 
@@ -299,8 +315,6 @@ void frm성서검색::showToolStates()
             .setChecked(easy->cb범위->ListIndex() == index);
     const int code = easy->cb역본->ItemData(easy->cb역본->ListIndex());
     atbar.checkOnly(u"ID_대역본0-", u"ID_대역본0-"_s + QString::number(code));
-    // The engine of the third tab comes with its windows.
-    atbar.tool(u"ID_검색").setEnabled(tab != SearchTab::Parsing);
 }
 
 void frm성서검색::edit(EditCommand command)

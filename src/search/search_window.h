@@ -12,6 +12,7 @@
 #include "search/bible_search.h"
 #include "search/easy_panel.h"
 #include "search/found_words.h"
+#include "search/original_tab.h"
 #include "search/parsing_panel.h"
 #include "search/power_panel.h"
 #include "search/result_grid.h"
@@ -93,7 +94,7 @@ private:
     void ProcFillResultPage(int page);
     void showPage(int page);
     void turnPage(bool forward);
-    void openVerse(int row);
+    void openVerse(const QString& reference);
     SearchTab currentTab() const { return static_cast<SearchTab>(sstSearch->Tab()); }
 
     Services& m_services;
@@ -102,6 +103,7 @@ private:
     VersionChoice m_versions;
     ScopeChoice m_scopes;
     BibleSearch m_search;
+    OriginalTab m_original;
     FontLineBreaker m_lineBreaker;
     ResultGrid m_results;
     FoundWords m_foundWords;

@@ -50,15 +50,6 @@ TEST_F(ParsingPanelTest, TheLanguageChangesFontsAndEmptiesPatternsButStrongNumbe
     EXPECT_EQ(control<ListBox>(u"lstParsing(2)"_s).ListCount(), 0);
 }
 
-TEST_F(ParsingPanelTest, WhatComesLaterIsDisabled)
-{
-    openTab();
-    EXPECT_FALSE(control<QPushButton>(u"cmdParsingSearch"_s).isEnabled());
-    EXPECT_FALSE(window->atbar.tool(u"ID_검색").enabled());
-    QTest::keyClick(&*window, Qt::Key_1, Qt::ControlModifier);
-    EXPECT_TRUE(window->atbar.tool(u"ID_검색").enabled());
-}
-
 TEST_F(ParsingPanelTest, ThePanesComeBackInTheirSizes)
 {
     openTab();

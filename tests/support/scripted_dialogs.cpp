@@ -55,6 +55,8 @@ int ScriptedModal::run(QDialog& dialog)
 void ScriptedModal::letEventsRun()
 {
     QCoreApplication::processEvents();
+    if (whileEventsRun)
+        whileEventsRun();
 }
 
 } // namespace lumen

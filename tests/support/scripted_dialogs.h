@@ -47,6 +47,8 @@ public:
 
     /// The user's part in the next dialog. When it doesn't end the dialog, that is rejected.
     void expect(std::function<void(QDialog&)> user) { m_users.append(std::move(user)); }
+    /// What a test looks at when a long work has let events run.
+    std::function<void()> whileEventsRun;
     /// The object names of the dialogs that ran.
     QStringList shown;
 

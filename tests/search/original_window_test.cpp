@@ -1,0 +1,372 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "canon/verse_index.h"
+#include "data/data_store.h"
+#include "platform/dialogs/progress_dialog.h"
+#include "search/book_selection_dialog.h"
+#include "search/made_originals.h"
+#include "search/search_fixture.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+const QString kScratchLost = u"Data 디렉토리내의 z199.dts 파일이 손실되었습니다. 검색 작업이 "
+                             u"불가능하므로 재설치 하십시요."_s;
+
+/// The third tab of the real window over made-up originals.
+class OriginalWindowTest : public SearchFixture
+{
+protected:
+    OriginalWindowTest()
+    {
+        if (!createUserDatabases(test.state.AppPath, test.files, test.drives, QDate(2024, 1, 1)))
+            qFatal("no scratch tables");
+        writeOriginalModules(dataFolder(), verses);
+    }
+
+    QString dataFolder() const { return test.folders.program() + u"/Data"_s; }
+
+    void openTab()
+    {
+        open();
+        QTest::keyClick(&*window, Qt::Key_3, Qt::ControlModifier);
+    }
+
+    /// Fills a condition as a user does, on its own page.
+    void ask(int condition, ConditionKind kind, const QString& text)
+    {
+        window->parsing->sstHGSearch->setTab(condition);
+        combo(u"cbType(%1)"_s.arg(condition)).setListIndex(static_cast<int>(kind));
+        if (kind == ConditionKind::Parsing)
+            window->parsing->setPattern(condition, text);
+        else
+            type(box(u"txHGSearch(%1)"_s.arg(condition)), text);
+    }
+
+    void searchFor(ConditionKind kind, const QString& text)
+    {
+        ask(0, kind, text);
+        click(u"cmdParsingSearch"_s);
+    }
+
+    QStringList listed()
+    {
+        QStringList references;
+        ListBox& list = control<ListBox>(u"lstResult"_s);
+        for (int i = 0; i < list.ListCount(); ++i)
+            references << list.List(i);
+        return references;
+    }
+
+    QStringList expected(const OriginalQuestion& question, const QStringList& earlier = {}) const
+    {
+        QStringList references;
+        for (const QString& key : plainAnswer(verses, question, earlier))
+            references << BibleCode::IndexToRef(key);
+        return references;
+    }
+
+    QString shownVerse() { return control<TextControl>(u"txBibleVerse"_s).Text(); }
+
+    const QList<OriginalVerse> verses = madeOriginals();
+};
+
+TEST_F(OriginalWindowTest, ASearchListsItsVersesAndShowsTheFirstInKorean)
+{
+    openTab();
+    bool dialogSeen = false;
+    QString stateSeen;
+    OriginalQuestion question = window->parsing->question();
+    question.scopeTag = u"All"_s;
+    question.conditions[0] = {ConditionKind::Root, u"<yhla"_s, {}};
+    const QStringList references = expected(question);
+    ASSERT_GT(references.size(), 3);
+    test.modal.whileEventsRun = [&] {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* bar = widget->findChild<QProgressBar*>(u"bar"_s)) {
+                dialogSeen = widget->isVisible() && widget->parentWidget() == &*window &&
+                             widget->windowTitle() == u"원전분해 검색 중..." &&
+                             bar->maximum() == 100;
+                stateSeen = panel(2);
+            }
+    };
+    searchFor(ConditionKind::Root, u"<yhla"_s);
+    EXPECT_TRUE(dialogSeen);
+    EXPECT_EQ(stateSeen, u" %1개 검색"_s.arg(references.size()));
+    EXPECT_EQ(panel(2), u" %1개 검색"_s.arg(references.size()));
+    EXPECT_EQ(listed(), references);
+    EXPECT_EQ(control<ListBox>(u"lstResult"_s).ListIndex(), 0);
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        EXPECT_EQ(widget->findChild<QProgressBar*>(u"bar"_s), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+
+    ListBox& list = control<ListBox>(u"lstResult"_s);
+    const qsizetype exodus = references.indexOf(u"출1:1"_s);
+    const qsizetype other = exodus < 0 ? 1 : exodus;
+    list.setListIndex(static_cast<int>(other));
+    const QString key = BibleCode::RefToIndex(references.at(other));
+    EXPECT_EQ(query(), u"select * from 원전분해 where index like '"_s + key + u"'"_s);
+    for (const PlainVerse& verse : korean) {
+        if (BibleCode::verseKey(verse.book, verse.chapter, verse.verse) != key)
+            continue;
+        EXPECT_EQ(shownVerse(), references.at(other) + u" ("_s + *verse.cont + u")"_s);
+    }
+}
+
+TEST_F(OriginalWindowTest, FiveConditionsOfBothLanguagesAreReadFromTheirControls)
+{
+    openTab();
+    struct Part
+    {
+        ConditionKind kind;
+        QString text;
+    };
+    const QList<QList<Part>> rounds{
+        {{ConditionKind::Root, u"ba"_s},
+         {ConditionKind::Parsing, u"@n____S___E_H_R_"_s},
+         {ConditionKind::Literal, u"hla"_s},
+         {ConditionKind::Lemma, u"arb"_s},
+         {ConditionKind::Strong, u"2091"_s}},
+        {{ConditionKind::Strong, u"3056"_s},
+         {ConditionKind::Parsing, u"$n__s"_s},
+         {ConditionKind::Literal, u"zwh"_s},
+         {ConditionKind::Lemma, u"kai"_s},
+         {ConditionKind::Parsing, u"$v_____"_s}},
+    };
+    for (int language = 0; language < 2; ++language) {
+        combo(u"cbParVer"_s).setListIndex(language);
+        OriginalQuestion question;
+        question.language = static_cast<OriginalLanguage>(language);
+        question.scopeTag = u"All"_s;
+        for (int i = 0; i < kConditionCount; ++i) {
+            const Part& part = rounds.at(language).at(i);
+            ask(i, part.kind, part.text);
+            question.conditions[static_cast<std::size_t>(i)] = {part.kind, part.text, part.text};
+        }
+        for (int k = 0; k + 1 < kConditionCount; ++k) {
+            const bool orBetween = k % 2 == 1;
+            window->parsing->sstHGSearch->setTab(k + 1);
+            pick(u"cbAndOr(%1)"_s.arg(k), orBetween ? 1 : 0);
+            question.conjunctions[static_cast<std::size_t>(k)] =
+                orBetween ? Conjunction::Or : Conjunction::And;
+        }
+        window->atbar_event9(u"ID_검색"_s);
+        EXPECT_FALSE(listed().isEmpty());
+        EXPECT_EQ(listed(), expected(question));
+    }
+}
+
+TEST_F(OriginalWindowTest, EnterSearchesAndBlanksOrGapsAreTold)
+{
+    openTab();
+    const QString title = u"검색 문자열이 없음"_s;
+    const QString text = u"첫번째 검색 대상은 반드시 입력되어야 합니다. 검색하고자 하는 문자열을 "
+                         u"입력한 후 [검색] 단추를 누르시기 바랍니다."_s;
+    ask(0, ConditionKind::Root, u"  "_s);
+    test.messages.expect(title, text, 64);
+    QTest::keyClick(&box(u"txHGSearch(0)"_s), Qt::Key_Return);
+    test.messages.verify();
+    // A pattern counts by its code, a word that stands behind it doesn't.
+    ask(0, ConditionKind::Root, u"arb"_s);
+    ask(0, ConditionKind::Parsing, QString());
+    test.messages.expect(title, text, 64);
+    click(u"cmdParsingSearch"_s);
+    test.messages.verify();
+
+    ask(0, ConditionKind::Root, u"arb"_s);
+    ask(3, ConditionKind::Strong, u"430"_s);
+    test.messages.expect(
+        u"중간 항목이 비었음"_s,
+        u"단어 3 항목이 비었습니다.\r\n중간에 빈 검색 항목이 들어갈 수 없습니다. "_s, 16);
+    click(u"cmdParsingSearch"_s);
+    test.messages.verify();
+    EXPECT_EQ(listed(), QStringList());
+    EXPECT_EQ(panel(2), QString());
+}
+
+TEST_F(OriginalWindowTest, NothingFoundEmptiesThePanesAndTheBaseOfTheNextSearch)
+{
+    openTab();
+    searchFor(ConditionKind::Strong, u"430"_s);
+    ASSERT_FALSE(listed().isEmpty());
+    searchFor(ConditionKind::Strong, u"8000"_s);
+    EXPECT_EQ(panel(2), u" 0개 검색"_s);
+    EXPECT_EQ(listed(), QStringList());
+    EXPECT_EQ(shownVerse(), QString());
+    EXPECT_EQ(control<FlexGrid>(u"flexParsing"_s).Rows(), 4);
+    EXPECT_EQ(control<FlexGrid>(u"flexParsing"_s).Cols(), 2);
+    pick(u"cbParRange"_s, 1);
+    searchFor(ConditionKind::Strong, u"430"_s);
+    EXPECT_EQ(panel(2), u" 0개 검색"_s);
+}
+
+TEST_F(OriginalWindowTest, SearchesWithinResultsNarrowStepByStep)
+{
+    openTab();
+    OriginalQuestion question;
+    question.scopeTag = u"All"_s;
+    question.conditions[0] = {ConditionKind::Parsing, {}, u"@n____S___E_H_R_"_s};
+    const QStringList first = plainAnswer(verses, question);
+    searchFor(ConditionKind::Parsing, u"@n____S___E_H_R_"_s);
+    pick(u"cbParRange"_s, 1);
+    question.scopeTag = u"curRecSet"_s;
+    question.conditions[0] = {ConditionKind::Root, u"ba"_s, {}};
+    const QStringList second = plainAnswer(verses, question, first);
+    searchFor(ConditionKind::Root, u"ba"_s);
+    question.conditions[0] = {ConditionKind::Literal, u"arb"_s, {}};
+    searchFor(ConditionKind::Literal, u"arb"_s);
+    EXPECT_EQ(listed(), expected(question, second));
+    EXPECT_FALSE(listed().isEmpty());
+}
+
+TEST_F(OriginalWindowTest, TheBooksOfTheLanguageAreOfferedAndSearched)
+{
+    openTab();
+    combo(u"cbParVer"_s).setListIndex(1);
+    test.modal.expect([](QDialog& dialog) {
+        auto& books = static_cast<dlog책별선택&>(dialog);
+        EXPECT_FALSE(books.chk책명(0)->isEnabled());
+        EXPECT_FALSE(books.groupButtons[0]->isEnabled());
+        books.chk책명(42)->click();
+        books.chk책명(43)->click();
+        books.cmd승인->click();
+    });
+    click(u"cmd책별선택(2)"_s);
+    EXPECT_EQ(panel(1), u"검색 대상: 요,행"_s);
+    searchFor(ConditionKind::Strong, u"3056"_s);
+    OriginalQuestion question = window->parsing->question();
+    question.scopeTag = u"요,행"_s;
+    EXPECT_EQ(listed(), expected(question));
+    EXPECT_FALSE(listed().isEmpty());
+    // The next choice is free of it.
+    window->sstSearch->setTab(0);
+    test.modal.expect([](QDialog& dialog) {
+        EXPECT_TRUE(static_cast<dlog책별선택&>(dialog).chk책명(0)->isEnabled());
+        EXPECT_TRUE(static_cast<dlog책별선택&>(dialog).groupButtons[0]->isEnabled());
+        dialog.reject();
+    });
+    click(u"cmd책별선택(0)"_s);
+}
+
+TEST_F(OriginalWindowTest, LostFilesAreToldAndNothingIsSearched)
+{
+    openTab();
+    ASSERT_TRUE(QFile::rename(test.folders.data(u"z101.dts"_s), dataFolder() + u"/away"_s));
+    window->sstSearch->setTab(0);
+    combo(u"cb역본"_s).setListIndex(combo(u"cb역본"_s).findItemData(201));
+    window->sstSearch->setTab(2);
+    test.messages.expect(
+        u"파일 손실"_s,
+        u"z101.dts 파일을 찾을 수 없습니다. 루멘 스크립트를 재설치하시기 바랍니다."_s, 48);
+    searchFor(ConditionKind::Strong, u"430"_s);
+    test.messages.verify();
+    EXPECT_EQ(combo(u"cb역본"_s).ListIndex(), 0);
+    EXPECT_EQ(panel(2), QString());
+    ASSERT_TRUE(QFile::rename(dataFolder() + u"/away"_s, test.folders.data(u"z101.dts"_s)));
+
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"z199.dts"_s)));
+    test.messages.expect(u"파일 손실"_s, kScratchLost, 16);
+    click(u"cmdParsingSearch"_s);
+    test.messages.verify();
+    EXPECT_EQ(listed(), QStringList());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(OriginalWindowTest, ADamagedScratchFileIsToldOnceAndThenMadeAnew)
+{
+    openTab();
+    searchFor(ConditionKind::Strong, u"430"_s);
+    const QStringList found = listed();
+    QFile damaged(test.folders.data(u"z199.dts"_s));
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write(QByteArray(5000, 'x'));
+    damaged.close();
+    test.messages.expect(u"파일 손실"_s, kScratchLost, 16);
+    searchFor(ConditionKind::Strong, u"1254"_s);
+    test.messages.verify();
+    EXPECT_EQ(listed(), found);
+    click(u"cmdParsingSearch"_s);
+    OriginalQuestion question = window->parsing->question();
+    question.scopeTag = u"All"_s;
+    EXPECT_EQ(listed(), expected(question));
+}
+
+TEST_F(OriginalWindowTest, WhatAKilledRunLeftIsNoBaseOfASearchWithinResults)
+{
+    {
+        ScratchTables killed(test.jet, test.files, test.state.AppPath);
+        ASSERT_TRUE(killed.prepare());
+        QStringList all;
+        for (const OriginalVerse& verse : verses)
+            all << verse.key();
+        killed.StringToDB(all.join(u';'), ScratchTables::kLast);
+        killed.StringToDB(all.join(u';'), ScratchTables::kShown);
+        killed.close();
+    }
+    openTab();
+    EXPECT_EQ(listed(), QStringList());
+    pick(u"cbParRange"_s, 1);
+    searchFor(ConditionKind::Strong, u"430"_s);
+    EXPECT_EQ(panel(2), u" 0개 검색"_s);
+}
+
+TEST_F(OriginalWindowTest, AMissingOrDamagedModuleIsToldAndTheListStays)
+{
+    openTab();
+    searchFor(ConditionKind::Strong, u"430"_s);
+    const QStringList found = listed();
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"310.dts"_s)));
+    combo(u"cbParVer"_s).setListIndex(1);
+    test.messages.expect(u"Lumenscript"_s,
+                         u"데이터베이스 파일을 찾을 수 없습니다.\nC:\\lumenscript\\Data\\310.dts"_s,
+                         16);
+    searchFor(ConditionKind::Literal, u"kai"_s);
+    test.messages.verify();
+    EXPECT_EQ(listed(), found);
+    EXPECT_EQ(panel(2), QString());
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        EXPECT_EQ(widget->findChild<QProgressBar*>(u"bar"_s), nullptr);
+    // The Korean text is no condition of this search.
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"101.dts"_s)));
+    searchFor(ConditionKind::Strong, u"3056"_s);
+    EXPECT_FALSE(listed().isEmpty());
+    EXPECT_EQ(shownVerse(), QString());
+}
+
+TEST_F(OriginalWindowTest, ADoubleClickOrEnterReadsTheVerse)
+{
+    openTab();
+    searchFor(ConditionKind::Strong, u"430"_s);
+    ListBox& list = control<ListBox>(u"lstResult"_s);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Return);
+    const VersePlace place = BibleCode::ParseRef(list.List(0));
+    EXPECT_EQ(reader.calls,
+              (QStringList{u"%1 %2:%3"_s.arg(place.book).arg(place.chapter).arg(place.verse),
+                           u"front"_s}));
+}
+
+TEST_F(OriginalWindowTest, ClosingEmptiesAndFreesTheFiles)
+{
+    openTab();
+    searchFor(ConditionKind::Parsing, u"@n____S___E_H_R_"_s);
+    window->close();
+    for (const QString& file : QDir(dataFolder()).entryList(QDir::Files))
+        EXPECT_FALSE(test.jet.isOpen(test.folders.data(file))) << file.toStdString();
+    ScratchTables after(test.jet, test.files, test.state.AppPath);
+    EXPECT_EQ(after.keys(ScratchTables::kShown), QStringList());
+    EXPECT_EQ(after.keys(ScratchTables::kLast), QStringList());
+    EXPECT_FALSE(QFile::exists(test.folders.data(u"z199c.dts"_s)));
+    after.close();
+    // Loaded again, nothing of the former search is on the screen.
+    window->Form_Load();
+    EXPECT_EQ(listed(), QStringList());
+    EXPECT_EQ(box(u"txHGSearch(0)"_s).text(), QString());
+    EXPECT_TRUE(window->parsing->question().conditions[0].isEmpty());
+}
+
+} // namespace
+} // namespace lumen
