@@ -47,6 +47,7 @@ frm성서검색::frm성서검색(Services& services, AppState& state, ReaderPlac
       m_versions(services, state, kVersionRule), m_scopes(services, *this, *easy, *power, *parsing),
       m_search(services.jet),
       m_original(services, state, *this, *parsing, parsingResults, m_search),
+      m_inputAids(services, *this, *easy, *power, *parsing),
       m_results(*hflex결과,
                 [this](const QString& text, const QString& font, int halfPoints, int width) {
                     return DivideHebrewCont(text, {font, halfPoints, width}, false, m_lineBreaker);
@@ -78,13 +79,6 @@ void frm성서검색::layOut()
     sb상황판->addPermanentWidget(statusPanel2);
     setStatusBar(sb상황판);
     parsingResults.splitParsing->hide();
-    // What their windows will open.
-    easy->cmdKeyboard->setEnabled(false);
-    power->cmdPKeyboard->setEnabled(false);
-    for (int condition = 0; condition < kConditionCount; ++condition) {
-        parsing->cmdInput(condition)->setEnabled(false);
-        parsing->cmdSetParsing(condition)->setEnabled(false);
-    }
 }
 
 void frm성서검색::addTools()

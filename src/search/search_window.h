@@ -12,6 +12,7 @@
 #include "search/bible_search.h"
 #include "search/easy_panel.h"
 #include "search/found_words.h"
+#include "search/input_aids.h"
 #include "search/original_tab.h"
 #include "search/parsing_panel.h"
 #include "search/power_panel.h"
@@ -104,6 +105,7 @@ private:
     ScopeChoice m_scopes;
     BibleSearch m_search;
     OriginalTab m_original;
+    InputAids m_inputAids;
     FontLineBreaker m_lineBreaker;
     ResultGrid m_results;
     FoundWords m_foundWords;
