@@ -106,7 +106,10 @@ QString hebrewSounds(const QString& spelling)
 QString greekSounds(const QString& spelling)
 {
     QString text = withoutMarks(spelling.toLower());
-    text.replace(u"ou"_s, u"U"_s).replace(u"rh"_s, u"r"_s).replace(u'y', kYpsilon);
+    text.replace(u"ui"_s, u"y"_s)
+        .replace(u"ou"_s, u"U"_s)
+        .replace(u"rh"_s, u"r"_s)
+        .replace(u'y', kYpsilon);
     QString result;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
@@ -240,7 +243,8 @@ void HangulSpeller::takeConsonant(const Consonant& consonant)
     }
     const Vowel* next = m_at < m_sounds.size() ? vowelOf(m_sounds[m_at]) : nullptr;
     if (next) {
-        if (sound == u"l" && hasOpenSyllable())
+        // Heard on both sides, also behind a vowel that is only written.
+        if (sound == u"l" && !m_syllables.empty() && m_syllables.back().coda == 0)
             m_syllables.back().coda = kCodaL;
         ++m_at;
         takeVowel(*next, isSh, isHebrewCh ? kHebrewChOnset : consonant.onset);
