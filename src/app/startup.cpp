@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/startup.h"
 
+#include "app/ending_signals.h"
 #include "app/windows.h"
 #include "app/world.h"
 #include "data/check_data.h"
@@ -84,6 +85,7 @@ int Main(World& world)
         if (!reader.Form_Load(splash))
             return 1;
     }
+    const EndingSignals signals([&reader] { reader.close(); });
     reader.show();
     reader.repaint();
     qCInfo(formsLog) << "first chapter shown after" << sinceStart.elapsed() << "ms";

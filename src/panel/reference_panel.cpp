@@ -74,6 +74,15 @@ void ReferencePanel::toggle()
     }
 }
 
+void ReferencePanel::showTab(int tab)
+{
+    sst관주사전->setTab(tab);
+    if (m_state == PanelState::Collapsed)
+        toggle();
+    if (QWidget* const page = sst관주사전->currentWidget())
+        page->setFocus();
+}
+
 void ReferencePanel::showPlace()
 {
     if (m_state == PanelState::Collapsed)

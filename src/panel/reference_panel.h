@@ -32,6 +32,8 @@ public:
     /// Sets the state as it was stored; nothing is loaded or saved.
     void setState(PanelState state);
     void toggle();
+    /// Brings a tab on show, expanding the panel for it.
+    void showTab(int tab);
     /// The caption of the tab last shown.
     const QString& shownCaption() const { return m_shownCaption; }
 

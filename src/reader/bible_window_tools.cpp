@@ -41,6 +41,12 @@ constexpr std::array kLineSpacings{LineSpacingTool{u"ID_줄간격1배", 100},
 
 void frm성서::addGeneratedTools()
 {
+    for (int tab = 0; tab < kPanelTabCount; ++tab) {
+        const QString id = u"ID_PanelTab%1"_s.arg(tab);
+        const QString caption = kPanelCaptions[static_cast<std::size_t>(tab)].toString();
+        const QString shortcut = u"Alt+%1"_s.arg((tab + 1) % 10);
+        atbar.add({id, caption, ToolKind::Button, u"ID_PanelTab", shortcut});
+    }
     for (int book = 0; book < kBookCount; ++book) {
         const bool isOld = book < kFirstNewTestamentBook;
         const QString menuTool = u"ID_성서책%1"_s.arg(book);
@@ -116,6 +122,7 @@ void frm성서::bindViewTools()
         atbar.tool(u"ID_SidePane").setChecked(!m_sidePane->isHidden());
     });
     m_tools.on(u"ID_Panel", [this] { panel->toggle(); });
+    m_tools.onNumbered(u"ID_PanelTab", [this](int tab) { panel->showTab(tab); });
     m_tools.on(u"ID_텍스트형식", [this] { setViewMode(ViewMode::Text); });
     m_tools.on(u"ID_테이블형식", [this] { setViewMode(ViewMode::Table); });
     for (const LineSpacingTool& spacing : kLineSpacings)

@@ -41,6 +41,7 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_성서이동도구모음", u"성서 이동 도구 모음(&B)", ToolKind::Toggle, u"ID_보기"},
     ToolRow{u"ID_SidePane", u"이동/책갈피 창(&K)", ToolKind::Toggle, u"ID_보기", u"F9"},
     ToolRow{u"ID_Panel", u"관주/사전 창(&R)", ToolKind::Toggle, u"ID_보기", u"F8"},
+    ToolRow{u"ID_PanelTab", u"관주/사전 선택(&D)", ToolKind::Menu, u"ID_보기"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_보기"},
     ToolRow{u"ID_텍스트형식", u"텍스트 형식(&X)", ToolKind::Toggle, u"ID_보기", u"Ctrl+Shift+X"},
     ToolRow{u"ID_테이블형식", u"테이블 형식(&T)", ToolKind::Toggle, u"ID_보기", u"Ctrl+Shift+T"},

@@ -83,6 +83,20 @@ TEST_F(ProgramTest, AKilledProgramLeavesTheLastCompleteSettings)
     }
 }
 
+TEST_F(ProgramTest, EndedByTheSessionItSavesAsAtAnyOtherEnd)
+{
+    const TinyData data(services);
+    QProcess program;
+    start(program);
+    ASSERT_TRUE(showsAChapter(program));
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished(kPatience));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_TRUE(settings().contains("ViewMode=1"));
+    EXPECT_TRUE(QFile::exists(services.folders.root() + u"/OrvaneBackup/myc.mdb"_s));
+}
+
 TEST_F(ProgramTest, KilledAtAnyMomentOfTheFirstStartTheNextOneWorks)
 {
     { // one version and none of the user databases

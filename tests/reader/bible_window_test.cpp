@@ -304,6 +304,18 @@ TEST_F(BibleWindowTest, TheEndLeavesTwoGenerationsOfBackups)
         << "code page 949";
 }
 
+TEST_F(BibleWindowTest, KeysBringTheTabsOfThePanelOnShow)
+{
+    start();
+    EXPECT_EQ(reader->panel->state(), PanelState::Collapsed);
+    QTest::keyClick(reader->txCont, Qt::Key_7, Qt::AltModifier);
+    EXPECT_EQ(reader->panel->state(), PanelState::Expanded);
+    EXPECT_EQ(reader->panel->shownCaption(), u"개인주석"_s);
+    EXPECT_TRUE(reader->atbar.tool(u"ID_Panel").checked());
+    QTest::keyClick(reader->txCont, Qt::Key_F8);
+    EXPECT_EQ(reader->panel->state(), PanelState::Collapsed);
+}
+
 TEST_F(BibleWindowTest, PagesAndHelpGoToTheDesktopAndMissingOnesAreTold)
 {
     start();
