@@ -14,18 +14,11 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
-constexpr QStringView kIndex = u"Index";
+const QString kIndex = u"Index"_s;
 
 QString tableName(int table)
 {
     return u"Table"_s + QString::number(table);
-}
-
-void add(Recordset& table, const QVariant& key)
-{
-    table.AddNew();
-    table.Fields(kIndex).setValue(key);
-    table.Update();
 }
 
 } // namespace
@@ -94,22 +87,12 @@ void ScratchTables::empty(int table)
 
 void ScratchTables::StringToDB(const QString& positions, int table)
 {
-    const auto keys = open().OpenRecordset(tableName(table));
-    keys->setIndex(u"PrimaryKey"_s);
-    for (const QString& key : positions.split(u';')) {
-        keys->Seek(u"="_s, key);
-        if (keys->NoMatch())
-            add(*keys, key);
-    }
+    open().AppendTexts(tableName(table), kIndex, positions.split(u';'));
 }
 
-void ScratchTables::fill(int table, Recordset& records)
+void ScratchTables::fill(int table, const Recordset& records)
 {
-    const auto keys = open().OpenRecordset(tableName(table));
-    if (records.RecordCount() < 1)
-        return;
-    for (records.MoveFirst(); !records.Eof(); records.MoveNext())
-        add(*keys, records.Fields(kIndex).Value());
+    open().AppendTexts(tableName(table), kIndex, records.columnTexts(kIndex));
 }
 
 std::unique_ptr<Recordset> ScratchTables::query(const QString& sql)
@@ -119,11 +102,7 @@ std::unique_ptr<Recordset> ScratchTables::query(const QString& sql)
 
 QStringList ScratchTables::keys(int table)
 {
-    QStringList keys;
-    const auto records = open().OpenRecordset(tableName(table));
-    for (; !records->Eof(); records->MoveNext())
-        keys << Text(records->Fields(kIndex));
-    return keys;
+    return open().OpenRecordset(tableName(table))->columnTexts(kIndex);
 }
 
 void ScratchTables::cleanUp()

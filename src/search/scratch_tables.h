@@ -41,8 +41,8 @@ public:
     void empty(int table);
     /// Adds the keys of a list parted by ";". An empty piece, as behind a last ";", is a key too.
     void StringToDB(const QString& positions, int table);
-    /// Adds the column "index" of all records, from the first on.
-    void fill(int table, Recordset& records);
+    /// Adds the column "index" of all records.
+    void fill(int table, const Recordset& records);
     std::unique_ptr<Recordset> query(const QString& sql);
     /// The keys of a table in stored order.
     QStringList keys(int table);

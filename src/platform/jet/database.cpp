@@ -6,9 +6,14 @@
 #include "platform/jet/sql_parser.h"
 #include "platform/log.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <sqlite3.h>
 
 namespace lumen {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -93,6 +98,30 @@ void Database::Execute(const QString& sql)
         connection.beginWrite();
         runInto(connection, query);
     }
+    m_recordsAffected = sqlite3_changes(connection.handle());
+    connection.noteChange();
+}
+
+void Database::AppendTexts(const QString& table, const QString& column, const QStringList& texts)
+{
+    Connection& connection = writable();
+    const TableInfo& target = connection.schema().table(table);
+    const ColumnInfo* const place = target.column(column);
+    if (place == nullptr)
+        throw jetError(ErrorNumber::kUnknownColumn, column);
+    for (const QString& text : texts)
+        if (place->size > 0 && text.size() > place->size)
+            throw jetError(ErrorNumber::kTextTooLong, column);
+    // One statement for all: to run one a text takes several times as long.
+    const QByteArray array =
+        QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact);
+    connection.beginWrite();
+    const auto insert =
+        connection.statement(u"INSERT OR IGNORE INTO %1 (%2) SELECT value FROM json_each(?)"_s
+                                 .arg(quotedName(target.name), quotedName(place->name))
+                                 .toUtf8());
+    insert->bind(1, QVariant(QString::fromUtf8(array)));
+    insert->execute();
     m_recordsAffected = sqlite3_changes(connection.handle());
     connection.noteChange();
 }

@@ -48,6 +48,9 @@ public:
                                              RecordsetType type = RecordsetType::Automatic);
     /// A delete or a select into.
     void Execute(const QString& sql);
+    /// Adds a row for each text, which goes into `column`, the others being Null. A text that a
+    /// unique index has already is passed over. Quicker than AddNew and Update by far.
+    void AppendTexts(const QString& table, const QString& column, const QStringList& texts);
     int RecordsAffected() const { return m_recordsAffected; }
     lumen::TableDefs TableDefs() const;
     /// Makes the writes since BeginTrans one step on disk. When an exception or Close comes in

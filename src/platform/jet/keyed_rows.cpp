@@ -19,6 +19,8 @@ constexpr int kReadAhead = 64;
 constexpr qsizetype kReadAheadBytes = 262144; // a quarter of a MiB
 /// Up to so many keys a criterion is tried key by key, beyond it by one scan of the table.
 constexpr std::size_t kMostProbes = 1024;
+/// A column is read in one walk when at least one row of so many is wanted.
+constexpr std::size_t kScanShare = 4;
 
 /// Holds the read lock for several statements, so that it is taken and given up once.
 class ReadLock
@@ -138,7 +140,8 @@ std::vector<qint64> probed(Connection& connection, const TableInfo& table,
 KeyedRows::KeyedRows(std::shared_ptr<Connection> connection, const TableInfo& table,
                      std::vector<ResultColumn> columns, std::vector<qint64> keys)
     : m_connection(std::move(connection)), m_columns(std::move(columns)),
-      m_rowSql(rowSql(table, m_columns)), m_keys(std::move(keys)),
+      m_rowSql(rowSql(table, m_columns)), m_tableName(quotedName(table.name).toUtf8()),
+      m_rowid(table.rowid.toUtf8()), m_keys(std::move(keys)),
       m_ascending(std::is_sorted(m_keys.begin(), m_keys.end()))
 {
 }
@@ -202,6 +205,56 @@ bool KeyedRows::readRow(SqliteStatement& statement, int index)
     }
     statement.reset();
     return found;
+}
+
+QStringList KeyedRows::texts(int column)
+{
+    if (m_keys.empty())
+        return {};
+    const ReadLock lock(*m_connection);
+    const QByteArray name =
+        quotedName(m_columns[static_cast<std::size_t>(column)].column->name).toUtf8();
+    // One walk through the table passes over a few rows for less than it takes to find one.
+    const auto span = static_cast<std::size_t>(m_keys.back() - m_keys.front());
+    return m_ascending && span / kScanShare < m_keys.size() ? scannedTexts(name)
+                                                            : probedTexts(name);
+}
+
+QStringList KeyedRows::scannedTexts(const QByteArray& column) const
+{
+    QStringList texts;
+    texts.reserve(count());
+    const auto statement =
+        m_connection->statement("SELECT " + m_rowid + ", " + column + " FROM " + m_tableName +
+                                " WHERE " + m_rowid + " BETWEEN ?1 AND ?2 ORDER BY " + m_rowid);
+    statement->bind(1, m_keys.front());
+    statement->bind(2, m_keys.back());
+    auto wanted = m_keys.begin();
+    while (wanted != m_keys.end() && statement->step()) {
+        if (statement->integer(0) != *wanted)
+            continue;
+        texts << statement->text(1);
+        ++wanted;
+    }
+    if (wanted != m_keys.end())
+        throw jetError(ErrorNumber::kRecordDeleted);
+    return texts;
+}
+
+QStringList KeyedRows::probedTexts(const QByteArray& column) const
+{
+    QStringList texts;
+    texts.reserve(count());
+    const auto statement = m_connection->statement("SELECT " + column + " FROM " + m_tableName +
+                                                   " WHERE " + m_rowid + " = ?");
+    for (const qint64 key : m_keys) {
+        statement->bind(1, key);
+        if (!statement->step())
+            throw jetError(ErrorNumber::kRecordDeleted);
+        texts << statement->text(0);
+        statement->reset();
+    }
+    return texts;
 }
 
 int KeyedRows::indexOf(qint64 key, int hint) const

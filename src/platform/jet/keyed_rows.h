@@ -21,6 +21,7 @@ public:
     int count() const override { return static_cast<int>(m_keys.size()); }
     qint64 key(int index) const override { return m_keys[static_cast<std::size_t>(index)]; }
     const Row& row(int index) override;
+    QStringList texts(int column) override;
     int indexOf(qint64 key, int hint) const override;
 
     const std::vector<qint64>& keys() const { return m_keys; }
@@ -37,10 +38,14 @@ public:
 private:
     void fill(int index);
     bool readRow(SqliteStatement& statement, int index);
+    QStringList scannedTexts(const QByteArray& column) const;
+    QStringList probedTexts(const QByteArray& column) const;
 
     std::shared_ptr<Connection> m_connection;
     std::vector<ResultColumn> m_columns;
     QByteArray m_rowSql;
+    QByteArray m_tableName; ///< in quotes
+    QByteArray m_rowid;
     std::vector<qint64> m_keys;
     bool m_ascending = true;
 

@@ -196,6 +196,12 @@ Field Recordset::Fields(int index)
     return {*this, index};
 }
 
+QStringList Recordset::columnTexts(QStringView name) const
+{
+    m_state->needOpen();
+    return m_state->rows().texts(m_state->columnNamed(name));
+}
+
 int Recordset::FieldCount() const
 {
     m_state->needOpen();

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <functional>
@@ -105,6 +106,10 @@ public:
     void Update();
     void CancelUpdate();
     void Delete();
+
+    /// One column of all records in their order, "" for Null. The position stays. Much quicker than
+    /// a walk; 3167 when a record is gone.
+    QStringList columnTexts(QStringView name) const;
 
     /// A criterion for OpenRecordset(); no effect on this recordset itself.
     QString Filter() const;

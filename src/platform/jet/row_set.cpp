@@ -17,6 +17,15 @@ quint32 nextSerial()
 
 RowSet::RowSet() : m_serial(nextSerial()) {}
 
+QStringList RowSet::texts(int column)
+{
+    QStringList texts;
+    texts.reserve(count());
+    for (int index = 0; index < count(); ++index)
+        texts << row(index)[static_cast<std::size_t>(column)].toString();
+    return texts;
+}
+
 void RowSet::shiftCursors(int removed) const
 {
     for (Cursor* cursor : m_cursors) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <QStringList>
 #include <QVariant>
 
 #include <vector>
@@ -39,6 +40,8 @@ public:
     /// The values of the result's columns; error 3167 when the row is gone. Valid until the next
     /// call.
     virtual const Row& row(int index) = 0;
+    /// One column of all rows, "" for Null; error 3167 when a row is gone.
+    virtual QStringList texts(int column);
     /// -1 for a key that is not among the rows. `hint` is where it probably is.
     virtual int indexOf(qint64 key, int hint) const = 0;
 
