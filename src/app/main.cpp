@@ -13,7 +13,6 @@ int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"lumenscript"_s);
-    QApplication::setApplicationDisplayName(u"루멘 스크립트"_s);
     QApplication::setApplicationVersion(QStringLiteral(LUMEN_VERSION));
     QApplication::setDesktopFileName(u"lumenscript"_s);
     QApplication::setWindowIcon(lumen::programIcon());

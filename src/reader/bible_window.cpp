@@ -7,6 +7,7 @@
 #include "forms/guarded.h"
 #include "forms/tool_icons.h"
 #include "forms/window_opener.h"
+#include "panel/cross_references.h"
 #include "platform/controls/twips.h"
 #include "reader/personal_notes_tab.h"
 #include "reader/reader_tools.h"
@@ -27,7 +28,7 @@ constexpr int kSidePaneWidth = 2500; // twips: two buttons abreast
 
 frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
     : panel(new ReferencePanel(services)), m_services(services), m_state(state), m_windows(windows),
-      m_slots(services, state), m_dacPersnote(services.jet),
+      m_slots(services, state), m_dacPersnote(services.jet), m_dacRefTab(services.jet),
       m_bookmarkFile(services.files, joinedPath(state.AppPath, u"\\data\\bmk.bmf"))
 {
     setObjectName(u"frm성서"_s);
@@ -146,6 +147,8 @@ void frm성서::wirePanes()
         QString target = reference;
         Proc이동(target);
     };
+    // Not at the end alone: a power cut must not take marks away.
+    bookmarks->onChanged = [this] { Save책갈피(); };
     bookmarks->currentReference = [this] {
         QString reference;
         guarded(m_services, this, [this, &reference] {
@@ -163,6 +166,8 @@ void frm성서::wirePanes()
     m_notesTab = notes.get();
     m_notesTab->windowIsMinimized = [this] { return m_isMinimized; };
     panel->addTab(std::move(notes));
+    panel->addTab(std::make_unique<CrossReferences>(
+        m_services, m_state, *this, m_dacRefTab, [this] { return m_slots.dacBasis().Database(); }));
     panel->onStatus = [this](const QString& text) { statusPanel1->setText(text); };
     panel->onLayout = [this] { layOutPanel(); };
     m_split->onMoved = [this] {

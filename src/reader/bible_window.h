@@ -157,6 +157,7 @@ private:
     ReaderSettings m_settings; ///< as they are in use now
     VersionSlots m_slots;
     DataControl m_dacPersnote;
+    DataControl m_dacRefTab; ///< shared by the tabs of the panel, which point it anew
     BookmarkFile m_bookmarkFile;
     FontLineBreaker m_lineBreaker;
     TextView m_textView{*txCont};

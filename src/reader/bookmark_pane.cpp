@@ -62,6 +62,8 @@ void BookmarkPane::cmd책갈피추가_Click()
     m_list.select(lst책갈피->ListIndex());
     m_list.add(reference);
     showList();
+    if (onChanged)
+        onChanged();
 }
 
 void BookmarkPane::cmd책갈피이동_Click()
@@ -75,6 +77,8 @@ void BookmarkPane::change(void (BookmarkList::*work)())
     m_list.select(lst책갈피->ListIndex());
     (m_list.*work)();
     showList();
+    if (onChanged)
+        onChanged();
 }
 
 void BookmarkPane::showList()

@@ -26,6 +26,8 @@ public:
     std::function<QString()> currentReference;
     /// Goes to the selected bookmark.
     std::function<void(const QString& reference)> onMove;
+    /// The user has changed the list.
+    std::function<void()> onChanged;
 
     ListBox* lst책갈피 = named<ListBox>(u"lst책갈피", u"책갈피");
     QPushButton* cmd책갈피추가 = named<QPushButton>(u"cmd책갈피추가", u"추가(&A)");

@@ -3,6 +3,7 @@
 
 #include "data/app_state.h"
 #include "data/module_path.h"
+#include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "platform/controls/colors.h"
 #include "platform/dialogs/message_boxes.h"
@@ -22,6 +23,7 @@ namespace {
 
 constexpr int kPlaceColumn = 0;
 constexpr int kNoteColumn = 1;
+constexpr int kTypingPause = 2000; // milliseconds without a key after which a note is saved
 constexpr RgbLong kGreyedBox = RGB(200, 200, 200);
 /// Place and range have to fit into the 255 characters of the place column.
 constexpr int kLongestRange = 200;
@@ -95,6 +97,11 @@ void PersonalNotesTab::wire()
     auto* remove =
         new QShortcut(Qt::Key_Delete, flex개인주석목록, nullptr, nullptr, Qt::WidgetShortcut);
     QObject::connect(remove, &QShortcut::activated, m_page, [this] { cmd개인주석삭제_Click(); });
+    m_typingPause = new QTimer(m_page);
+    m_typingPause->setObjectName(u"TypingPause"_s);
+    m_typingPause->setSingleShot(true);
+    m_typingPause->setInterval(kTypingPause);
+    QObject::connect(m_typingPause, &QTimer::timeout, m_page, [this] { saveInBetween(); });
     flex개인주석목록->onSelChange = [this] {
         if (flex개인주석목록->Row() >= 0)
             m_list.edit(flex개인주석목록->Row());
@@ -201,6 +208,15 @@ void PersonalNotesTab::textChanged()
         return;
     m_list.setText(noteText(tx개인주석본문->toPlainText()));
     flex개인주석목록->setTextMatrix(m_list.editedRow(), kNoteColumn, m_list.editedText());
+    m_typingPause->start();
+}
+
+void PersonalNotesTab::saveInBetween()
+{
+    // A power cut may take what was typed last, no more. While a note is empty its saving rule
+    // would drop those behind it, so that nothing is saved until it has a text or the tab is left.
+    if (storableNotes(m_list.notes()).size() == m_list.notes().size())
+        guarded(m_services, m_page, [this] { Proc개인주석저장(); });
 }
 
 void PersonalNotesTab::cmd개인주석삭제_Click()

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTimer>
 
 namespace lumen {
 
@@ -62,6 +63,7 @@ private:
     void showGridRow(int row);
     void rowChanged();
     void textChanged();
+    void saveInBetween();
     void cmd개인주석삭제_Click();
     void moved(bool hasMoved);
 
@@ -73,6 +75,7 @@ private:
     std::vector<Note> m_stored; ///< what the table holds for m_chapter
     QString m_chapter;          ///< that the list was filled with, "" before the first fill
     bool m_showing = false;
+    QTimer* m_typingPause = nullptr; ///< owned by the page
 };
 
 } // namespace lumen

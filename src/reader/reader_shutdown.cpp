@@ -50,6 +50,7 @@ void frm성서::compactAndBackUp()
     // What is open can't be compacted.
     m_slots.close();
     m_dacPersnote.Close();
+    m_dacRefTab.Close();
     CompactAndBackup(m_state.AppPath, user_file::kNotes, m_services.jet, m_services.files);
     CompactAndBackup(m_state.AppPath, user_file::kBookmarks, m_services.jet, m_services.files);
 }

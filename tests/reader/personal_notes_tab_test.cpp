@@ -127,6 +127,29 @@ TEST_F(PersonalNotesTabTest, ANoteIsThereAgainAfterTheChapterWasLeft)
     EXPECT_EQ(tab->tx개인주석본문->toPlainText(), u"love\n둘째 줄"_s);
 }
 
+TEST_F(PersonalNotesTabTest, APauseInTypingSavesUnlessThatWouldDropNotes)
+{
+    const auto pause = [this] {
+        auto* const timer = tab->page()->findChild<QTimer*>(u"TypingPause"_s);
+        ASSERT_NE(timer, nullptr);
+        ASSERT_TRUE(timer->isActive());
+        timer->start(0);
+        QCoreApplication::processEvents();
+    };
+    openAt(kJohn, 3);
+    addNote(u"1"_s, u"one"_s);
+    pause();
+    EXPECT_EQ(stored(u"요3:"_s), QStringList{u"요3:1=one"_s});
+    addNote(u"2"_s, u"two"_s);
+    pause();
+    tab->flex개인주석목록->setRow(0);
+    tab->flex개인주석목록->onSelChange();
+    tab->tx개인주석본문->clear();
+    pause();
+    EXPECT_EQ(stored(u"요3:"_s), (QStringList{u"요3:1=one"_s, u"요3:2=two"_s}))
+        << "an empty note would drop the second one";
+}
+
 TEST_F(PersonalNotesTabTest, NotesAreSavedOnEveryWayOut)
 {
     openAt(kJohn, 3);
