@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "panel/cross_references.h"
+
+#include "canon/verse_index.h"
+#include "data/data_store.h"
+#include "data/module_path.h"
+#include "data/version_font.h"
+#include "forms/guarded.h"
+#include "forms/reader_place.h"
+#include "forms/wait_pointer.h"
+#include "platform/jet/jet_engine.h"
+#include "text/field_scramble.h"
+
+#include <QHBoxLayout>
+#include <QTextDocument>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView kModule = u"\\Data\\CRef.dts";
+constexpr QStringView kNoReferences = u"관주 없음";
+constexpr int kTextPoints = 10;
+constexpr int kRightTop = 6; // the place of Hebrew in a cell
+
+/// The font whose letters stand in display order, "" for versions that need no division.
+QString hebrewFont(int code)
+{
+    if (code == 301)
+        return u"OrvaneHeb"_s;
+    return code == 302 || code == 303 ? u"OrvaneHebC"_s : QString();
+}
+
+/// The references as keys; a ";" at the end adds none.
+QStringList keysOf(const QString& references)
+{
+    QStringList parts = references.split(u';');
+    if (parts.last().isEmpty())
+        parts.removeLast();
+    for (QString& part : parts)
+        part = BibleCode::RefToIndex(part);
+    return parts;
+}
+
+} // namespace
+
+CrossReferences::CrossReferences(Services& services, const AppState& state, ReaderPlace& reader,
+                                 DataControl& dacRefTab, BaseModule baseModule)
+    : m_page(new QWidget), m_services(services), m_state(state), m_reader(reader),
+      m_dacRefTab(dacRefTab), m_baseModule(std::move(baseModule))
+{
+    lst정렬->setSorted(true);
+    lst정렬->setParent(m_page);
+    lst정렬->hide();
+    auto* layout = new QHBoxLayout(m_page);
+    layout->addWidget(lst관주목록, 1);
+    layout->addWidget(tx관주본문, 2);
+
+    lst관주목록->onClick = [this] { guarded(m_services, m_page, [this] { DispCRefCont(); }); };
+    lst관주목록->onDblClick = [this] { openChosen(); };
+    tx관주본문->onResizeEnded = [this] {
+        // The lines of a Hebrew verse are cut to the width of the box.
+        if (!hebrewFont(m_reader.versionCode(0)).isEmpty())
+            guarded(m_services, m_page, [this] { DispCRefCont(); });
+    };
+}
+
+void CrossReferences::Proc관주표시()
+{
+    m_page->setEnabled(m_state.installed.cRef);
+    if (!m_state.installed.cRef) {
+        setStatus(QString());
+        return;
+    }
+    const Place place{BibleCode::GetChapKey(m_reader.book(), m_reader.chapter()),
+                      m_reader.GetCurVerse()};
+    if (place.verse < 1)
+        return;
+    if (place == m_shown) {
+        // "관주 없음" is an item too: coming back to such a verse tells 1.
+        if (lst관주목록->ListCount() > 0)
+            tellCount();
+        return;
+    }
+    const WaitPointer wait;
+    m_shown = place;
+    // Before the query: one that fails leaves no references of another verse.
+    ClearCRefArea();
+    openReferences(place);
+    const Recordset& rows = *m_dacRefTab.Recordset();
+    if (rows.RecordCount() > 0 && !Text(m_dacRefTab.Recordset()->Fields(u"cref")).isEmpty())
+        FillCRefArea();
+    else
+        lst관주목록->AddItem(kNoReferences.toString());
+}
+
+void CrossReferences::openReferences(const Place& place)
+{
+    m_dacRefTab.DatabaseName = modulePath(m_services.files, m_state, kModule);
+    m_dacRefTab.Connect = QString::fromUtf16(connect_text::kDataControl);
+    m_dacRefTab.ReadOnly = true;
+    m_dacRefTab.RecordSource = u"select cref from cref where chap = '"_s + place.chapter +
+                               u"' and verse = "_s + QString::number(place.verse);
+    m_dacRefTab.Refresh();
+}
+
+void CrossReferences::ClearCRefArea()
+{
+    lst관주목록->Clear();
+    lst정렬->Clear();
+    tx관주본문->setText(QString());
+    setStatus(QString());
+}
+
+void CrossReferences::FillCRefArea()
+{
+    Recordset& rows = *m_dacRefTab.Recordset();
+    rows.MoveFirst();
+    lst정렬->Clear();
+    for (const QString& key : keysOf(DES::UnscrambleField(Text(rows.Fields(u"cref")))))
+        lst정렬->AddItem(key);
+    QStringList references;
+    for (int i = 0; i < lst정렬->ListCount(); ++i)
+        references << BibleCode::IndexToRef(lst정렬->List(i));
+    lst관주목록->AddItems(references);
+    lst관주목록->setListIndex(0);
+    tellCount();
+}
+
+void CrossReferences::tellCount()
+{
+    setStatus(u"검색된 관주 수: "_s + QString::number(lst관주목록->ListCount()));
+}
+
+void CrossReferences::DispCRefCont()
+{
+    const QString reference = lst관주목록->Text();
+    if (reference.isEmpty() || reference == kNoReferences)
+        return;
+    const WaitPointer wait;
+    const std::optional<QString> verse = readVerse(BibleCode::RefToIndex(reference));
+    showText(verse.value_or(QString()), m_reader.versionCode(0));
+}
+
+std::optional<QString> CrossReferences::readVerse(const QString& key) const
+{
+    // By a recordset of its own: the one of the data control is the chapter that the reader shows,
+    // and moves and bookmarks count its rows.
+    Database* const module = m_baseModule();
+    if (module == nullptr || module->isClosed())
+        return {};
+    const auto rows = module->OpenRecordset(u"select * from ["_s + m_reader.versionName(0) +
+                                            u"] where index = '"_s + key + u"'"_s);
+    if (rows->RecordCount() == 0)
+        return {};
+    return DES::UnscrambleField(Text(rows->Fields(u"cont")));
+}
+
+void CrossReferences::showText(const QString& verse, int code)
+{
+    const VersionFont versionFont = GetVersionFont(code, m_state.fonts);
+    const int points = scaledSize(versionFont.factor, kTextPoints);
+    QFont font(versionFont.font);
+    font.setPointSize(points);
+    tx관주본문->setFont(font);
+    const QString hebrew = hebrewFont(code);
+    tx관주본문->setText(hebrew.isEmpty()
+                            ? verse
+                            : DivideHebrewCont(verse, {hebrew, 2 * points, tx관주본문->textWidth()},
+                                               false, m_lineBreaker));
+    QTextOption direction = tx관주본문->document()->defaultTextOption();
+    direction.setAlignment(versionFont.alignment == kRightTop ? Qt::AlignRight : Qt::AlignLeft);
+    tx관주본문->document()->setDefaultTextOption(direction);
+}
+
+void CrossReferences::openChosen()
+{
+    const QString reference = lst관주목록->Text();
+    if (reference.isEmpty() || reference == kNoReferences)
+        return;
+    const VersePlace place = BibleCode::ParseRef(reference);
+    m_reader.goTo(place.book, place.chapter, place.verse);
+}
+
+} // namespace lumen
