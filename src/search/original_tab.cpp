@@ -74,8 +74,10 @@ void OriginalTab::ProcParsingSearch(const QString& scopeTag)
     onState({});
     if (!findRoot() || !prepareTables())
         return;
-    if (!guarded(m_services, &m_window, [&] { search(question); }))
-        onState({});
+    if (guarded(m_services, &m_window, [&] { search(question); }))
+        return;
+    m_tables.abandon();
+    onState({});
 }
 
 bool OriginalTab::isComplete(const OriginalQuestion& question)

@@ -51,15 +51,16 @@ bool ScratchTables::startAfresh()
 bool ScratchTables::prepare()
 {
     try {
-        open();
+        close();
+        open().BeginTrans();
+        m_searching = true;
         for (int table = 0; table < kShown; ++table)
             m_database->Execute(u"Delete * from "_s + tableName(table));
         m_database->Execute(u"Delete * from "_s + tableName(kShown));
         return true;
     } catch (const JetError& error) {
         qCWarning(searchLog) << "scratch tables:" << error.number() << error.text();
-        m_jet.rollbackAll();
-        m_database.reset();
+        abandon();
         return false;
     }
 }
@@ -76,8 +77,17 @@ void ScratchTables::close()
 {
     if (!m_database)
         return;
+    if (m_searching)
+        m_database->CommitTrans();
+    m_searching = false;
     m_database->Close();
     m_database.reset();
+}
+
+void ScratchTables::abandon()
+{
+    m_database.reset();
+    m_searching = false;
 }
 
 void ScratchTables::empty(int table)
@@ -110,12 +120,13 @@ void ScratchTables::cleanUp()
     if (!exists())
         return;
     try {
+        close();
         for (int table = 0; table <= kLast; ++table)
             empty(table);
         close();
     } catch (const JetError& error) {
         qCWarning(searchLog) << "not cleaned:" << error.number() << error.text();
-        m_database.reset();
+        abandon();
     }
     CompactAndBackup(m_appPath, user_file::kSearchScratch, m_jet, m_files);
 }

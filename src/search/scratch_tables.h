@@ -31,11 +31,13 @@ public:
     /// file stays missing. False when the file can't be written anew.
     bool startAfresh();
 
-    /// Opens the database, if it isn't open, with tables 0 to 9 empty. False when the file can't be
-    /// used.
+    /// Opens the database with tables 0 to 9 empty and begins a transaction. False when the file
+    /// can't be used.
     bool prepare();
-    /// Writes what is pending and lets go of the file.
+    /// Writes what has been done since prepare() in one step and lets go of the file.
     void close();
+    /// Lets go of the file with the tables as they were before prepare().
+    void abandon();
 
     /// "delete * from Table9" and the like.
     void empty(int table);
@@ -59,6 +61,7 @@ private:
     FileSystem& m_files;
     QString m_appPath;
     std::unique_ptr<Database> m_database;
+    bool m_searching = false; ///< between prepare() and its end
 };
 
 } // namespace lumen
