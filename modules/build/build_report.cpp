@@ -30,6 +30,8 @@ QString builtLine(const ModuleOutcome& outcome)
     QStringList pieces{grouped(check.rows) + u"절"_s};
     if (check.withoutWords > 0)
         pieces << u"본문 없음 %1"_s.arg(grouped(check.withoutWords));
+    if (check.absentBooks > 0)
+        pieces << u"없는 책 %1권"_s.arg(check.absentBooks);
     if (check.missing > 0)
         pieces << u"정경에 있으나 없는 절 %1"_s.arg(grouped(check.missing));
     if (check.beyond > 0)

@@ -48,8 +48,8 @@ QString stateOf(const ReferenceTask& task, const QString& folder)
         return built ? u"만들어져 있음, 원본 없음"_s : missing;
     if (!built)
         return u"만들 수 있음"_s;
-    return storedStamp(file) == referenceStamp(task) ? u"만들어져 있음"_s
-                                                     : u"만들어져 있으나 원본이 바뀜"_s;
+    return isUpToDate(task, storedStamp(file)) ? u"만들어져 있음"_s
+                                               : u"만들어져 있으나 원본이 바뀜"_s;
 }
 
 void listOriginals(const QString& folder)

@@ -8,7 +8,7 @@
 namespace lumen {
 
 /// The version of the rules by which modules are made; a module of other rules is made anew.
-inline constexpr int kBuilderVersion = 3;
+inline constexpr int kBuilderVersion = 4;
 
 /// The key of the origin line that holds the stamp.
 inline constexpr QStringView kStampKey = u"stamp";

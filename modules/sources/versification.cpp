@@ -41,6 +41,7 @@ struct BookDeviation
     QStringList missing;
     QStringList beyond;
     QStringList withoutWords;
+    bool hasRows = false;
 };
 
 QString shortPlace(int chapter, int verse)
@@ -88,6 +89,21 @@ void addDeviation(CanonCheck& check, const BookDeviation& deviation)
     if (!deviation.missing.isEmpty() || !deviation.beyond.isEmpty() ||
         !deviation.withoutWords.isEmpty())
         check.deviations << deviationLine(deviation);
+}
+
+// "없는 책 27권: 마태복음-요한계시록"; books that follow one another are a run.
+QString absentLine(const std::vector<int>& books)
+{
+    QStringList runs;
+    for (std::size_t i = 0; i < books.size();) {
+        std::size_t end = i + 1;
+        while (end < books.size() && books[end] == books[end - 1] + 1)
+            ++end;
+        const QString first = bookName(books[i]);
+        runs << (end - i == 1 ? first : u"%1-%2"_s.arg(first, bookName(books[end - 1])));
+        i = end;
+    }
+    return u"없는 책 %1권: %2"_s.arg(books.size()).arg(runs.join(u", "_s));
 }
 
 using Places = QHash<QString, VersePlace>;
@@ -164,18 +180,27 @@ CanonCheck checkAgainstCanon(const VersionText& version, Numbering numbering)
     for (const VerseText& verse : version.verses) {
         auto& book = books[static_cast<std::size_t>(verse.book)];
         present.insert(BibleCode::verseKey(verse.book, verse.chapter, verse.verse));
+        book.hasRows = true;
         ++check.rows;
         if (!verse.text)
             book.withoutWords << shortPlace(verse.chapter, verse.verse);
         if (verse.verse > verseCount(numbering, verse.book, verse.chapter))
             book.beyond << shortPlace(verse.chapter, verse.verse);
     }
+    std::vector<int> absent;
     for (int book = 0; book < kBookCount; ++book) {
         auto& deviation = books[static_cast<std::size_t>(book)];
         deviation.book = book;
+        if (!deviation.hasRows) {
+            absent.push_back(book);
+            continue;
+        }
         deviation.missing = missingVerses(present, numbering, book);
         addDeviation(check, deviation);
     }
+    check.absentBooks = static_cast<int>(absent.size());
+    if (!absent.empty())
+        check.deviations << absentLine(absent);
     return check;
 }
 

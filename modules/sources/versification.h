@@ -20,9 +20,10 @@ struct CanonCheck
 {
     int rows = 0;
     int withoutWords = 0;
-    int missing = 0;        ///< verses of the canon that have no row
+    int missing = 0;        ///< verses of the canon that have no row, in books that have one
     int beyond = 0;         ///< rows that the canon doesn't know
-    QStringList deviations; ///< a Korean line for each book that deviates
+    int absentBooks = 0;    ///< books without a row, as in a version of one testament
+    QStringList deviations; ///< a Korean line for each book that deviates, one for those absent
 };
 
 CanonCheck checkAgainstCanon(const VersionText& version, Numbering numbering);

@@ -51,6 +51,17 @@ TEST(Versification, TellsWhatABookLacks)
     EXPECT_EQ(check.deviations[1], u"요한계시록: 본문 없는 절 1 (22:21)"_s);
 }
 
+TEST(Versification, TellsBooksThatAreAbsentInOneLine)
+{
+    VersionText version = wholeVersion(Numbering::Korean);
+    std::erase_if(version.verses,
+                  [](const VerseText& verse) { return verse.book >= 39 || verse.book == 1; });
+    const CanonCheck check = checkAgainstCanon(version, Numbering::Korean);
+    EXPECT_EQ(check.missing, 0);
+    EXPECT_EQ(check.absentBooks, 28);
+    EXPECT_EQ(check.deviations, QStringList{u"없는 책 28권: 출애굽기, 마태복음-요한계시록"_s});
+}
+
 TEST(Renumbering, GoesThroughTheOriginalNumbers)
 {
     const SourceFiles files;

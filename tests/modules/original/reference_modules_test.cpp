@@ -215,6 +215,26 @@ TEST(OriginalPlan, LeavesTheDividedTextOutUnlessAskedFor)
     EXPECT_TRUE(has(planBuild(options, {}).value(), 303));
 }
 
+TEST(OriginalPlan, AModuleIsNotMadeAnewWithoutWhatEnrichedIt)
+{
+    const SourceFiles files;
+    files.write(u"words.xml"_s, u"words"_s);
+    files.write(u"korean.json"_s, u"glosses"_s);
+    ReferenceTask plain;
+    plain.file = u"z101"_s;
+    plain.sources = {files.path(u"words.xml"_s)};
+    ReferenceTask enriched = plain;
+    enriched.enrichment = {files.path(u"korean.json"_s)};
+
+    EXPECT_TRUE(isUpToDate(plain, referenceStamp(plain)));
+    EXPECT_TRUE(isUpToDate(plain, referenceStamp(enriched)));
+    EXPECT_TRUE(isUpToDate(enriched, referenceStamp(enriched)));
+    EXPECT_FALSE(isUpToDate(enriched, referenceStamp(plain)));
+    ReferenceTask other = plain;
+    other.sources = {files.path(u"korean.json"_s)};
+    EXPECT_FALSE(isUpToDate(other, referenceStamp(enriched)));
+}
+
 TEST(OriginalPlan, FindsTheUsersFiles)
 {
     const SourceFiles files;
