@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <atomic>
 #include <map>
+#include <numeric>
 #include <thread>
 
 namespace lumen {
@@ -108,6 +109,18 @@ QString labelAt(const BuildPlan& plan, std::size_t at)
     return u"%1 %2"_s.arg(task.code).arg(task.name);
 }
 
+// The first of the references takes longest, so that it comes first. While it reads the sources
+// that they share, the other workers have the versions to make.
+std::vector<std::size_t> workOrder(std::size_t versions, std::size_t count)
+{
+    std::vector<std::size_t> order(count);
+    std::iota(order.begin(), order.end(), std::size_t(0));
+    if (versions < count)
+        std::rotate(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(versions),
+                    order.begin() + static_cast<std::ptrdiff_t>(versions) + 1);
+    return order;
+}
+
 } // namespace
 
 Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& folders)
@@ -151,11 +164,11 @@ std::vector<ModuleOutcome> runPlan(const BuildPlan& plan, const QString& outFold
                                                     outFolder, advance);
         progress.finish(i, outcomeLine(outcomes[i]));
     };
-    // The longest work comes first, so that no worker ends long before the others.
+    const std::vector<std::size_t> order = workOrder(versions, count);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
         for (std::size_t i = next++; i < count; i = next++)
-            make((i + versions) % count);
+            make(order[i]);
     };
     std::vector<std::jthread> workers;
     const std::size_t extra = std::min(static_cast<std::size_t>(std::max(jobs, 1)), count);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/korean_glosses.h"
 
+#include "common/interruption.h"
 #include "original/korean_stems.h"
 #include "original/word_alignment.h"
 #include "sources/json_readers.h"
@@ -159,6 +160,8 @@ std::optional<Failure> deriveGlosses(const OriginalText& text, const QStringList
         all << words;
     const KoreanStems stems(all);
     for (const bool isGreek : {false, true}) {
+        if (interrupted())
+            return Failure{FailureKind::Cancelled, {}};
         TestamentGlosses testament(isGreek, korean.value(), stems);
         for (const OriginalVerse& verse : text)
             if (verse.isGreek == isGreek)

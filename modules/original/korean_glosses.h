@@ -48,7 +48,7 @@ private:
 };
 
 /// The glosses for a text. Without Korean files only those written by hand; NotFound and Damaged
-/// when a file can't be read.
+/// when a file can't be read, Cancelled when the user asked to stop.
 Result<KoreanGlosses> koreanGlosses(const OriginalText& text, const QStringList& koreanFiles);
 
 } // namespace lumen

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/original_corpus.h"
 
+#include "common/interruption.h"
 #include "original/gloss_alignment.h"
 #include "original/greek_words.h"
 #include "original/hebrew_words.h"
@@ -22,6 +23,8 @@ Result<std::vector<OshbVerse>> readOshb(const QStringList& files)
 {
     std::vector<OshbVerse> verses;
     for (const QString& file : files) {
+        if (interrupted())
+            return Failure{FailureKind::Cancelled, {}};
         auto book = readOshbFile(file);
         if (!book)
             return book.failure();

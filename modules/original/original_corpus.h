@@ -50,7 +50,8 @@ public:
     explicit OriginalCorpus(OriginalSources sources) : m_sources(std::move(sources)) {}
 
     const OriginalSources& sources() const { return m_sources; }
-    /// The same object at each call; NotFound and Damaged name the file.
+    /// The same object at each call; NotFound and Damaged name the file, Cancelled when the user
+    /// asked to stop.
     const Result<OriginalContent>& content();
 
 private:
