@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QImage>
 #include <QScrollBar>
+#include <QHeaderView>
 #include <QTest>
 
 #include <stdexcept>
@@ -267,6 +268,83 @@ TEST_F(FlexGridTest, CellsAreChosenOneByOneWhereAsked)
     EXPECT_EQ(grid.Row(), 2);
     EXPECT_EQ(grid.Col(), 2);
     EXPECT_EQ(grid.selectionText(), grid.TextMatrix(2, 2));
+}
+
+/// A grid of words as wide as their texts, with a label before each row.
+class WordGridTest : public testing::Test
+{
+protected:
+    WordGridTest()
+    {
+        grid.setFixedRows(0);
+        grid.setCols(1);
+        grid.setFixedCols(1);
+        grid.setSelectionMode(GridSelection::Cells);
+        grid.resize(300, 200);
+        grid.show();
+        fill({u"짧은"_s, u"훨씬 더 긴 낱말이라서 넓어야 하는 칸"_s, u"끝"_s});
+    }
+
+    void fill(const QStringList& words)
+    {
+        const RedrawHold hold(grid);
+        grid.setRows(0);
+        grid.setCols(static_cast<int>(words.size()) + 1);
+        grid.AddItem(QStringList{u"본문"_s} + words);
+        grid.AddItem(QStringList{u"표제어"_s} + words);
+        grid.FitColumns();
+        grid.AutoSize();
+    }
+    QString label(int row) { return grid.model()->headerData(row, Qt::Vertical).toString(); }
+    QRect cell(int row, int col) { return grid.visualRect(grid.model()->index(row, col)); }
+
+    FlexGrid grid;
+};
+
+TEST_F(WordGridTest, RowLabelsStandBesideTheCellsAndAreNeverChosen)
+{
+    EXPECT_EQ(label(0), u"본문"_s);
+    EXPECT_EQ(label(1), u"표제어"_s);
+    EXPECT_TRUE(grid.verticalHeader()->isVisible());
+    EXPECT_TRUE(cell(0, 0).isEmpty());
+    EXPECT_EQ(grid.TextMatrix(1, 0), u"표제어"_s);
+
+    grid.setCell(0, 1);
+    QTest::mouseClick(grid.verticalHeader()->viewport(), Qt::LeftButton, {},
+                      {5, grid.verticalHeader()->sectionViewportPosition(1) + 3});
+    QTest::keyClick(&grid, Qt::Key_Left);
+    EXPECT_EQ(grid.Row(), 0);
+    EXPECT_EQ(grid.Col(), 1);
+}
+
+TEST_F(WordGridTest, ColumnsAreAsWideAsTheirWordsAndNoWordWraps)
+{
+    EXPECT_GT(cell(0, 2).width(), 3 * cell(0, 1).width());
+    EXPECT_EQ(cell(0, 1).height(), cell(0, 2).height());
+    EXPECT_LT(cell(0, 2).height(), 2 * grid.fontMetrics().height());
+
+    const int narrow = cell(0, 1).width();
+    CellStyle large;
+    large.points = 3 * grid.font().pointSizeF();
+    grid.setCellStyle(1, 1, large);
+    grid.FitColumns();
+    EXPECT_GT(cell(0, 1).width(), 2 * narrow);
+    EXPECT_GT(cell(1, 1).height(), 2 * cell(0, 1).height());
+}
+
+TEST_F(WordGridTest, ACellOutOfViewIsBroughtIntoIt)
+{
+    fill(QStringList(40, u"긴 낱말"_s));
+    grid.setCell(0, 40);
+    grid.ShowCell(0, 40);
+    EXPECT_TRUE(grid.viewport()->rect().contains(cell(0, 40)));
+    grid.ShowCell(0, 1);
+    EXPECT_TRUE(grid.viewport()->rect().contains(cell(0, 1)));
+
+    grid.hide();
+    grid.ShowCell(0, 40);
+    grid.show();
+    EXPECT_TRUE(grid.viewport()->rect().contains(cell(0, 40)));
 }
 
 TEST_F(FlexGridTest, AMergedRowSpansTheVersionColumns)

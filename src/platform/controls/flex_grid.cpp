@@ -98,6 +98,20 @@ void FlexGrid::setFixedRows(int rows)
     horizontalHeader()->setVisible(rows > 0);
 }
 
+int FlexGrid::FixedCols() const
+{
+    return m_model->fixedCols();
+}
+
+void FlexGrid::setFixedCols(int cols)
+{
+    m_model->setFixedCols(cols);
+    setColHidden(0, cols > 0);
+    verticalHeader()->setVisible(cols > 0);
+    verticalHeader()->setSectionsClickable(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
 void FlexGrid::Clear()
 {
     m_model->clear();
@@ -245,6 +259,22 @@ void FlexGrid::stretchColumns()
     m_fitting = before;
 }
 
+void FlexGrid::FitColumns()
+{
+    const bool before = std::exchange(m_fitting, true);
+    for (int col = 0; col < Cols(); ++col) {
+        if (isColumnHidden(col))
+            continue;
+        int width = kLeastColumn;
+        for (int row = 0; row < Rows(); ++row)
+            if (const QString& text = m_model->text(row, col); !text.isEmpty())
+                width = std::max(width, m_heights->cellWidth(text, m_model->font(row, col)));
+        setColumnWidth(col, width + (showGrid() ? 1 : 0));
+    }
+    m_fitting = before;
+    columnsResized();
+}
+
 void FlexGrid::AutoSize()
 {
     m_sized = true;
@@ -318,20 +348,27 @@ void FlexGrid::setRedraw(bool redraw)
 
 void FlexGrid::ShowRow(int row)
 {
-    scrollToRow(row, EnsureVisible);
+    scrollToCell({.row = row});
 }
 
 void FlexGrid::setTopRow(int row)
 {
-    scrollToRow(row, PositionAtTop);
+    scrollToCell({.row = row, .hint = PositionAtTop});
 }
 
-void FlexGrid::scrollToRow(int row, ScrollHint hint)
+void FlexGrid::ShowCell(int row, int col)
 {
-    if (isVisible())
-        scrollTo(cellIndex(row, 0), hint);
-    else
-        m_scrollOnShow = {row, hint};
+    scrollToCell({.row = row, .col = col});
+}
+
+void FlexGrid::scrollToCell(const ScrollTarget& target)
+{
+    if (isVisible()) {
+        const int col = target.col < 0 ? std::max(columnAt(0), FixedCols()) : target.col;
+        scrollTo(cellIndex(target.row, col), target.hint);
+    } else {
+        m_scrollOnShow = target;
+    }
 }
 
 int FlexGrid::TopRow() const
@@ -422,7 +459,7 @@ void FlexGrid::showEvent(QShowEvent* event)
     stretchColumns();
     columnsResized();
     if (const auto wanted = std::exchange(m_scrollOnShow, std::nullopt))
-        scrollToRow(wanted->first, wanted->second);
+        scrollToCell(*wanted);
 }
 
 void FlexGrid::changeEvent(QEvent* event)

@@ -43,6 +43,9 @@ public:
     int FixedRows() const;
     /// 1 (a header) or 0 (all rows alike).
     void setFixedRows(int rows);
+    int FixedCols() const;
+    /// 1 (column 0 holds the labels of the rows, which stay in view and can't be selected) or 0.
+    void setFixedCols(int cols);
     /// Takes away all texts, looks and merged rows; rows and columns stay.
     void Clear();
     QString TextMatrix(int row, int col) const;
@@ -72,6 +75,9 @@ public:
     /// also when the grid is resized; row heights follow. -1 ends it.
     void setStretchFrom(int firstCol);
 
+    /// Makes every column as wide as its widest text needs without wrapping. Texts that come later
+    /// don't change it.
+    void FitColumns();
     /// Computes the heights of all rows, now and from then on whenever widths change or a fill
     /// under setRedraw(false) ends. A hidden grid does it when it is shown.
     void AutoSize();
@@ -95,6 +101,8 @@ public:
     void ShowRow(int row);
     void setTopRow(int row);
     int TopRow() const;
+    /// Scrolls as little as needed both ways; a hidden grid does it when it is shown.
+    void ShowCell(int row, int col);
     /// The row or column under a point of the viewport, -1 below the last row or outside.
     int rowAtPoint(const QPoint& point) const;
     int colAtPoint(const QPoint& point) const;
@@ -151,7 +159,13 @@ private:
     void applyMergedRows();
     void applyHeights();
     int highestCell(int row, const std::vector<int>& widths) const;
-    void scrollToRow(int row, ScrollHint hint);
+    struct ScrollTarget
+    {
+        int row = 0;
+        int col = -1; ///< -1: whatever column is in view
+        ScrollHint hint = EnsureVisible;
+    };
+    void scrollToCell(const ScrollTarget& target);
     void stretchColumns();
     void columnsResized();
 
@@ -160,7 +174,7 @@ private:
     QTimer m_resizeTimer;
     QString m_tag;
     GridSelection m_mode = GridSelection::Rows;
-    std::optional<std::pair<int, ScrollHint>> m_scrollOnShow;
+    std::optional<ScrollTarget> m_scrollOnShow;
     int m_stretchFrom = -1;
     bool m_redraw = true;
     bool m_sized = false;

@@ -11,6 +11,7 @@ namespace {
 
 // About ten chapters of four versions; the whole is dropped when it is full.
 constexpr qsizetype kMostHeights = 8192;
+constexpr qreal kEndlessLine = 1e6; // pixels
 
 } // namespace
 
@@ -33,6 +34,23 @@ TextRange shownRange(const QString& text, const TextRange& range)
     const int start = range.start - shortened(range.start);
     const int end = range.start + range.length;
     return {start, end - shortened(end) - start};
+}
+
+int naturalCellWidth(const QString& text, const QFont& font)
+{
+    QTextLayout layout(shownText(text), font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setTextDirection(Qt::LeftToRight);
+    layout.setTextOption(option);
+    qreal width = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(kEndlessLine);
+        width = std::max(width, line.naturalTextWidth());
+    }
+    layout.endLayout();
+    return static_cast<int>(std::ceil(width)) + 1 + kCellMarginLeft + kCellMarginRight;
 }
 
 int layOutCell(QTextLayout& layout, int width, GridAlign align)
@@ -66,15 +84,27 @@ QString RowHeights::fontKey(const QFont& font)
 
 int RowHeights::cellHeight(const QString& text, const QFont& font, int width)
 {
-    const Key key{text, fontKey(font), width};
+    return kept({text, fontKey(font), width}, [&] {
+        QTextLayout layout(shownText(text), font);
+        return layOutCell(layout, width, GridAlign::Left);
+    });
+}
+
+int RowHeights::cellWidth(const QString& text, const QFont& font)
+{
+    return kept({text, fontKey(font), kUnwrapped}, [&] { return naturalCellWidth(text, font); });
+}
+
+template <typename Measure>
+int RowHeights::kept(const Key& key, Measure measure)
+{
     if (const auto known = m_heights.constFind(key); known != m_heights.cend())
         return *known;
-    QTextLayout layout(shownText(text), font);
-    const int height = layOutCell(layout, width, GridAlign::Left);
+    const int pixels = measure();
     if (m_heights.size() >= kMostHeights)
         m_heights.clear();
-    m_heights.insert(key, height);
-    return height;
+    m_heights.insert(key, pixels);
+    return pixels;
 }
 
 } // namespace lumen

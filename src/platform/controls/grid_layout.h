@@ -24,6 +24,9 @@ QString shownText(const QString& text);
 /// A range of a cell's text as one of its shownText.
 TextRange shownRange(const QString& text, const TextRange& range);
 
+/// The width in pixels, margins included, that a cell's text takes without wrapping.
+int naturalCellWidth(const QString& text, const QFont& font);
+
 /// Lays a cell's text out for a cell of a width in pixels, margins included. The text runs from
 /// left to right whatever it holds: the fonts of the original languages keep their letters in
 /// visual order. Gives the cell's height, margins included.
@@ -36,6 +39,8 @@ class RowHeights
 public:
     /// The height of a cell in pixels.
     int cellHeight(const QString& text, const QFont& font, int width);
+    /// The width in pixels, margins included, in which the text doesn't wrap.
+    int cellWidth(const QString& text, const QFont& font);
 
 private:
     struct Key
@@ -50,6 +55,9 @@ private:
             return qHashMulti(seed, key.text, key.font, key.width);
         }
     };
+    static constexpr int kUnwrapped = -1; ///< stands for the width of a key whose value is a width
+    template <typename Measure>
+    int kept(const Key& key, Measure measure);
     QString fontKey(const QFont& font);
 
     QHash<Key, int> m_heights;

@@ -103,6 +103,13 @@ void GridModel::setFixedRows(int count)
     endResetModel();
 }
 
+void GridModel::setFixedCols(int count)
+{
+    Q_ASSERT(count == 0 || count == 1);
+    m_fixedCols = count;
+    tellHeaders();
+}
+
 void GridModel::insertEmptyRow(int row)
 {
     Row fresh;
@@ -142,9 +149,17 @@ void GridModel::clear()
     m_styles.resize(1);
     if (m_held || m_cols == 0)
         return;
-    Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_cols - 1);
+    tellHeaders();
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, m_cols - 1));
+}
+
+void GridModel::tellHeaders()
+{
+    if (m_cols > 0)
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_cols - 1);
+    if (m_fixedCols > 0 && rowCount() > 0)
+        Q_EMIT headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
 }
 
 void GridModel::setHeld(bool held)
@@ -158,8 +173,7 @@ void GridModel::setHeld(bool held)
     }
     sync();
     m_held = false;
-    if (m_cols > 0)
-        Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_cols - 1);
+    tellHeaders();
 }
 
 void GridModel::sync()
@@ -202,6 +216,8 @@ void GridModel::tell(int row, int col)
         return;
     if (row < m_fixedRows)
         Q_EMIT headerDataChanged(Qt::Horizontal, col, col);
+    else if (col < m_fixedCols)
+        Q_EMIT headerDataChanged(Qt::Vertical, row - m_fixedRows, row - m_fixedRows);
     else
         Q_EMIT dataChanged(index(row - m_fixedRows, col), index(row - m_fixedRows, col));
 }
@@ -313,7 +329,11 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || m_fixedRows == 0)
+    if (orientation == Qt::Vertical) {
+        const bool isLabel = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
+        return m_fixedCols > 0 && isLabel ? text(section + m_fixedRows, 0) : QVariant();
+    }
+    if (m_fixedRows == 0)
         return {};
     switch (role) {
     case Qt::DisplayRole:

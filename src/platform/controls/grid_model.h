@@ -43,6 +43,9 @@ public:
     void setRows(int rows);
     void setCols(int cols);
     void setFixedRows(int rows);
+    int fixedCols() const { return m_fixedCols; }
+    /// 1: the texts of column 0 are the labels of the rows; 0: it is a column like all others.
+    void setFixedCols(int cols);
     void insertEmptyRow(int row);
     void removeGridRow(int row);
     void clear();
@@ -87,6 +90,7 @@ private:
 
     int internStyle(const CellStyle& style);
     void tell(int row, int col);
+    void tellHeaders();
     bool holds(int row, int col) const;
     void resizeRows(int rows);
 
@@ -97,6 +101,7 @@ private:
     QFont m_baseFont;
     int m_cols = 0;
     int m_fixedRows = 1;
+    int m_fixedCols = 0;
     bool m_held = false;
     int m_shownRows = 0; // what views know while held, fixed rows among them
     int m_keptRows = 0;  // the first rows, which stayed throughout the hold
