@@ -2,6 +2,7 @@
 #include "build/recipes.h"
 
 #include "data/version_catalogue.h"
+#include "original/original_versions.h"
 #include "sources/text_mending.h"
 
 #include <QDir>
@@ -114,6 +115,13 @@ void setRenumbering(ModuleTask& task, const SourceFolders& folders)
     task.englishMapping = folders.bibledit + u"/mapping/English.txt"_s;
 }
 
+// Greek New Testaments that no package has. 308 is built in, 310 has files of its own shape: a text
+// of another kind must not stand under that name, as searches rely on it.
+bool isSuppliedGreek(int code)
+{
+    return code == 305 || code == 306 || code == 307 || code == 309 || code == 311;
+}
+
 bool isKorean(int code)
 {
     return code < 200;
@@ -163,6 +171,11 @@ ModuleTask userTask(int code, const QString& name, const ModuleSource& source,
         task.numbering = Numbering::Korean;
         task.mends.push_back(Mending::korean);
     }
+    if (isSuppliedGreek(code)) {
+        task.numbering = Numbering::Korean;
+        task.mends.push_back(Mending::romansDoxology);
+        task.mends.push_back(encodeGreek);
+    }
     if (code == 101 || code == 102) {
         task.origin = u"성경전서 개역한글판 (1961), 대한성서공회, 사용자가 준비한 파일"_s;
         task.licence =
@@ -190,7 +203,7 @@ QString catalogueName(int code)
 
 QString whyNotBuildable(int code, const QString& name)
 {
-    if (code >= 300 && code < 400)
+    if (code >= 300 && code < 400 && !isSuppliedGreek(code))
         return u"%1: 원어 본문은 이 방법으로 만들 수 없습니다."_s.arg(code);
     if (!isUserSlot(code))
         return catalogueName(code).isEmpty() ? u"%1: 없는 역본 번호입니다."_s.arg(code) : QString();

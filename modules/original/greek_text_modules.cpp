@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QTextStream>
 
+#include <algorithm>
 #include <array>
 
 namespace lumen {
@@ -41,6 +42,25 @@ std::optional<int> byzantineBook(const QString& file)
     return BookNames::fromUsfm(name);
 }
 
+void noteUnknown(const QString& characters, QString& unknown)
+{
+    for (const QChar c : characters)
+        if (!unknown.contains(c))
+            unknown += c;
+}
+
+QString unknownRemark(const QString& unknown)
+{
+    return u"글꼴 코드가 없어 뺀 글자: %1"_s.arg(unknown);
+}
+
+QString withoutMarks(const QString& text)
+{
+    return text.normalized(QString::NormalizationForm_D).removeIf([](QChar c) {
+        return c.category() == QChar::Mark_NonSpacing;
+    });
+}
+
 // "βιβλος 976 {N-NSF} γενεσεως 1078 {N-GSF}": only the words are kept.
 OriginalVerse parsedVerse(const VersePlace& place, const QString& text, QString& unknown)
 {
@@ -50,9 +70,7 @@ OriginalVerse parsedVerse(const VersePlace& place, const QString& text, QString&
         if (item.startsWith(u'{') || item[0].isDigit())
             continue;
         const FontCodes codes = greekToCodes(item);
-        for (const QChar c : codes.unknown)
-            if (!unknown.contains(c))
-                unknown += c;
+        noteUnknown(codes.unknown, unknown);
         OriginalWord word;
         word.divided = codes.codes;
         verse.words.push_back(std::move(word));
@@ -85,6 +103,41 @@ std::optional<Failure> readByzantineBook(const QString& file, int book, Original
         text.push_back(parsedVerse(place, words, unknown));
     }
     return std::nullopt;
+}
+
+OriginalVerse encodedVerse(const VerseText& source, QString& unknown)
+{
+    OriginalVerse verse{{source.book, source.chapter, source.verse}, true, {}};
+    const QStringList items =
+        withoutMarks(source.text.value_or(QString())).split(u' ', Qt::SkipEmptyParts);
+    for (const QString& item : items) {
+        const FontCodes codes = greekToCodes(item);
+        noteUnknown(codes.unknown, unknown);
+        OriginalWord word;
+        word.divided = codes.codes;
+        if (!word.divided.isEmpty())
+            verse.words.push_back(std::move(word));
+    }
+    return verse;
+}
+
+// The last verses of two chapters tell how a source counts there.
+WordPlace placesOf(const VersionText& version)
+{
+    constexpr VersePlace kLastOfCorinthians{46, 13, 14};
+    constexpr VersePlace kLastOfThirdJohn{63, 1, 15};
+    const auto has = [&version](const VersePlace& place) {
+        return std::ranges::any_of(version.verses, [&place](const VerseText& verse) {
+            return place == VersePlace{verse.book, verse.chapter, verse.verse};
+        });
+    };
+    const bool movesCorinthians = has(kLastOfCorinthians);
+    const bool dividesJohn = !has(kLastOfThirdJohn);
+    return [=](const VersePlace& verse, int word) {
+        const bool counts = (verse.book == kLastOfCorinthians.book && !movesCorinthians) ||
+                            (verse.book == kLastOfThirdJohn.book && !dividesJohn);
+        return counts ? verse : koreanPlace(verse, word);
+    };
 }
 
 VersionText versionOf(const OriginalText& text)
@@ -128,9 +181,20 @@ VersionResult byzantineVersion(const QStringList& files)
     }
     VersionText version = versionOf(regrouped(std::move(text), koreanPlace));
     if (!unknown.isEmpty())
-        version.remarks << u"글꼴 코드가 없어 뺀 글자: %1"_s.arg(unknown);
+        version.remarks << unknownRemark(unknown);
     Mending::romansDoxology(version);
     return version;
+}
+
+void encodeGreek(VersionText& version)
+{
+    OriginalText text;
+    QString unknown;
+    for (const VerseText& verse : version.verses)
+        text.push_back(encodedVerse(verse, unknown));
+    version.verses = versionOf(regrouped(std::move(text), placesOf(version))).verses;
+    if (!unknown.isEmpty())
+        version.remarks << unknownRemark(unknown);
 }
 
 bool looksLikeByzantine(const QString& file)

@@ -24,6 +24,10 @@ VersionResult receivedGreekVersion(OriginalCorpus& corpus);
 /// The Byzantine text out of the user's tables: chapter, verse, words with number and tag.
 VersionResult byzantineVersion(const QStringList& files);
 
+/// A Greek text of another source in the codes of its font, without accents, under the keys. Verses
+/// that the keys join or divide are left alone where the source has them as the keys do.
+void encodeGreek(VersionText& version);
+
 /// True for a table of that shape: a book's name, and the three columns.
 bool looksLikeByzantine(const QString& file);
 

@@ -3,6 +3,7 @@
 #include "build/build_run.h"
 #include "build/reference_builder.h"
 #include "modules/original/mini_sources.h"
+#include "original/original_versions.h"
 #include "text/field_scramble.h"
 
 #include <gtest/gtest.h>
@@ -243,6 +244,8 @@ TEST(OriginalPlan, FindsTheUsersFiles)
     files.write(u"user/krv/Ruth.json"_s,
                 u"{\"book\": \"Ruth\", \"chapters\": [{\"chapter\": 1, \"verses\": "
                 "[{\"verse\": 1, \"text\": \"a\"}]}]}"_s);
+    files.write(u"user/306/a.xml"_s, u"<osis/>"_s);
+    files.write(u"user/310/a.xml"_s, u"<osis/>"_s);
     BuildOptions options;
     options.sourceFolder = files.path(u"user"_s);
     const auto plan = planBuild(options, {});
@@ -250,6 +253,16 @@ TEST(OriginalPlan, FindsTheUsersFiles)
     EXPECT_EQ(plan.value().corpus->sources().byzantineFiles,
               QStringList{files.path(u"user/greek/MAT.csv"_s)});
     EXPECT_EQ(plan.value().corpus->sources().koreanFiles.size(), 1);
+    const auto& tasks = plan.value().tasks;
+    const auto received = std::ranges::find(tasks, 306, &ModuleTask::code);
+    ASSERT_NE(received, tasks.end());
+    EXPECT_EQ(received->numbering, Numbering::Korean);
+    EXPECT_EQ(received->mends.back(), encodeGreek);
+    // A text of another shape must not take the place of the Byzantine one.
+    const auto byzantine = std::ranges::find(tasks, 310, &ModuleTask::code);
+    ASSERT_NE(byzantine, tasks.end());
+    EXPECT_TRUE(byzantine->reader);
+    EXPECT_TRUE(plan.value().remarks.join(u'\n').contains(u"310: "_s));
 }
 
 } // namespace

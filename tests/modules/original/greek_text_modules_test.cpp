@@ -27,6 +27,40 @@ TEST(ByzantineVersion, KeepsTheWordsAndTheKeys)
     EXPECT_EQ(wordsAt(version.value(), 44, 16, 25), u"tw"_s);
 }
 
+VerseText greekVerse(int book, int chapter, int verse, const QString& text)
+{
+    return {book, chapter, verse, text, std::nullopt, {}};
+}
+
+TEST(GreekText, OfTheUserHasCodesWithoutAccents)
+{
+    VersionText version;
+    version.verses = {greekVerse(42, 1, 1, u"Ἐν ἀρχῇ ἦν ὁ λόγος, καὶ…"_s),
+                      greekVerse(42, 1, 2, QString())};
+    encodeGreek(version);
+    EXPECT_EQ(wordsAt(version, 42, 1, 1), u"En arxh hn o logoj, kai"_s);
+    EXPECT_EQ(wordsAt(version, 42, 1, 2), u"<no row>"_s);
+    EXPECT_EQ(version.remarks, QStringList{u"글꼴 코드가 없어 뺀 글자: …"_s});
+}
+
+TEST(GreekText, IsMovedOnlyWhereItCountsAsEnglishBiblesDo)
+{
+    const QString words = u"α β γ δ ε ζ η θ ι κ λ μ"_s;
+    VersionText english;
+    english.verses = {greekVerse(46, 13, 13, u"α"_s), greekVerse(46, 13, 14, u"β"_s),
+                      greekVerse(63, 1, 14, words)};
+    encodeGreek(english);
+    EXPECT_EQ(wordsAt(english, 46, 13, 12), u"a"_s);
+    EXPECT_EQ(wordsAt(english, 63, 1, 15), u"l m"_s);
+    VersionText other;
+    other.verses = {greekVerse(46, 13, 13, u"α"_s), greekVerse(63, 1, 14, words),
+                    greekVerse(63, 1, 15, u"β"_s)};
+    encodeGreek(other);
+    EXPECT_EQ(wordsAt(other, 46, 13, 13), u"a"_s);
+    EXPECT_EQ(wordsAt(other, 63, 1, 14), u"a b g d e z h q i k l m"_s);
+    EXPECT_EQ(wordsAt(other, 63, 1, 15), u"b"_s);
+}
+
 TEST(ByzantineVersion, NamesTheLineThatItCannotRead)
 {
     const SourceFiles files;
