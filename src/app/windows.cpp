@@ -5,6 +5,7 @@
 #include "forms/reader_place.h"
 #include "platform/dialogs/modal.h"
 #include "search/search_window.h"
+#include "search/strong_list_window.h"
 #include "tools/about_window.h"
 #include "tools/extract_dialog.h"
 #include "tools/preferences_dialog.h"
@@ -63,8 +64,17 @@ void Windows::open(WindowId window)
     }
 }
 
+void Windows::openStrongList(const QString& language, const QString& number)
+{
+    if (!m_strongList)
+        m_strongList = std::make_unique<frm스트롱관주목록>(m_services, m_state, *m_reader);
+    m_strongList->FillBibleIndex(language, number);
+}
+
 bool Windows::closeAll()
 {
+    if (m_strongList && !m_strongList->close())
+        return false;
     return !m_search || m_search->close();
 }
 

@@ -11,6 +11,7 @@ namespace lumen {
 
 class ReaderPlace;
 class frm성서검색;
+class frm스트롱관주목록;
 struct AppState;
 struct Services;
 
@@ -25,6 +26,7 @@ public:
     /// The reader that the windows call back into; set once, before anything is opened.
     void setReader(ReaderPlace* reader) { m_reader = reader; }
     void open(WindowId window) override;
+    void openStrongList(const QString& language, const QString& number) override;
     /// Closes the tool windows; false when one refuses.
     bool closeAll();
 
@@ -33,6 +35,7 @@ private:
     AppState& m_state;
     ReaderPlace* m_reader = nullptr;
     std::unique_ptr<frm성서검색> m_search;
+    std::unique_ptr<frm스트롱관주목록> m_strongList;
 };
 
 } // namespace lumen

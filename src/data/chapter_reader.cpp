@@ -40,6 +40,11 @@ QString previewChapterQuery(const QString& table, int book, int chapter, int slo
            BibleCode::GetChapKey(book, chapter) + u"' order by VERSE"_s;
 }
 
+QString verseQuery(const QString& table, const QString& key)
+{
+    return u"select * from ["_s + table + u"] where index = '"_s + key + u"'"_s;
+}
+
 QList<VerseRow> readVerses(DataControl& control, const QString& databaseName, const QString& query)
 {
     control.DatabaseName = databaseName;

@@ -30,6 +30,9 @@ QString chapterQuery(const QString& table, int book, int chapter, int slot);
 /// The same chapter as the print preview asks for it.
 QString previewChapterQuery(const QString& table, int book, int chapter, int slot);
 
+/// The query of a single verse by its VerseIndex.
+QString verseQuery(const QString& table, const QString& key);
+
 /// Points a data control at a version's module and reads a query; throws JetError.
 QList<VerseRow> readVerses(DataControl& control, const QString& databaseName, const QString& query);
 /// The rows of an open recordset from its first to its last; it is left on the first one.

@@ -111,7 +111,7 @@ struct ExtractSettings
     int BookNum = 0;
     int ChapNum = 0;
     int SVerse = 0;
-    int EVerse = 0;
+    int EVerse = -1; ///< -1: the last verse of the chapter
     bool AtchVerNum = false;
     bool VerLf = false;
     bool ToClip = true;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <QString>
+
 namespace lumen {
 
 /// The windows that others may ask for.
@@ -12,6 +14,8 @@ class WindowOpener
 public:
     virtual ~WindowOpener() = default;
     virtual void open(WindowId window) = 0;
+    /// Lists the verses in which a Strong's number occurs; the language is "히브리어" or "헬라어".
+    virtual void openStrongList(const QString& language, const QString& number) = 0;
 };
 
 } // namespace lumen

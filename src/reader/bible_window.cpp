@@ -8,6 +8,7 @@
 #include "forms/tool_icons.h"
 #include "forms/window_opener.h"
 #include "panel/cross_references.h"
+#include "panel/word_analysis_tab.h"
 #include "platform/controls/twips.h"
 #include "reader/personal_notes_tab.h"
 #include "reader/reader_tools.h"
@@ -168,6 +169,12 @@ void frm성서::wirePanes()
     panel->addTab(std::move(notes));
     panel->addTab(std::make_unique<CrossReferences>(
         m_services, m_state, *this, m_dacRefTab, [this] { return m_slots.dacBasis().Database(); }));
+    auto words = std::make_unique<WordAnalysisTab>(m_services, m_state, *this, m_dacRefTab);
+    words->onStrongList = [this](const QString& language, const QString& number) {
+        m_windows.openStrongList(language, number);
+    };
+    words->popUpEditMenu = [this] { atbar.popUp(u"ID_편집"); };
+    panel->addTab(std::move(words));
     panel->onStatus = [this](const QString& text) { statusPanel1->setText(text); };
     panel->onLayout = [this] { layOutPanel(); };
     m_split->onMoved = [this] {

@@ -104,6 +104,14 @@ private:
     /// Holds fills back while several combos change; one fill runs at its end if any was asked for.
     class FillHold;
 
+    /// What the last fill has put on show.
+    struct ShownChapter
+    {
+        int book = -1; ///< -1 before the first fill
+        int chapter = 0;
+        ViewMode mode = ViewMode::Text;
+    };
+
     void layOut();
     void layOutPanel();
     void addGeneratedTools();
@@ -133,6 +141,8 @@ private:
     void chooseVersion(int slot);
     void setViewMode(ViewMode mode);
     void showViewMode();
+    QWidget& shownView() const;
+    void turnPane(const QWidget& pane, const std::function<void()>& turn);
     void setLineSpacing(int percent);
     void setFontSize(int step);
     void applyColors();
@@ -142,9 +152,12 @@ private:
     void copySelection(OriginalText originals);
     bool copiesVerses() const;
     void bringEditToolsUpToDate();
+    void enableEditTools();
     void runEdit(EditCommand command);
 
     void fillChapter();
+    int verseToKeep() const;
+    void keepVerse(int verse);
     ChapterStyle chapterStyle();
     void fillTextView(const std::vector<ChapterSource>& sources);
     void fillTableView(const std::vector<ChapterSource>& sources);
@@ -172,10 +185,12 @@ private:
     bool m_loading = false;
     int m_fillHolds = 0;
     bool m_fillWanted = false;
-    int m_askedVerse = 0; ///< the verse that the next fill selects; 0 for none
+    ShownChapter m_shown;
     bool m_shownOnce = false;
     bool m_isMinimized = false; ///< follows the window's state once the notes are saved
     bool m_closeRefused = false;
+    QStringList m_storedBookmarks;   ///< as the file holds them
+    bool m_bookmarksRefused = false; ///< the user knows that they can't be stored
     bool m_unloaded = false;
 };
 

@@ -134,6 +134,9 @@ void frm성서::Proc이동(QString& reference)
     Proc절선택표시(shown);
     quickMove->remember(reference,
                         u"%1%2:%3"_s.arg(bookAbbreviation(book())).arg(chapter()).arg(shown));
+    // Whoever has typed a place wants to read, mark and copy there.
+    if (quickMove->isTyping())
+        shownView().setFocus();
 }
 
 void frm성서::goTo(int book, int chapter, int verse)
@@ -183,11 +186,30 @@ void frm성서::FillBibleText()
 void frm성서::fillChapter()
 {
     const WaitPointer wait;
+    const int kept = verseToKeep();
     m_chapter = m_slots.readChapter(book(), chapter());
     if (m_settings.ViewMode == ViewMode::Text)
         fillTextView(m_chapter);
     else
         fillTableView(m_chapter);
+    keepVerse(kept);
+    m_shown = {book(), chapter(), m_settings.ViewMode};
+}
+
+int frm성서::verseToKeep() const
+{
+    // The same chapter comes in another look: the reader stays at his verse.
+    if (m_shown.book != book() || m_shown.chapter != chapter())
+        return 0;
+    return m_shown.mode == ViewMode::Text ? m_textView.currentVerse() : m_tableView.currentVerse();
+}
+
+void frm성서::keepVerse(int verse)
+{
+    if (m_settings.ViewMode == ViewMode::Table)
+        m_tableView.selectVerse(verse);
+    else if (verse > 1) // the first one is where the caret stands already
+        m_textView.selectVerse(verse);
 }
 
 QString frm성서::divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf)

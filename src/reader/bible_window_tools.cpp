@@ -14,6 +14,7 @@
 #include "reader/messages.h"
 #include "reader/reader_tools.h"
 
+#include <QMenu>
 #include <QToolBar>
 
 using namespace Qt::StringLiterals;
@@ -59,6 +60,9 @@ void frm성서::addGeneratedTools()
                    isOld ? reader_bar::kMove1 : reader_bar::kMove2});
         atbar.tool(button).action()->setToolTip(name);
     }
+    // All books of a testament fit into the smallest window.
+    atbar.packButtons(reader_bar::kMove1);
+    atbar.packButtons(reader_bar::kMove2);
 }
 
 ComboBox& frm성서::versionCombo(int slot) const
@@ -85,6 +89,9 @@ void frm성서::bindTools()
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_종료", [this] { close(); });
     m_tools.on(u"ID_편집", [this] { bringEditToolsUpToDate(); });
+    // The menu alone shows what the focused control takes: a tool that stayed disabled behind it
+    // would be dead on its bar and by its key.
+    connect(atbar.menu(u"ID_편집"), &QMenu::aboutToHide, this, [this] { enableEditTools(); });
     m_tools.on(u"ID_잘라내기", [this] { runEdit(EditCommand::Cut); });
     m_tools.on(u"ID_복사", [this] { runEdit(EditCommand::Copy); });
     m_tools.on(u"ID_UnicodeCopy", [this] { copySelection(OriginalText::Unicode); });
@@ -118,10 +125,10 @@ void frm성서::bindViewTools()
         setBarVisible(u"ID_성서이동도구모음", !atbar.barVisible(reader_bar::kMove1));
     });
     m_tools.on(u"ID_SidePane", [this] {
-        m_sidePane->setVisible(m_sidePane->isHidden());
+        turnPane(*m_sidePane, [this] { m_sidePane->setVisible(m_sidePane->isHidden()); });
         atbar.tool(u"ID_SidePane").setChecked(!m_sidePane->isHidden());
     });
-    m_tools.on(u"ID_Panel", [this] { panel->toggle(); });
+    m_tools.on(u"ID_Panel", [this] { turnPane(*panel, [this] { panel->toggle(); }); });
     m_tools.onNumbered(u"ID_PanelTab", [this](int tab) { panel->showTab(tab); });
     m_tools.on(u"ID_텍스트형식", [this] { setViewMode(ViewMode::Text); });
     m_tools.on(u"ID_테이블형식", [this] { setViewMode(ViewMode::Table); });
@@ -144,6 +151,7 @@ void frm성서::bindMoveTools()
         atbar.tool(u"ID_SidePane").setChecked(true);
         quickMove->startTyping();
     });
+    m_tools.on(u"ID_ToText", [this] { shownView().setFocus(); });
     m_tools.on(u"ID_AddBookmark", [this] { bookmarks->cmd책갈피추가_Click(); });
     m_tools.onNumbered(u"ID_성서책",
                        [this](int book) { toolCombo(u"ID_cb책명").setListIndex(book); });
@@ -210,9 +218,26 @@ void frm성서::setBarVisible(QStringView barTool, bool visible)
 
 void frm성서::setViewMode(ViewMode mode)
 {
+    const bool atText = focusWidget() == &shownView();
     m_settings.ViewMode = mode;
     showViewMode();
+    if (atText)
+        shownView().setFocus();
     FillBibleText();
+}
+
+void frm성서::turnPane(const QWidget& pane, const std::function<void()>& turn)
+{
+    const QWidget* const focused = focusWidget();
+    const bool within = focused != nullptr && pane.isAncestorOf(focused);
+    turn();
+    if (within && !focused->isVisibleTo(this))
+        shownView().setFocus();
+}
+
+QWidget& frm성서::shownView() const
+{
+    return m_settings.ViewMode == ViewMode::Text ? static_cast<QWidget&>(*txCont) : *hflex본문;
 }
 
 void frm성서::showViewMode()
@@ -299,8 +324,17 @@ bool frm성서::copiesVerses() const
 
 void frm성서::bringEditToolsUpToDate()
 {
-    showEditState(atbar, editStateOf(editTarget(*this)));
-    atbar.tool(u"ID_UnicodeCopy").setEnabled(copiesVerses());
+    EditState state = editStateOf(editTarget(*this));
+    if (copiesVerses())
+        state.copy = state.selectAll; // without a selection the current verse is copied
+    showEditState(atbar, state);
+    atbar.tool(u"ID_UnicodeCopy").setEnabled(copiesVerses() && state.copy);
+}
+
+void frm성서::enableEditTools()
+{
+    showEditState(atbar, {true, true, true, true, true});
+    atbar.tool(u"ID_UnicodeCopy").setEnabled(true);
 }
 
 void frm성서::runEdit(EditCommand command)

@@ -19,6 +19,9 @@ inline constexpr MessageText kNotePlaceTaken{
     u"추가 불능", u"동일한 장절에 대한 개인 주석이 이미 존재합니다.", 48};
 inline constexpr MessageText kDeleteNote{u"삭제 확인", u"현재의 개인 주석을 삭제하시겠습니까?", 49};
 
+inline constexpr MessageText kBookmarksNotSaved{
+    u"책갈피 저장 실패", u"책갈피를 저장할 수 없습니다. 저장할 디스크를 확인하시기 바랍니다.", 48};
+
 /// %1 is the file.
 inline constexpr MessageText kPageMissing{u"파일 없음", u"파일을 열 수 없습니다.\r\n%1", 48};
 

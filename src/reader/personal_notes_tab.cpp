@@ -9,7 +9,6 @@
 #include "platform/dialogs/message_boxes.h"
 #include "reader/messages.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPalette>
 #include <QShortcut>
@@ -63,19 +62,20 @@ PersonalNotesTab::PersonalNotesTab(Services& services, const AppState& state,
 
 void PersonalNotesTab::layOut()
 {
+    // One below the other: the panel is high, and narrow in a small window.
     auto* place = new QHBoxLayout;
     place->addWidget(lbl개인주석책장);
     place->addWidget(tx개인주석절범위, 1);
-    auto* buttons = new QGridLayout;
-    buttons->addWidget(cmd개인주석추가, 0, 0);
-    buttons->addWidget(cmd개인주석삭제, 0, 1);
-    buttons->addWidget(cmd개인주석위로, 1, 0);
-    buttons->addWidget(cmd개인주석아래로, 1, 1);
-    auto* list = new QVBoxLayout;
-    list->addLayout(place);
+    auto* buttons = new QVBoxLayout;
+    for (QPushButton* button :
+         {cmd개인주석추가, cmd개인주석삭제, cmd개인주석위로, cmd개인주석아래로})
+        buttons->addWidget(button);
+    buttons->addStretch();
+    auto* list = new QHBoxLayout;
     list->addWidget(flex개인주석목록, 1);
     list->addLayout(buttons);
-    auto* layout = new QHBoxLayout(m_page);
+    auto* layout = new QVBoxLayout(m_page);
+    layout->addLayout(place);
     layout->addLayout(list, 1);
     layout->addWidget(tx개인주석본문, 2);
 }

@@ -44,6 +44,12 @@ void QuickMovePane::startTyping()
     tx즉석이동->selectAll();
 }
 
+bool QuickMovePane::isTyping() const
+{
+    const QWidget* const focused = window()->focusWidget();
+    return focused == tx즉석이동 || focused == cmd즉석이동;
+}
+
 void QuickMovePane::moveToTyped()
 {
     QString reference = tx즉석이동->text();

@@ -25,6 +25,8 @@ public:
     const QStringList& history() const { return m_history.entries(); }
     /// Puts the focus into the box, its text selected.
     void startTyping();
+    /// Whether the focus is where a reference is typed.
+    bool isTyping() const;
 
     /// Goes to a reference, typed or of the history; the text may be changed on the way.
     std::function<void(QString& reference)> onMove;

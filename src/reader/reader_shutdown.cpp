@@ -2,8 +2,10 @@
 #include "data/compact_and_backup.h"
 #include "forms/form_geometry.h"
 #include "forms/guarded.h"
+#include "platform/dialogs/message_boxes.h"
 #include "platform/registry/registry_store.h"
 #include "reader/bible_window.h"
+#include "reader/messages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,8 +29,16 @@ bool frm성서::Form_Unload()
 
 void frm성서::Save책갈피()
 {
-    ignoreFailure(m_bookmarkFile.save(bookmarks->references()),
-                  "a full disc must not keep the program from ending");
+    const QStringList& references = bookmarks->references();
+    if (m_bookmarkFile.save(references)) {
+        m_storedBookmarks = references;
+        return;
+    }
+    // A list that is as it was read has nothing to lose.
+    if (references == m_storedBookmarks || m_bookmarksRefused)
+        return;
+    m_bookmarksRefused = true;
+    m_services.messages.show(this, messages::kBookmarksNotSaved);
 }
 
 void frm성서::SaveBibleSettings()

@@ -92,7 +92,7 @@ void frm성서::Load책갈피()
 {
     const Result<QStringList> references = m_bookmarkFile.load();
     if (references)
-        bookmarks->setReferences(references.value());
+        bookmarks->setReferences(m_storedBookmarks = references.value());
     else
         logIgnoredFailure(references.failure(), "the list of bookmarks starts empty then");
 }

@@ -62,6 +62,7 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_이전장", u"이전 장(&P)", ToolKind::Button, u"ID_Move", u"Ctrl+Left"},
     ToolRow{u"ID_다음장", u"다음 장(&N)", ToolKind::Button, u"ID_Move", u"Ctrl+Right"},
     ToolRow{u"ID_QuickMove", u"즉석 이동(&G)", ToolKind::Button, u"ID_Move", u"Ctrl+G"},
+    ToolRow{u"ID_ToText", u"본문으로(&X)", ToolKind::Button, u"ID_Move", u"Ctrl+T"},
     ToolRow{u"ID_AddBookmark", u"책갈피 추가(&B)", ToolKind::Button, u"ID_Move", u"Ctrl+D"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_Move"},
     ToolRow{u"ID_OldTestament", u"구약(&O)", ToolKind::Menu, u"ID_Move"},

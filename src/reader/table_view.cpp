@@ -212,15 +212,14 @@ std::vector<SelectedVerse> TableView::selectedVerses(const std::vector<ChapterSo
 
 void TableView::selectVerse(int verse)
 {
-    for (std::size_t row = 1; row < m_verseOfRow.size(); ++row) {
-        if (m_verseOfRow[row] != verse)
-            continue;
-        const int found = static_cast<int>(row);
-        m_grid.setRow(found);
-        m_grid.setTopRow(found);
-        markRow(found);
+    const auto place = std::find(m_verseOfRow.begin(), m_verseOfRow.end(), verse);
+    if (verse < 1 || place == m_verseOfRow.end())
         return;
-    }
+    const int row = static_cast<int>(place - m_verseOfRow.begin());
+    m_grid.setRow(row);
+    const bool hasHeading = row > 1 && m_verseOfRow[static_cast<std::size_t>(row - 1)] == 0;
+    m_grid.setTopRow(hasHeading ? row - 1 : row);
+    markRow(row);
 }
 
 } // namespace lumen

@@ -47,7 +47,8 @@ public:
     /// The verses of the selected rows in all columns, without the rows' headings.
     std::vector<SelectedVerse> selectedVerses(const std::vector<ChapterSource>& sources,
                                               bool withPart) const;
-    /// Marks and selects a verse and scrolls to it; a verse that is not there changes nothing.
+    /// Marks and selects a verse and scrolls to it and its heading; a verse that is not there
+    /// changes nothing.
     void selectVerse(int verse);
     /// Moves the mark to a row; rows outside the verses change nothing.
     void markRow(int row);

@@ -6,6 +6,7 @@
 #include "data/module_path.h"
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
+#include "panel/word_analysis.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/dialogs/progress_dialog.h"
 #include "platform/files/file_system.h"
@@ -15,6 +16,8 @@
 #include "text/basic_text.h"
 #include "text/field_scramble.h"
 #include "text/query_literal.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -36,11 +39,21 @@ OriginalTab::OriginalTab(Services& services, const AppState& state, QWidget& win
                          ParsingPanel& panel, ParsingResults& results, BibleSearch& lookUps)
     : m_services(services), m_state(state), m_window(window), m_panel(panel), m_results(results),
       m_lookUps(lookUps), m_tables(services.jet, services.files, state.AppPath),
-      m_search(lookUps, m_tables, [this](QStringView module) { return modulePath(module); })
+      m_search(lookUps, m_tables, [this](QStringView module) { return modulePath(module); }),
+      m_words(std::make_unique<WordAnalysis>(
+          services, state,
+          WordAnalysisHost{
+              .grid = *results.flexParsing,
+              .txParsing = *results.txParsing,
+              .dictionary = *results.txStrongDic,
+              .marksWord = [this](const QString& number) { return wasSearched(number); },
+              .popUpEditMenu = [this] { onEditMenu(); }}))
 {
     m_results.lstResult->onClick = [this] { lstResult_Click(); };
     m_results.lstResult->onDblClick = [this] { onOpenVerse(m_results.lstResult->Text()); };
 }
+
+OriginalTab::~OriginalTab() = default;
 
 void OriginalTab::Form_Load()
 {
@@ -60,6 +73,7 @@ void OriginalTab::open()
 
 void OriginalTab::Form_Unload()
 {
+    m_words->entry().close();
     m_tables.cleanUp();
     m_fresh = false;
 }
@@ -163,6 +177,7 @@ void OriginalTab::Proc파싱검색결과채우기()
 
 void OriginalTab::clearVerse()
 {
+    m_words->forget();
     m_results.flexParsing->Clear();
     m_results.flexParsing->setRows(kEmptyRows);
     m_results.flexParsing->setCols(kEmptyCols);
@@ -189,6 +204,15 @@ void OriginalTab::showWords(const QString& key)
     m_lookUps.setModule(modulePath(kAnalysisModule));
     m_lookUps.query(u"select * from 원전분해 where index like '"_s + EscapeLikeText(key, true) +
                     u"'"_s);
+    Recordset& rows = *m_lookUps.dacSearch.Recordset();
+    if (rows.RecordCount() > 0)
+        m_words->Proc원전분해결과채우기(rows, testamentOf(key.left(2).toInt() - 1));
+}
+
+bool OriginalTab::wasSearched(const QString& strongNumber) const
+{
+    return !strongNumber.isEmpty() &&
+           std::ranges::find(m_strongNumbers, strongNumber) != m_strongNumbers.end();
 }
 
 void OriginalTab::showKoreanVerse(const QString& key)

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 class QWidget;
 
@@ -18,6 +19,7 @@ namespace lumen {
 
 class ParsingPanel;
 class ParsingResults;
+class WordAnalysis;
 
 /// The third tab of the search window at work: it asks the question that its controls hold, lists
 /// the verses and shows the chosen one with its words.
@@ -28,6 +30,7 @@ public:
     /// one searches or shows a verse.
     OriginalTab(Services& services, const AppState& state, QWidget& window, ParsingPanel& panel,
                 ParsingResults& results, BibleSearch& lookUps);
+    ~OriginalTab();
 
     /// The window has been loaded afresh.
     void Form_Load();
@@ -44,6 +47,8 @@ public:
     std::function<void()> onAnalysisLost;
     /// The user wants to read a verse, told by its short reference.
     std::function<void(const QString& reference)> onOpenVerse;
+    /// The right button was used on the grid of words.
+    std::function<void()> onEditMenu;
 
 private:
     bool isComplete(const OriginalQuestion& question);
@@ -53,6 +58,7 @@ private:
     void search(const OriginalQuestion& question);
     void Proc파싱검색결과채우기();
     void clearVerse();
+    bool wasSearched(const QString& strongNumber) const;
     void lstResult_Click();
     void showWords(const QString& key);
     void showKoreanVerse(const QString& key);
@@ -65,6 +71,7 @@ private:
     BibleSearch& m_lookUps;
     ScratchTables m_tables;
     OriginalSearch m_search;
+    std::unique_ptr<WordAnalysis> m_words;
     QString m_root; ///< AppPath or the CD drive, whichever holds the word analysis
     QStringList m_keys;
     std::array<QString, kConditionCount> m_strongNumbers; ///< those of the root conditions

@@ -132,10 +132,22 @@ void ParsingPanel::cbType_Click(int condition)
     showFont(condition);
 }
 
+std::optional<bool> ParsingPanel::takesHebrew(const QLineEdit& box) const
+{
+    for (int condition = 0; condition < kConditionCount; ++condition)
+        if (txHGSearch(condition) == &box)
+            return isHebrew() && !isStrongNumber(condition);
+    return std::nullopt;
+}
+
+bool ParsingPanel::isStrongNumber(int condition) const
+{
+    return cbType(condition)->ListIndex() == static_cast<int>(ConditionKind::Strong);
+}
+
 void ParsingPanel::showFont(int condition)
 {
-    const bool strongNumber =
-        cbType(condition)->ListIndex() == static_cast<int>(ConditionKind::Strong);
+    const bool strongNumber = isStrongNumber(condition);
     const bool rightAligned = !strongNumber && isHebrew();
     txHGSearch(condition)->setFont(conditionFont(strongNumber, isHebrew()));
     txHGSearch(condition)->setAlignment((rightAligned ? Qt::AlignRight : Qt::AlignLeft) |

@@ -16,6 +16,7 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
 
 namespace lumen {
 
@@ -28,6 +29,8 @@ public:
     /// Fills the kinds and conjunctions anew, chooses the first of each and empties the boxes.
     void reset();
     bool isHebrew() const { return cbParVer->ListIndex() != 1; }
+    /// Whether what is typed into a condition's box is Hebrew; nothing for all other boxes.
+    std::optional<bool> takesHebrew(const QLineEdit& box) const;
     /// The conditions as they stand; the scope is left open.
     OriginalQuestion question() const;
     /// Gives a condition its parsing code and shows the phrases of it; "" takes the code away.
@@ -52,6 +55,7 @@ public:
 
 private:
     QWidget* conditionPage(int condition);
+    bool isStrongNumber(int condition) const;
     void showFont(int condition);
 
     std::array<QString, kConditionCount> m_patterns; ///< the codes behind the phrases

@@ -31,6 +31,20 @@ CellStyle cellStyle(const QString& family, int points, GridAlign align)
     return style;
 }
 
+QList<ResultVerse> versesOfPage(Recordset& result, int page)
+{
+    QList<ResultVerse> verses;
+    result.MoveFirst();
+    if (page != 0)
+        result.setAbsolutePosition(ResultPages(result.RecordCount()).firstRecord(page));
+    while (verses.size() < ResultPages::kRowsPerPage && !result.Eof()) {
+        verses << ResultVerse{BibleCode::IndexToRef(Text(result.Fields(u"Index"))),
+                              DES::UnscrambleField(Text(result.Fields(u"cont")))};
+        result.MoveNext();
+    }
+    return verses;
+}
+
 } // namespace
 
 ResultGrid::ResultGrid(FlexGrid& grid, HebrewDivision divide)
@@ -52,9 +66,15 @@ void ResultGrid::clear()
 
 void ResultGrid::showPage(Recordset& result, int page, int code, const FontSettings& fonts)
 {
+    showVerses(versesOfPage(result, page), code, fonts);
+}
+
+void ResultGrid::showVerses(const QList<ResultVerse>& verses, int code, const FontSettings& fonts)
+{
     const RedrawHold hold(m_grid);
     clear();
-    fillRows(result, page, code);
+    for (const ResultVerse& verse : verses)
+        m_grid.AddItem({verse.reference, cellText(verse.text, code)});
     const VersionFont font = GetVersionFontEx(code, fonts);
     constexpr int kRightCentre = 7;
     m_grid.setColStyle(kReferenceColumn, cellStyle(u"굴림"_s, kTextPoints, GridAlign::Left));
@@ -62,19 +82,6 @@ void ResultGrid::showPage(Recordset& result, int page, int code, const FontSetti
     m_grid.setColStyle(kTextColumn,
                        cellStyle(font.font, scaledSize(font.factor, kTextPoints), align));
     m_grid.AutoSize();
-}
-
-void ResultGrid::fillRows(Recordset& result, int page, int code)
-{
-    result.MoveFirst();
-    if (page != 0)
-        result.setAbsolutePosition(ResultPages(result.RecordCount()).firstRecord(page));
-    for (int row = 1; row <= ResultPages::kRowsPerPage && !result.Eof(); ++row) {
-        const QString cont = DES::UnscrambleField(Text(result.Fields(u"cont")));
-        m_grid.AddItem(
-            {BibleCode::IndexToRef(Text(result.Fields(u"Index"))), cellText(cont, code)});
-        result.MoveNext();
-    }
 }
 
 QString ResultGrid::cellText(const QString& cont, int code) const

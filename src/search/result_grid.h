@@ -3,6 +3,7 @@
 
 #include "data/version_font.h"
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -17,7 +18,14 @@ class Recordset;
 using HebrewDivision = std::function<QString(const QString& text, const QString& font,
                                              int halfPoints, int widthTwips)>;
 
-/// Fills the result grid with one page of an open result: short reference and verse text.
+/// A verse of a result, readable.
+struct ResultVerse
+{
+    QString reference;
+    QString text; ///< as its module holds it, Hebrew not yet divided
+};
+
+/// Fills a result grid with one page of verses: short reference and text.
 class ResultGrid
 {
 public:
@@ -29,11 +37,12 @@ public:
     /// Shows 50 records from those of `page` (zero-based) on, in the font of the version `code`. A
     /// page beyond the end shows no row. Painting is held back meanwhile.
     void showPage(Recordset& result, int page, int code, const FontSettings& fonts);
+    /// The same with verses that were read before.
+    void showVerses(const QList<ResultVerse>& verses, int code, const FontSettings& fonts);
     /// Leaves the header alone.
     void clear();
 
 private:
-    void fillRows(Recordset& result, int page, int code);
     QString cellText(const QString& cont, int code) const;
 
     FlexGrid& m_grid;

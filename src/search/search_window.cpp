@@ -168,6 +168,7 @@ void frm성서검색::wireSearches()
     }
     m_original.onState = [this](const QString& text) { statusPanel2->setText(text); };
     m_original.onAnalysisLost = [this] { easy->cb역본->setListIndex(0); };
+    m_original.onEditMenu = [this] { atbar.popUp(u"ID_편집"); };
     m_original.onOpenVerse = [this](const QString& reference) { openVerse(reference); };
     sstSearch->onTabClick = [this](int tab, int) {
         if (!m_loading)
@@ -204,11 +205,10 @@ void frm성서검색::wireResults()
     hflex결과->onEnter = [this, openRow] { openRow(hflex결과->Row()); };
     hflex결과->onCopy = [this] { edit(EditCommand::Copy); };
     hflex결과->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
-    for (FlexGrid* grid : {hflex결과, parsingResults.flexParsing})
-        grid->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {
-            if (button == Qt::RightButton)
-                atbar.popUp(u"ID_편집");
-        };
+    hflex결과->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {
+        if (button == Qt::RightButton)
+            atbar.popUp(u"ID_편집");
+    };
     hflex결과->highlight = [this](int row, int col, const QString& text) {
         const bool marked = m_settings.MarkHits && row > 0 && col == ResultGrid::kTextColumn;
         return marked ? m_foundWords.ranges(text) : QList<TextRange>();
@@ -286,8 +286,16 @@ bool frm성서검색::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyRelease)
         if (auto* box = qobject_cast<QLineEdit*>(watched))
-            stepBackAfterTyping(*box, *static_cast<QKeyEvent*>(event), easy->cb역본->Text());
+            stepBackAfterTyping(*box, *static_cast<QKeyEvent*>(event), typedVersion(*box));
     return QMainWindow::eventFilter(watched, event);
+}
+
+QString frm성서검색::typedVersion(const QLineEdit& box) const
+{
+    // The conditions have a language of their own, whatever version the other tabs search.
+    if (const auto hebrew = parsing->takesHebrew(box))
+        return *hebrew ? u"BHS"_s : QString();
+    return easy->cb역본->Text();
 }
 
 void frm성서검색::atbar_event9(const QString& toolId)

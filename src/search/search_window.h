@@ -73,6 +73,7 @@ private:
     void wirePages();
     void wireResults();
     void wireTextBox(QLineEdit& box);
+    QString typedVersion(const QLineEdit& box) const;
     void Form_Unload();
     void Form_Resize();
     void Proc성서검색창버전설정();

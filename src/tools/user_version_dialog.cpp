@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kKoreanSlots = 5;
+constexpr int kShownFontName = 14; // letters
 
 constexpr std::array kSizes{u"8",  u"9",  u"10", u"11", u"12", u"14", u"16", u"18",
                             u"20", u"22", u"24", u"26", u"28", u"36", u"48", u"72"};
@@ -69,6 +70,9 @@ void dlogUserVersionPref::fillLists()
     const FontSettings defaults = defaultFontSettings();
     for (int index = 0; index < kUserVersionCount; ++index) {
         const int slot = index + 1;
+        // The longest name of all fonts would make the dialog wider than a small screen.
+        cbFont(index)->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        cbFont(index)->setMinimumContentsLength(kShownFontName);
         cbFont(index)->setAccessibleName(slotCaption(slot) + u" 서체"_s);
         cbSize(index)->setAccessibleName(slotCaption(slot) + u" 크기"_s);
         for (const QString& family : families)

@@ -139,8 +139,9 @@ void VerseRangeDialog::Form_Load()
         // Each list is filled by the choice before it, so the order is that of the controls.
         cb책명->setListIndex(std::clamp(m_settings.BookNum, 0, cb책명->ListCount() - 1));
         cb장->setListIndex(m_settings.ChapNum);
-        cb시작절->setListIndex(m_settings.SVerse);
-        cb끝절->setListIndex(m_settings.EVerse);
+        cb시작절->setListIndex(std::max(0, m_settings.SVerse));
+        if (m_settings.EVerse >= 0) // else the last one, which stands there already
+            cb끝절->setListIndex(m_settings.EVerse);
     });
     adjustSize();
     restorePosition(m_services.registry, geometry::kExtract, *this);

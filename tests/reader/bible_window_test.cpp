@@ -2,7 +2,10 @@
 #include "reader/reader_fixture.h"
 #include "reader/reader_tools.h"
 
+#include <QAbstractButton>
 #include <QDir>
+#include <QMenuBar>
+#include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -116,6 +119,36 @@ TEST_F(BibleWindowTest, TheMarkFollowsMouseAndKeys)
     EXPECT_EQ(reader->GetCurVerseRange(), u"4-5"_s);
     click(u"ID_다음장");
     EXPECT_EQ(place(), u"창세기 2장 1절"_s);
+}
+
+TEST_F(BibleWindowTest, AnotherLookKeepsTheVerse)
+{
+    start();
+    quickMove(u"요 3:4"_s);
+    for (const QStringView look :
+         {u"ID_글자크기5", u"ID_줄간격2배", u"ID_테이블형식", u"ID_글자크기2", u"ID_소주제표시",
+          u"ID_대역본1-201", u"ID_텍스트형식"}) {
+        click(look);
+        EXPECT_EQ(place(), u"요한복음 3장 4절"_s) << look.toString().toStdString();
+        EXPECT_TRUE(reader->focusWidget() == reader->txCont ||
+                    reader->focusWidget() == reader->hflex본문);
+    }
+    click(u"ID_다음장");
+    EXPECT_EQ(reader->GetCurVerse(), 1);
+}
+
+TEST_F(BibleWindowTest, AHeadingStaysInViewAboveItsVerse)
+{
+    start();
+    click(u"ID_테이블형식");
+    click(u"ID_글자크기5");
+    reader->resize(reader->width(), 300);
+    FlexGrid& grid = *reader->hflex본문;
+    ASSERT_GT(grid.verticalScrollBar()->maximum(), 0);
+    quickMove(u"창 1:1"_s);
+    EXPECT_EQ(grid.TextMatrix(grid.TopRow(), 2), u"『지어낸 첫째 제목』"_s);
+    click(u"ID_소주제표시");
+    EXPECT_EQ(place(), u"창세기 1장 1절"_s);
 }
 
 TEST_F(BibleWindowTest, HeadingsFollowTheirSwitchInBothViews)
@@ -314,6 +347,98 @@ TEST_F(BibleWindowTest, KeysBringTheTabsOfThePanelOnShow)
     EXPECT_TRUE(reader->atbar.tool(u"ID_Panel").checked());
     QTest::keyClick(reader->txCont, Qt::Key_F8);
     EXPECT_EQ(reader->panel->state(), PanelState::Collapsed);
+}
+
+TEST_F(BibleWindowTest, TheFocusGoesToTheTextWhenItsPlaceHasGone)
+{
+    start();
+    quickMove(u"창 1:2"_s);
+    EXPECT_EQ(reader->focusWidget(), reader->txCont) << "to read and copy there";
+    QTest::keyClick(reader->txCont, Qt::Key_G, Qt::ControlModifier);
+    EXPECT_EQ(reader->focusWidget(), reader->quickMove->tx즉석이동);
+    QTest::keyClick(reader->quickMove->tx즉석이동, Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(reader->focusWidget(), reader->txCont);
+
+    reader->bookmarks->lst책갈피->setFocus();
+    click(u"ID_SidePane");
+    EXPECT_EQ(reader->focusWidget(), reader->txCont);
+    click(u"ID_SidePane");
+    QTest::keyClick(reader->txCont, Qt::Key_7, Qt::AltModifier);
+    reader->findChild<QLineEdit*>(u"tx개인주석절범위"_s)->setFocus();
+    click(u"ID_Panel");
+    EXPECT_EQ(reader->focusWidget(), reader->txCont);
+}
+
+TEST_F(BibleWindowTest, EditToolsComeAliveAgainBehindTheirMenu)
+{
+    start();
+    reader->bookmarks->cmd책갈피추가->setFocus();
+    QMenu& edit = *reader->atbar.menu(u"ID_편집");
+    edit.popup(QPoint());
+    EXPECT_FALSE(reader->atbar.tool(u"ID_복사").enabled());
+    EXPECT_FALSE(reader->atbar.tool(u"ID_UnicodeCopy").enabled());
+    edit.hide();
+    reader->txCont->setFocus();
+    ASSERT_EQ(reader->txCont->SelLength(), 0);
+    edit.popup(QPoint());
+    EXPECT_TRUE(reader->atbar.tool(u"ID_복사").enabled()) << "the current verse";
+    EXPECT_TRUE(reader->atbar.tool(u"ID_전체선택").enabled());
+    EXPECT_FALSE(reader->atbar.tool(u"ID_잘라내기").enabled());
+    edit.hide();
+    QTest::keyClick(reader->txCont, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(services.clipboard.plainText().startsWith(u"1\t"_s));
+    EXPECT_TRUE(reader->atbar.tool(u"ID_복사").enabled());
+}
+
+TEST_F(BibleWindowTest, AllBooksStandOnTheirBarsInASmallWindow)
+{
+    start();
+    reader->resize(800, 533);
+    QApplication::processEvents();
+    for (const int book : {0, 38, 39, 65}) {
+        const QToolBar* const bar =
+            reader->atbar.bar(book < 39 ? reader_bar::kMove1 : reader_bar::kMove2);
+        QAction* const action = reader->atbar.tool(u"ID_%1"_s.arg(book)).action();
+        EXPECT_TRUE(bar->widgetForAction(action)->isVisible()) << book;
+    }
+}
+
+TEST_F(BibleWindowTest, NoAccessKeyStandsForTwoThingsInView)
+{
+    start();
+    QStringList inWindow;
+    for (const QAction* menu : reader->menuBar()->actions())
+        inWindow << QKeySequence::mnemonic(menu->text()).toString();
+    for (int tab = 0; tab < reader->panel->sst관주사전->count(); ++tab) {
+        reader->panel->showTab(tab);
+        QStringList keys = inWindow;
+        for (const auto* button : reader->findChildren<QAbstractButton*>())
+            if (button->isVisible() && qobject_cast<const QToolButton*>(button) == nullptr)
+                keys << QKeySequence::mnemonic(button->text()).toString();
+        keys.removeAll(QString());
+        EXPECT_EQ(keys.removeDuplicates(), 0) << tab << keys.join(u' ').toStdString();
+    }
+    for (const QMenu* menu : reader->findChildren<QMenu*>()) {
+        QStringList keys;
+        for (const QAction* action : menu->actions())
+            keys << QKeySequence::mnemonic(action->text()).toString();
+        keys.removeAll(QString());
+        EXPECT_EQ(keys.removeDuplicates(), 0) << menu->title().toStdString();
+    }
+}
+
+TEST_F(BibleWindowTest, BookmarksThatCannotBeStoredAreToldOnce)
+{
+    ASSERT_TRUE(QDir().mkpath(services.folders.data(u"bmk.bmf"_s))); // a folder in its place
+    start();
+    services.messages.expect(u"책갈피 저장 실패"_s,
+                             u"책갈피를 저장할 수 없습니다. 저장할 디스크를 확인하시기 바랍니다."_s,
+                             48);
+    click(u"ID_AddBookmark");
+    quickMove(u"창 1:2"_s);
+    click(u"ID_AddBookmark");
+    EXPECT_EQ(reader->bookmarks->references().size(), 2);
+    close();
 }
 
 TEST_F(BibleWindowTest, PagesAndHelpGoToTheDesktopAndMissingOnesAreTold)

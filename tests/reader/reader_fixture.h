@@ -21,7 +21,12 @@ class RecordingOpener : public WindowOpener
 {
 public:
     void open(WindowId window) override { opened.push_back(window); }
+    void openStrongList(const QString& language, const QString& number) override
+    {
+        strongLists << language + u' ' + number;
+    }
     std::vector<WindowId> opened;
+    QStringList strongLists;
 };
 
 class RecordingSplash : public StartupProgress

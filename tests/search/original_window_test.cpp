@@ -43,7 +43,7 @@ protected:
         if (kind == ConditionKind::Parsing)
             window->parsing->setPattern(condition, text);
         else
-            type(box(u"txHGSearch(%1)"_s.arg(condition)), text);
+            box(u"txHGSearch(%1)"_s.arg(condition)).setText(text);
     }
 
     void searchFor(ConditionKind kind, const QString& text)
@@ -159,6 +159,22 @@ TEST_F(OriginalWindowTest, FiveConditionsOfBothLanguagesAreReadFromTheirControls
         EXPECT_FALSE(listed().isEmpty());
         EXPECT_EQ(listed(), expected(question));
     }
+}
+
+TEST_F(OriginalWindowTest, TypedHebrewGrowsToTheLeftWhateverVersionTheOtherTabsSearch)
+{
+    openTab();
+    QLineEdit& word = box(u"txHGSearch(0)"_s);
+    type(word, u"bra"_s);
+    EXPECT_EQ(word.text(), u"arb"_s);
+    combo(u"cbType(0)"_s).setListIndex(static_cast<int>(ConditionKind::Strong));
+    type(word, u"430"_s);
+    EXPECT_EQ(word.text(), u"430"_s);
+    combo(u"cbType(0)"_s).setListIndex(static_cast<int>(ConditionKind::Root));
+    combo(u"cbParVer"_s).setListIndex(1);
+    window->atbar_event9(u"ID_대역본0-301"_s);
+    type(word, u"logov"_s);
+    EXPECT_EQ(word.text(), u"logov"_s);
 }
 
 TEST_F(OriginalWindowTest, EnterSearchesAndBlanksOrGapsAreTold)

@@ -3,6 +3,7 @@
 
 #include "forms/reader_place.h"
 
+#include <QList>
 #include <QStringList>
 
 namespace lumen {
@@ -14,7 +15,7 @@ public:
     int book() const override { return bookNumber; }
     int chapter() const override { return chapterNumber; }
     QString versionName(int slot) const override { return versions.value(slot); }
-    int versionCode(int) const override { return 0; }
+    int versionCode(int slot) const override { return codes.value(slot); }
     int GetCurVerse() const override { return range.section(QLatin1Char('-'), 0, 0).toInt(); }
     QString GetCurVerseRange() const override { return range; }
     void Proc이동(QString& reference) override { moves << reference; }
@@ -26,15 +27,17 @@ public:
     }
     void FillBibleText() override { ++fills; }
     void applySettings() override { ++applications; }
-    void bringToFront() override {}
+    void bringToFront() override { ++raises; }
 
     int bookNumber = 0;
     int chapterNumber = 1;
     QString range = QStringLiteral("1");
     QStringList versions;
+    QList<int> codes;
     QStringList moves;
     int fills = 0;
     int applications = 0;
+    int raises = 0;
 };
 
 } // namespace lumen

@@ -65,6 +65,14 @@ protected:
     TinyData data{world};
 };
 
+TEST_F(ExtractDialogTest, TheFirstTimeOffersTheWholeFirstChapter)
+{
+    const auto dialog = open<dlog성서추출>();
+    EXPECT_EQ(dialog->cb장->Text(), u"1"_s);
+    EXPECT_EQ(dialog->cb시작절->Text(), u"1"_s);
+    EXPECT_EQ(dialog->cb끝절->Text(), u"31"_s);
+}
+
 TEST_F(ExtractDialogTest, ListsFollowVersionBookAndChapter)
 {
     const auto dialog = open<dlog성서추출>();

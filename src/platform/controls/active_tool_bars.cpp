@@ -22,6 +22,8 @@ namespace {
 // A dynamic property of the actions of Later tools.
 constexpr char kLaterProperty[] = "laterTool";
 
+constexpr int kPackedMargin = 3; // pixels on either side of a packed button's text
+
 QString tipFor(const QString& caption, const QKeySequence& shortcut)
 {
     if (shortcut.isEmpty())
@@ -292,6 +294,19 @@ void ActiveToolBars::joinBar(QStringView caption)
 {
     if (QToolBar* found = bar(caption))
         m_window.removeToolBarBreak(found);
+}
+
+void ActiveToolBars::packButtons(QStringView caption)
+{
+    const QToolBar* const found = bar(caption);
+    if (!found)
+        return;
+    for (QAction* action : found->actions()) {
+        QWidget* const button = found->widgetForAction(action);
+        if (button && !action->text().isEmpty())
+            button->setFixedWidth(button->fontMetrics().horizontalAdvance(action->text()) +
+                                  2 * kPackedMargin);
+    }
 }
 
 void ActiveToolBars::popUp(QStringView menuId)

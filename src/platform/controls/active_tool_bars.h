@@ -83,6 +83,9 @@ public:
     /// Puts a bar behind the one before it, on the same line.
     void joinBar(QStringView caption);
 
+    /// Lets the text buttons that stand on a bar now take hardly more room than their texts.
+    void packButtons(QStringView caption);
+
     /// Shows a Menu tool at the pointer and returns at once; a click in it ends in onToolClick.
     void popUp(QStringView menuId);
     /// nullptr when the tool is no Menu.

@@ -92,7 +92,8 @@ Answer answerOf(const QMessageBox& box)
 
 Answer QtMessageBoxes::show(QWidget* parent, const QString& title, const QString& text, int flags)
 {
-    QMessageBox box(parent);
+    // A window that isn't shown has no place for a box to stand over: the screen's middle then.
+    QMessageBox box(parent != nullptr && parent->isVisible() ? parent : nullptr);
     setUpMessageBox(box, title, text, flags);
     box.exec();
     return answerOf(box);
