@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "panel/word_analysis_tab.h"
+
+#include "canon/verse_index.h"
+#include "data/data_store.h"
+#include "data/module_path.h"
+#include "forms/guarded.h"
+#include "forms/reader_place.h"
+#include "forms/wait_pointer.h"
+#include "platform/jet/jet_engine.h"
+#include "text/basic_text.h"
+
+#include <QHBoxLayout>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView kModule = u"\\Data\\z101.dts";
+constexpr int kLongestNumber = 5; // digits
+constexpr int kLargestNumber = 99999;
+
+} // namespace
+
+WordAnalysisTab::WordAnalysisTab(Services& services, const AppState& state,
+                                 const ReaderPlace& reader, DataControl& dacRefTab)
+    : m_page(new QWidget), m_services(services), m_state(state), m_reader(reader),
+      m_dacRefTab(dacRefTab), m_analysis(services, state,
+                                         {.grid = *flex원전분해,
+                                          .txParsing = *txParsing,
+                                          .dictionary = *tx스트롱,
+                                          .popUpEditMenu = [this] {
+                                              if (popUpEditMenu)
+                                                  popUpEditMenu();
+                                          }})
+{
+    // Digits alone; the keys that edit the box pass.
+    txCodeNum->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(u"[0-9]*"_s), txCodeNum));
+    txCodeNum->setMaxLength(kLongestNumber);
+    updnCode->setRange(0, kLargestNumber);
+    updnCode->setKeyboardTracking(false);
+    cmd원어관주->setEnabled(false);
+    layOut();
+    wire();
+}
+
+void WordAnalysisTab::layOut()
+{
+    auto* number = new QHBoxLayout;
+    number->addWidget(txCodeNum, 1);
+    number->addWidget(updnCode);
+    number->addWidget(cmd원어관주);
+    auto* dictionary = new QVBoxLayout;
+    dictionary->addLayout(number);
+    dictionary->addWidget(tx스트롱, 1);
+    auto* texts = new QHBoxLayout;
+    texts->addWidget(txParsing, 1);
+    texts->addLayout(dictionary, 2);
+    auto* layout = new QVBoxLayout(m_page);
+    layout->addWidget(flex원전분해, 1);
+    layout->addLayout(texts, 1);
+}
+
+void WordAnalysisTab::wire()
+{
+    m_analysis.entry().onShown = [this](const std::optional<QString>& number) {
+        entryShown(number);
+    };
+    m_analysis.onDblClick = [this] { openList(); };
+    QObject::connect(cmd원어관주, &QPushButton::clicked, m_page, [this] { openList(); });
+    QObject::connect(txCodeNum, &QLineEdit::returnPressed, m_page,
+                     [this] { lookUp(ValInt(txCodeNum->text())); });
+    updnCode->onChange = [this] { lookUp(updnCode->Value()); };
+}
+
+void WordAnalysisTab::enter()
+{
+    setStatus(QString());
+    m_page->setEnabled(m_state.installed.z101);
+    Proc원전분해표시();
+}
+
+void WordAnalysisTab::Proc원전분해표시()
+{
+    if (!m_state.installed.z101)
+        return;
+    const Place place{BibleCode::GetChapKey(m_reader.book(), m_reader.chapter()),
+                      m_reader.GetCurVerse()};
+    if (place.verse < 1 || place == m_shown)
+        return;
+    m_shown = place;
+    const WaitPointer wait;
+    openVerse(place);
+    if (m_dacRefTab.Recordset()->RecordCount() > 0)
+        m_analysis.Proc원전분해결과채우기(*m_dacRefTab.Recordset(), testamentOf(m_reader.book()));
+}
+
+void WordAnalysisTab::openVerse(const Place& place)
+{
+    m_dacRefTab.DatabaseName = modulePath(m_services.files, m_state, kModule);
+    m_dacRefTab.Connect = QString::fromUtf16(connect_text::kDataControl);
+    m_dacRefTab.ReadOnly = true;
+    m_dacRefTab.RecordSource = u"select * from 원전분해 where chap = '"_s + place.chapter +
+                               u"' and verse = "_s + QString::number(place.verse);
+    m_dacRefTab.Refresh();
+}
+
+void WordAnalysisTab::entryShown(const std::optional<QString>& number)
+{
+    cmd원어관주->setEnabled(number.has_value());
+    txCodeNum->setText(number.value_or(QString()));
+    if (!number) {
+        setStatus(QString());
+        return;
+    }
+    // The arrows go on from the entry on show.
+    const QSignalBlocker quiet(updnCode);
+    updnCode->setNumber(ValInt(*number));
+}
+
+void WordAnalysisTab::lookUp(int number)
+{
+    guarded(m_services, m_page, [this, number] {
+        const WaitPointer wait;
+        m_analysis.entry().Proc스트롱사전표시(number, testamentOf(m_reader.book()));
+    });
+}
+
+void WordAnalysisTab::openList()
+{
+    const bool hebrew = testamentOf(m_reader.book()) == Testament::Old;
+    if (onStrongList)
+        onStrongList(hebrew ? u"히브리어"_s : u"헬라어"_s, txCodeNum->text());
+}
+
+} // namespace lumen
