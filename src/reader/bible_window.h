@@ -142,7 +142,8 @@ private:
     void setViewMode(ViewMode mode);
     void showViewMode();
     QWidget& shownView() const;
-    void turnPane(const QWidget& pane, const std::function<void()>& turn);
+    /// Opens or closes a pane; `turn` does it and says whether the pane is open then.
+    void turnPane(const QWidget& pane, const std::function<bool()>& turn);
     void setLineSpacing(int percent);
     void setFontSize(int step);
     void applyColors();

@@ -125,10 +125,18 @@ void frm성서::bindViewTools()
         setBarVisible(u"ID_성서이동도구모음", !atbar.barVisible(reader_bar::kMove1));
     });
     m_tools.on(u"ID_SidePane", [this] {
-        turnPane(*m_sidePane, [this] { m_sidePane->setVisible(m_sidePane->isHidden()); });
+        turnPane(*m_sidePane, [this] {
+            m_sidePane->setVisible(m_sidePane->isHidden());
+            return !m_sidePane->isHidden();
+        });
         atbar.tool(u"ID_SidePane").setChecked(!m_sidePane->isHidden());
     });
-    m_tools.on(u"ID_Panel", [this] { turnPane(*panel, [this] { panel->toggle(); }); });
+    m_tools.on(u"ID_Panel", [this] {
+        turnPane(*panel, [this] {
+            panel->toggle();
+            return panel->state() == PanelState::Expanded;
+        });
+    });
     m_tools.onNumbered(u"ID_PanelTab", [this](int tab) { panel->showTab(tab); });
     m_tools.on(u"ID_텍스트형식", [this] { setViewMode(ViewMode::Text); });
     m_tools.on(u"ID_테이블형식", [this] { setViewMode(ViewMode::Table); });
@@ -226,12 +234,13 @@ void frm성서::setViewMode(ViewMode mode)
     FillBibleText();
 }
 
-void frm성서::turnPane(const QWidget& pane, const std::function<void()>& turn)
+void frm성서::turnPane(const QWidget& pane, const std::function<bool()>& turn)
 {
     const QWidget* const focused = focusWidget();
     const bool within = focused != nullptr && pane.isAncestorOf(focused);
-    turn();
-    if (within && !focused->isVisibleTo(this))
+    const bool open = turn();
+    // What has gone takes no more keys: the text does.
+    if (within && !open)
         shownView().setFocus();
 }
 
