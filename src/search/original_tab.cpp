@@ -155,13 +155,13 @@ void OriginalTab::search(const OriginalQuestion& question)
     onState(Str(outcome.count) + u"개 검색"_s);
     progress.setValue(kDone);
     Proc파싱검색결과채우기();
-    // Between searches the file is free.
-    m_tables.close();
 }
 
 void OriginalTab::Proc파싱검색결과채우기()
 {
     m_keys = m_tables.keys(ScratchTables::kShown);
+    // Between searches the file is free; an error that showing a verse brings undoes nothing more.
+    m_tables.close();
     m_results.lstResult->Clear();
     if (m_keys.isEmpty()) {
         clearVerse();
@@ -193,10 +193,9 @@ void OriginalTab::lstResult_Click()
     if (index < 0 || index >= m_keys.size())
         return;
     const WaitPointer wait;
-    guarded(m_services, &m_window, [&] {
-        showWords(m_keys.at(index));
-        showKoreanVerse(m_keys.at(index));
-    });
+    // A missing dictionary doesn't withhold the verse, nor the other way round.
+    guarded(m_services, &m_window, [&] { showWords(m_keys.at(index)); });
+    guarded(m_services, &m_window, [&] { showKoreanVerse(m_keys.at(index)); });
 }
 
 void OriginalTab::showWords(const QString& key)

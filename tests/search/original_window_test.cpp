@@ -118,6 +118,53 @@ TEST_F(OriginalWindowTest, ASearchListsItsVersesAndShowsTheFirstInKorean)
     }
 }
 
+TEST_F(OriginalWindowTest, TheWordsOfTheVerseStandBelowAndTheSearchedRootsAreMarked)
+{
+    openTab();
+    searchFor(ConditionKind::Root, u"<yhla"_s);
+    const FlexGrid& grid = control<FlexGrid>(u"flexParsing"_s);
+    const auto verse = std::ranges::find_if(verses, [&](const OriginalVerse& made) {
+        return BibleCode::IndexToRef(made.key()) == listed().first();
+    });
+    ASSERT_NE(verse, verses.end());
+    ASSERT_EQ(grid.Cols(), verse->words.size() + 1);
+    int marked = 0;
+    const QImage picture = control<FlexGrid>(u"flexParsing"_s).viewport()->grab().toImage();
+    for (qsizetype word = 0; word < verse->words.size(); ++word) {
+        // Hebrew reads from the right.
+        const int col = grid.Cols() - 1 - static_cast<int>(word);
+        const int strong = verse->words.at(word).strong;
+        EXPECT_EQ(grid.TextMatrix(0, col), strong > 0 ? QString::number(strong) : QString());
+        EXPECT_EQ(grid.TextMatrix(1, col), verse->words.at(word).form);
+        const QRect cell = grid.visualRect(grid.model()->index(1, col));
+        const bool yellow = picture.pixelColor(cell.topLeft() + QPoint(2, 2)).blue() < 150;
+        EXPECT_EQ(yellow, strong == 430) << col;
+        marked += yellow ? 1 : 0;
+    }
+    EXPECT_GT(marked, 0);
+    EXPECT_TRUE(control<TextControl>(u"txParsing"_s).Text().contains(u"원어: "_s));
+    // The entry of the first word in reading order.
+    const int first = verse->words.first().strong;
+    EXPECT_TRUE(
+        control<TextControl>(u"txStrongDic"_s)
+            .Text()
+            .contains(first > 0 ? u"뜻 %1"_s.arg(first) : u"해당 스트롱 코드 항목이 없습니다."_s));
+}
+
+TEST_F(OriginalWindowTest, AnotherSearchMarksOtherWords)
+{
+    openTab();
+    searchFor(ConditionKind::Root, u"<yhla"_s);
+    // A number isn't a root that was looked up: nothing stands out.
+    searchFor(ConditionKind::Strong, u"430"_s);
+    const FlexGrid& grid = control<FlexGrid>(u"flexParsing"_s);
+    const QImage picture = control<FlexGrid>(u"flexParsing"_s).viewport()->grab().toImage();
+    for (int col = 1; col < grid.Cols(); ++col) {
+        const QRect cell = grid.visualRect(grid.model()->index(1, col));
+        EXPECT_GT(picture.pixelColor(cell.topLeft() + QPoint(2, 2)).blue(), 150);
+    }
+}
+
 TEST_F(OriginalWindowTest, FiveConditionsOfBothLanguagesAreReadFromTheirControls)
 {
     openTab();
@@ -352,6 +399,18 @@ TEST_F(OriginalWindowTest, AMissingOrDamagedModuleIsToldAndTheListStays)
     searchFor(ConditionKind::Strong, u"3056"_s);
     EXPECT_FALSE(listed().isEmpty());
     EXPECT_EQ(shownVerse(), QString());
+}
+
+TEST_F(OriginalWindowTest, AMissingDictionaryDoesntWithholdTheVerse)
+{
+    openTab();
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"StrongDicG.dts"_s)));
+    combo(u"cbParVer"_s).setListIndex(1);
+    test.messages.expect(u"Lumenscript"_s,
+                         u"데이터베이스 파일을 찾을 수 없습니다.\nC:\\Data\\StrongDicG.dts"_s, 16);
+    searchFor(ConditionKind::Strong, u"3056"_s);
+    test.messages.verify();
+    EXPECT_TRUE(shownVerse().startsWith(listed().first() + u" ("_s));
 }
 
 TEST_F(OriginalWindowTest, ADoubleClickOrEnterReadsTheVerse)
