@@ -136,6 +136,30 @@ ModuleTable wordAnalysis(const QList<OriginalVerse>& verses)
     return table;
 }
 
+/// An entry for each number in use: its word and the meaning "뜻 <number>".
+ModuleTable strongDictionary(const QList<OriginalVerse>& verses, bool hebrew)
+{
+    ModuleTable table{{u"StrongDic"_s, {number(u"Num"_s)}, {{u"Num"_s, {u"Num"_s}}}}, {}};
+    for (const QString& column :
+         {u"Word"_s, u"PronEng"_s, u"PronKor"_s, u"ParsKor"_s, u"Source"_s,
+          hebrew ? u"TWOT"_s : u"TDNT"_s, u"AV"_s, u"ContKor"_s, u"ContEng"_s})
+        table.schema.columns.push_back(memo(column));
+    std::map<int, QString> words;
+    for (const OriginalVerse& verse : verses)
+        if (verse.isHebrew() == hebrew)
+            for (const OriginalWord& word : verse.words)
+                words.emplace(word.strong, word.lemma);
+    words.erase(0);
+    for (const auto& [strong, lemma] : words) {
+        QVariantList row(static_cast<qsizetype>(table.schema.columns.size()));
+        row[0] = strong;
+        row[1] = DES::ScrambleField(lemma);
+        row[row.size() - 2] = DES::ScrambleField(u"뜻 %1"_s.arg(strong));
+        table.rows << row;
+    }
+    return table;
+}
+
 QList<PlainVerse> plainVerses(const QList<OriginalVerse>& verses, bool hebrew)
 {
     QList<PlainVerse> plain;
@@ -187,6 +211,8 @@ void writeOriginalModules(const QString& folder, const QList<OriginalVerse>& ver
     write(u"z102.dts"_s,
           tablesOf(listsOf(verses, true), u"BHS"_s) + tablesOf(listsOf(verses, false), u"NS"_s));
     write(u"z103.dts"_s, {parsingSearch(verses)});
+    write(u"StrongDicH.dts"_s, {strongDictionary(verses, true)});
+    write(u"StrongDicG.dts"_s, {strongDictionary(verses, false)});
 }
 
 } // namespace lumen

@@ -31,8 +31,9 @@ struct OriginalVerse
     QString codes() const;
 };
 
-/// Writes 301, 310, z101, z102 and z103 with these verses, which must stand in canon order, into a
-/// native folder. `without` names a file that is left out, such as "310.dts".
+/// Writes 301, 310, z101, z102, z103 and the two dictionaries of Strong's numbers with these
+/// verses, which must stand in canon order, into a native folder. `without` names a file that is
+/// left out, such as "310.dts".
 void writeOriginalModules(const QString& folder, const QList<OriginalVerse>& verses,
                           const QString& without = {});
 
