@@ -187,6 +187,20 @@ TEST_F(TextControlTest, AResizeIsToldOnceItRests)
     EXPECT_EQ(view.textWidth() - before, toTwips(200));
 }
 
+TEST_F(TextControlTest, TheFirstLineInViewStaysOverAResize)
+{
+    view.takeDocument(verses(200));
+    QCoreApplication::processEvents();
+    auto* timer = view.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+    ASSERT_TRUE(timer);
+    const int start = static_cast<int>(view.Text().indexOf(u"\n120 "_s)) + 1;
+    view.scrollToPosition(start);
+    view.resize(150, 300); // each verse breaks into several lines
+    timer->start(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view.firstVisiblePosition(), start);
+}
+
 TEST_F(TextControlTest, TheContextMenuAsksTheWindow)
 {
     QPoint asked;

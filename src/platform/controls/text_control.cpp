@@ -40,6 +40,8 @@ TextControl::TextControl(QWidget* parent) : QTextEdit(parent)
     m_resizeTimer.setSingleShot(true);
     m_resizeTimer.setInterval(kResizeRest);
     connect(&m_resizeTimer, &QTimer::timeout, this, [this] {
+        if (m_topBeforeResize)
+            scrollToPosition(*m_topBeforeResize);
         if (onResizeEnded)
             onResizeEnded();
     });
@@ -94,6 +96,7 @@ void TextControl::display(std::unique_ptr<QTextDocument> content)
     verticalScrollBar()->setValue(0);
     setUpdatesEnabled(true);
     m_clickedPosition = 0;
+    m_topBeforeResize.reset();
     m_reported = {0, 0};
     m_loading = false;
 }
@@ -213,6 +216,7 @@ void TextControl::scrollToPosition(int position)
     caret.setPosition(std::clamp(position, 0, last));
     // The text is laid out on demand, and the bar only knows what is laid out.
     document()->documentLayout()->blockBoundingRect(document()->lastBlock());
+    m_topBeforeResize.reset();
     QScrollBar* bar = verticalScrollBar();
     const int top = bar->value() + cursorRect(caret).top();
     bar->setValue(top <= document()->documentMargin() ? 0 : top);
@@ -274,10 +278,15 @@ void TextControl::contextMenuEvent(QContextMenuEvent* event)
 
 void TextControl::resizeEvent(QResizeEvent* event)
 {
+    // The lines break anew, but the bar keeps its value: another part of the text would stand
+    // there.
+    const int top = firstVisiblePosition();
     QTextEdit::resizeEvent(event);
     const int width = textWidth();
     if (width == m_lastWidth)
         return;
+    if (!m_topBeforeResize) // else a later step of the same resizing
+        m_topBeforeResize = top;
     m_lastWidth = width;
     m_resizeTimer.start();
 }

@@ -93,6 +93,7 @@ private:
     QTimer m_resizeTimer;
     std::pair<int, int> m_reported{0, 0}; // anchor and position last told
     int m_lastWidth = 0;
+    std::optional<int> m_topBeforeResize; // the position to bring back once resizing has ended
     int m_tabWidth = 0;
     std::optional<int> m_paragraphSpacing; // as the document has it
     int m_lineSpacing = kSingleSpacing;
