@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "canon/canon_table.h"
 #include "canon/verse_index.h"
 #include "data/check_data.h"
+#include "data/data_store.h"
+#include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_error.h"
 #include "search/strong_list_window.h"
 #include "support/active_window.h"
@@ -12,6 +15,8 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QMap>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -82,6 +87,25 @@ protected:
                      occurrences(u"NSStrongPos"_s, {{430, u"43요:003:016"_s}})});
     }
 
+    /// The verses of each number in the word analysis: short references by "h430", "g26".
+    QMap<QString, QSet<QString>> analysedVerses()
+    {
+        QMap<QString, QSet<QString>> verses;
+        const auto database =
+            test.jet.OpenDatabase(u"C:\\lumenscript\\Data\\z101.dts"_s, false, true,
+                                  QString::fromUtf16(connect_text::kSearch));
+        const auto rows = database->OpenRecordset(u"select * from 원전분해 where Lang = 's'"_s);
+        for (; !rows->Eof(); rows->MoveNext()) {
+            const QString key = Text(rows->Fields(u"index"));
+            const QChar language = key.left(2).toInt() <= kFirstNewTestamentBook ? u'h' : u'g';
+            for (int word = 1; word <= 74; ++word) {
+                const QString stored = Text(rows->Fields(u"Word%1"_s.arg(word)));
+                if (!stored.isEmpty())
+                    verses[language + DES::UnscrambleField(stored)] << BibleCode::IndexToRef(key);
+            }
+        }
+        return verses;
+    }
     frm스트롱관주목록& list(const QString& language, const QString& number)
     {
         if (!window)
@@ -331,6 +355,42 @@ TEST_F(StrongListWindowTest, ClosingFreesTheModules)
     EXPECT_FALSE(test.jet.isOpen(test.folders.data(u"101.dts"_s)));
     list(u"히브리어"_s, u"430"_s);
     EXPECT_EQ(column(1).size(), 3);
+}
+
+/// The lists of real modules beside the numbers of the word analysis; runs where a folder of
+/// modules is named.
+TEST_F(StrongListWindowTest, RealListsHoldTheVersesOfTheWordAnalysis)
+{
+    const QString folder = qEnvironmentVariable("LUMENSCRIPT_MODULES");
+    if (!QFile::exists(folder + u"/z102.dts"_s))
+        GTEST_SKIP() << "LUMENSCRIPT_MODULES names no folder with the original languages";
+    for (const QString& name : {u"201.dts"_s, u"z101.dts"_s, u"z102.dts"_s}) {
+        QFile::remove(test.folders.data(name));
+        ASSERT_TRUE(QFile::link(folder + u'/' + name, test.folders.data(name)));
+    }
+    const QMap<QString, QSet<QString>> verses = analysedVerses();
+    reader.codes = {201};
+    for (const QString& number : {u"h430"_s, u"h1254"_s, u"h7965"_s, u"h853"_s, u"g26"_s,
+                                  u"g3056"_s, u"g3588"_s, u"g5547"_s}) {
+        SCOPED_TRACE(number.toStdString());
+        list(number.front() == u'h' ? u"히브리어"_s : u"헬라어"_s, number.mid(1));
+        ASSERT_FALSE(verses[number].isEmpty());
+        EXPECT_TRUE(window->statusPanel1->text().endsWith(
+            u"전체 관주 수: %1"_s.arg(verses[number].size())));
+        QSet<QString> listed;
+        for (int page = 0; page < window->mover.pages->ListCount(); ++page) {
+            window->mover.pages->setListIndex(page);
+            const QStringList texts = column(1);
+            for (const QString& reference : column(0)) {
+                // The KJV counts these two to the verses before them.
+                const bool absent = reference == u"아6:14" || reference == u"요삼1:15";
+                EXPECT_EQ(texts.at(column(0).indexOf(reference)).isEmpty(), absent)
+                    << reference.toStdString();
+                listed << reference;
+            }
+        }
+        EXPECT_EQ(listed, verses[number]);
+    }
 }
 
 TEST_F(StrongListWindowTest, EveryToolHasItsHandlerAndEveryHandlerItsTool)
