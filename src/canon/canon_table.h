@@ -51,4 +51,12 @@ QString bookGroup(int book);
 /// "구" for the Old Testament and "신" for the New, "" for a number outside the canon.
 QString testament(int book);
 
+/// The part of the canon whose language, texts and dictionary are meant.
+enum class Testament { Old, New };
+
+constexpr Testament testamentOf(int book)
+{
+    return book < kFirstNewTestamentBook ? Testament::Old : Testament::New;
+}
+
 } // namespace lumen

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/strong_entry.h"
 
-#include "canon/canon_table.h"
 #include "data/data_store.h"
 #include "data/module_path.h"
 #include "platform/controls/text_control.h"
@@ -33,11 +32,6 @@ QString paragraphs(Recordset& entry, QStringView column)
 }
 
 } // namespace
-
-Testament testamentOf(int book)
-{
-    return book < kFirstNewTestamentBook ? Testament::Old : Testament::New;
-}
 
 QString composeStrongEntry(Recordset& entry, Testament testament)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "canon/canon_table.h"
 #include "data/app_state.h"
 #include "forms/services.h"
 #include "platform/jet/data_control.h"
@@ -13,12 +14,6 @@
 namespace lumen {
 
 class TextControl;
-
-/// The testament whose texts and dictionary are meant.
-enum class Testament { Old, New };
-
-/// The testament of a zero-based book.
-Testament testamentOf(int book);
 
 /// The entry that the record stands on as RTF, code page 949 not yet applied.
 QString composeStrongEntry(Recordset& entry, Testament testament);

@@ -11,9 +11,6 @@
 
 namespace lumen {
 
-/// Which part of the canon a language of the original texts covers.
-enum class Testament { Old, New };
-
 /// Lets the user tick the books that a search looks in. After Accepted, scopeTag() holds their
 /// abbreviations, comma-separated; "" means that the user wants no choice of books after all.
 class dlog책별선택 : public QDialog // no Q_OBJECT: moc cannot read the name

@@ -1,32 +1,17 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/original_query.h"
 
+#include "canon/canon_table.h"
 #include "search/easy_search.h"
 #include "search/search_scope.h"
 #include "text/basic_text.h"
 #include "text/field_scramble.h"
 #include "text/query_literal.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace lumen {
 namespace {
-
-/// The keys of a scope's verses begin with numbers from `first` to `last`; 0 leaves the end open.
-struct KeyRange
-{
-    QStringView tag;
-    int first;
-    int last;
-};
-
-// Acts, 44, is in no range.
-constexpr std::array kKeyRanges{
-    KeyRange{u"모", 1, 5},   KeyRange{u"역", 6, 17},  KeyRange{u"식", 18, 22},
-    KeyRange{u"대", 23, 27}, KeyRange{u"소", 28, 39}, KeyRange{u"삽", 40, 43},
-    KeyRange{u"바", 45, 57}, KeyRange{u"공", 58, 65}, KeyRange{u"계", 66, 0}};
 
 /// What the tables of the inverted lists begin with.
 QString tablePrefix(OriginalLanguage language)
@@ -34,12 +19,26 @@ QString tablePrefix(OriginalLanguage language)
     return language == OriginalLanguage::Hebrew ? u"BHS"_s : u"NS"_s;
 }
 
-QString rangeTerm(const KeyRange& range)
+// The scopes between "검색된 것 내에서" and the choice of books are the groups in canon order.
+constexpr std::size_t kFirstGroup = 2;
+static_assert(kParsingScopes.size() == kFirstGroup + kBookGroups.size() + 1);
+
+/// The keys of a group's verses begin with the numbers of its books; Acts is in no group.
+QString groupTerm(const BookGroup& group)
 {
-    QString term = u"Left(index, 2) >= "_s + QString::number(range.first);
-    if (range.last > 0)
-        term += u" and Left(index, 2) <= "_s + QString::number(range.last);
+    QString term = u"Left(index, 2) >= "_s + QString::number(group.firstBookKey);
+    if (group.lastBookKey < kBookCount)
+        term += u" and Left(index, 2) <= "_s + QString::number(group.lastBookKey);
     return term;
+}
+
+/// What limits a list of keys to one group or to the books of a comma list.
+QString scopeTerm(const QString& scopeTag)
+{
+    for (std::size_t i = 0; i < kBookGroups.size(); ++i)
+        if (kParsingScopes[kFirstGroup + i].tag == scopeTag)
+            return groupTerm(kBookGroups[i]);
+    return bookListTerm(scopeTag);
 }
 
 } // namespace
@@ -142,9 +141,7 @@ QString originalScopeQuery(int table, const QString& scopeTag)
     if (scopeTag == kScopeTagWithin)
         return u"select table"_s + number + u".index from Table"_s + number +
                u" inner join Table10 on Table"_s + number + u".index = Table10.index"_s;
-    const auto range = std::ranges::find(kKeyRanges, scopeTag, &KeyRange::tag);
-    return u"select index from Table"_s + number + u" where "_s +
-           (range != kKeyRanges.end() ? rangeTerm(*range) : bookListTerm(scopeTag));
+    return u"select index from Table"_s + number + u" where "_s + scopeTerm(scopeTag);
 }
 
 } // namespace lumen
