@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/ending_signals.h"
 
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+
 #include <array>
 #include <csignal>
 #include <fcntl.h>
@@ -22,6 +26,17 @@ void noteSignal(int)
 }
 
 } // namespace
+
+void closeWithDialogs(QWidget& mainWindow)
+{
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || !dialog->close()) {
+        mainWindow.close();
+        return;
+    }
+    // Each dialog runs an event loop of its own, which has to end before that of the one below.
+    QTimer::singleShot(0, &mainWindow, [&mainWindow] { closeWithDialogs(mainWindow); });
+}
 
 EndingSignals::EndingSignals(std::function<void()> end) : m_end(std::move(end))
 {

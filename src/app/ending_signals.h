@@ -7,7 +7,13 @@
 #include <functional>
 #include <memory>
 
+class QWidget;
+
 namespace lumen {
+
+/// Closes the main window as its user would: the dialogs that are open over it are dismissed first,
+/// the last opened one before those below it. The closing itself may come after the return.
+void closeWithDialogs(QWidget& mainWindow);
 
 /// Ends the program as its user would when the session or the system asks for it (SIGTERM, SIGHUP,
 /// SIGINT), so that notes and settings are saved. One object a process.

@@ -85,7 +85,7 @@ int Main(World& world)
         if (!reader.Form_Load(splash))
             return 1;
     }
-    const EndingSignals signals([&reader] { reader.close(); });
+    const EndingSignals signals([&reader] { closeWithDialogs(reader); });
     reader.show();
     reader.repaint();
     qCInfo(formsLog) << "first chapter shown after" << sinceStart.elapsed() << "ms";
