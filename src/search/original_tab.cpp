@@ -18,6 +18,7 @@
 #include "text/query_literal.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -126,8 +127,12 @@ bool OriginalTab::prepareTables()
 {
     if (m_tables.exists()) {
         open();
-        if (m_tables.prepare())
+        if (m_tables.prepare()) {
+            // Where no new file could be made, the old base goes at least.
+            if (!std::exchange(m_fresh, true))
+                m_tables.empty(ScratchTables::kLast);
             return true;
+        }
         // Whatever has come over the file since: the next search begins with a new one.
         m_fresh = false;
     }

@@ -361,7 +361,8 @@ TEST_F(OriginalWindowTest, ADamagedScratchFileIsToldOnceAndThenMadeAnew)
 
 TEST_F(OriginalWindowTest, WhatAKilledRunLeftIsNoBaseOfASearchWithinResults)
 {
-    {
+    // Also where the file can't be made anew, as while another window has it open.
+    for (const bool heldOpen : {false, true}) {
         ScratchTables killed(test.jet, test.files, test.state.AppPath);
         ASSERT_TRUE(killed.prepare());
         QStringList all;
@@ -370,12 +371,17 @@ TEST_F(OriginalWindowTest, WhatAKilledRunLeftIsNoBaseOfASearchWithinResults)
         killed.StringToDB(all.join(u';'), ScratchTables::kLast);
         killed.StringToDB(all.join(u';'), ScratchTables::kShown);
         killed.close();
+        std::unique_ptr<Database> holder;
+        if (heldOpen)
+            holder = test.jet.OpenDatabase(u"C:\\lumenscript\\Data\\z199.dts"_s, false, false,
+                                           u";pwd=qolvetrinam"_s);
+        openTab();
+        EXPECT_EQ(listed(), QStringList());
+        pick(u"cbParRange"_s, 1);
+        searchFor(ConditionKind::Strong, u"430"_s);
+        EXPECT_EQ(panel(2), u" 0개 검색"_s);
+        window.reset();
     }
-    openTab();
-    EXPECT_EQ(listed(), QStringList());
-    pick(u"cbParRange"_s, 1);
-    searchFor(ConditionKind::Strong, u"430"_s);
-    EXPECT_EQ(panel(2), u" 0개 검색"_s);
 }
 
 TEST_F(OriginalWindowTest, AMissingOrDamagedModuleIsToldAndTheListStays)
