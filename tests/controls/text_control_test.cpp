@@ -201,6 +201,18 @@ TEST_F(TextControlTest, TheFirstLineInViewStaysOverAResize)
     EXPECT_EQ(view.firstVisiblePosition(), start);
 }
 
+TEST_F(TextControlTest, ATextThatComesBeforeTheFirstShowBeginsAtItsHead)
+{
+    TextControl hidden;
+    hidden.takeDocument(verses(200));
+    hidden.resize(30, 20);
+    hidden.resize(400, 300);
+    hidden.show();
+    hidden.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly)->start(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(hidden.firstVisiblePosition(), 0);
+}
+
 TEST_F(TextControlTest, TheContextMenuAsksTheWindow)
 {
     QPoint asked;

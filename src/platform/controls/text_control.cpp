@@ -280,7 +280,7 @@ void TextControl::resizeEvent(QResizeEvent* event)
 {
     // The lines break anew, but the bar keeps its value: another part of the text would stand
     // there.
-    const int top = firstVisiblePosition();
+    const int top = verticalScrollBar()->value() > 0 ? firstVisiblePosition() : 0;
     QTextEdit::resizeEvent(event);
     const int width = textWidth();
     if (width == m_lastWidth)
