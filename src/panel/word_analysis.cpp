@@ -117,6 +117,9 @@ QString composeParsing(const QString& head, const std::optional<QString>& code, 
 WordAnalysis::WordAnalysis(Services& services, const AppState& state, WordAnalysisHost host)
     : m_services(services), m_host(std::move(host)), m_entry(services, state, m_host.dictionary)
 {
+    // A wrapped word would fall apart: the codes of its letters hold signs at which lines may
+    // break, and its head would come below its end.
+    m_host.txParsing.setLineWrapMode(QTextEdit::NoWrap);
     FlexGrid& grid = m_host.grid;
     grid.setFixedRows(0);
     grid.setRows(0);

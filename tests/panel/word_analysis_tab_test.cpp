@@ -14,6 +14,8 @@
 
 #include <QFile>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 
 namespace lumen {
 namespace {
@@ -154,6 +156,17 @@ TEST_F(WordAnalysisTabTest, HebrewReadsFromTheRight)
               u"select * from 원전분해 where chap = '창01' and verse = 1"_s);
 }
 
+TEST_F(WordAnalysisTabTest, AWordStaysOnOneLineInANarrowPanel)
+{
+    panel.resize(260, 400);
+    goTo(kGenesis, 1);
+    QCoreApplication::processEvents();
+    const QTextDocument& shown = *tab->txParsing->document();
+    ASSERT_FALSE(tab->txParsing->Text().isEmpty());
+    for (QTextBlock block = shown.begin(); block.isValid(); block = block.next())
+        EXPECT_LE(block.layout()->lineCount(), 1) << block.text().toStdString();
+}
+
 TEST_F(WordAnalysisTabTest, GreekReadsFromTheLeftAndHasNoPieces)
 {
     goTo(kJohn, 1);
@@ -201,14 +214,14 @@ TEST_F(WordAnalysisTabTest, TheChosenWordIsAnalysedAndLookedUp)
 TEST_F(WordAnalysisTabTest, AnEntryHasAllItsLines)
 {
     QStringList expected{u"어근: ba "_s, u"발음: [awb : 아브] "_s,
-                         u""_s,           u"품사:  명사 "_s,
-                         u""_s,           u"어원:  a root {x} "_s,
-                         u""_s,           u"TWOT:  4a "_s,
-                         u""_s,           u"KJV: chief, father "_s,
-                         u""_s,           u"의미:  첫째 뜻 "_s,
-                         u"둘째 뜻 "_s,   u""_s,
-                         u" one "_s,      u"two"_s,
-                         u" "_s,          u""_s};
+                         u""_s,          u"품사:  명사 "_s,
+                         u""_s,          u"어원:  a root {x} "_s,
+                         u""_s,          u"TWOT:  4a "_s,
+                         u""_s,          u"KJV: chief, father "_s,
+                         u""_s,          u"의미:  첫째 뜻 "_s,
+                         u"둘째 뜻 "_s,  u""_s,
+                         u" one "_s,     u"two"_s,
+                         u" "_s,         u""_s};
     EXPECT_EQ(lines(*tab->tx스트롱), expected);
     goTo(kJohn, 1);
     tab->txCodeNum->setText(u"1"_s);
