@@ -13,7 +13,8 @@ public:
     virtual ~PathResolver() = default;
 
     /// The native path: that of the existing file whatever its case, else the one that creating it
-    /// would give. "" when the drive is not known. A native absolute path ("/...") passes unchanged.
+    /// would give. "" when the drive is not known. A native absolute path ("/...") passes
+    /// unchanged.
     virtual QString nativePath(const QString& path) const = 0;
 };
 

@@ -29,8 +29,8 @@ inline constexpr MessageText kScratchLost{u"파일 손실",
                                           u"검색 작업이 불가능하므로 재설치 하십시요.",
                                           16};
 inline constexpr MessageText kHelpMissing{u"도움말 없음", u"도움말을 열 수 없습니다.\r\n%1", 48};
-inline constexpr MessageText kNoStrongList{u"결과 없음",
-                                           u"해당하는 스트롱 코드 관주가 없습니다.", 64};
+inline constexpr MessageText kNoStrongList{u"결과 없음", u"해당하는 스트롱 코드 관주가 없습니다.",
+                                           64};
 inline constexpr MessageText kShiftKeyOnly{u"안내",
                                            u"쉬프트(Shift)키는 마우스로 사용할 수 없습니다.\r\n"
                                            u"직접 키보드로 누르시기 바랍니다.",

@@ -8,7 +8,6 @@
 #include <QHeaderView>
 #include <QImage>
 #include <QScrollBar>
-#include <QHeaderView>
 #include <QTest>
 
 #include <stdexcept>
