@@ -4,6 +4,9 @@
 #include <QFrame>
 
 #include <functional>
+#include <vector>
+
+class QToolButton;
 
 namespace lumen {
 
@@ -20,8 +23,13 @@ public:
 
     std::function<void(int chapter)> onChapter;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void choose(int chapter);
+
+    std::vector<QToolButton*> m_buttons; // by chapter; they belong to the window
 };
 
 } // namespace lumen

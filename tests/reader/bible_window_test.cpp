@@ -235,6 +235,16 @@ TEST_F(BibleWindowTest, TheChapterWindowGoesToAChapter)
     ASSERT_NE(third, nullptr);
     QTest::mouseClick(third, Qt::LeftButton);
     EXPECT_EQ(place(), u"요한복음 3장 1절"_s);
+
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    click(u"ID_0");
+    auto* const keys = reader->findChild<QFrame*>(u"frmHotMove"_s);
+    ASSERT_NE(keys, nullptr);
+    const auto press = [keys](Qt::Key key) { QTest::keyClick(keys->focusWidget(), key); };
+    press(Qt::Key_Down);
+    press(Qt::Key_Right);
+    press(Qt::Key_Return);
+    EXPECT_EQ(place(), u"창세기 12장 1절"_s) << "ten chapters a row";
     click(u"ID_성서책18");
     EXPECT_EQ(combo(u"ID_cb책명").Text(), u"시편"_s);
     EXPECT_EQ(combo(u"ID_cb장").count(), 150);
