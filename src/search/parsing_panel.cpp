@@ -87,6 +87,14 @@ void ParsingPanel::reset()
     }
 }
 
+void ParsingPanel::focusFirst()
+{
+    if (txHGSearch(0)->isVisibleTo(this))
+        txHGSearch(0)->setFocus();
+    else
+        cmdSetParsing(0)->setFocus();
+}
+
 void ParsingPanel::cbParVer_Click()
 {
     for (int condition = 0; condition < kConditionCount; ++condition) {
@@ -165,8 +173,10 @@ ParsingResults::ParsingResults()
     splitParsing->addWidget(lstResult);
     splitParsing->addWidget(verseSplitter);
     constexpr double kListShare = 0.2;
+    // A verse takes few lines, its words six rows.
+    constexpr double kVerseShare = 0.12;
     splitParsing->setRatio(kListShare);
-    verseSplitter->setRatio(kListShare);
+    verseSplitter->setRatio(kVerseShare);
 }
 
 void ParsingResults::open(const SearchSettings& settings)

@@ -35,6 +35,8 @@ public:
     OriginalQuestion question() const;
     /// Gives a condition its parsing code and shows the phrases of it; "" takes the code away.
     void setPattern(int condition, const QString& code);
+    /// Puts the focus where the first condition is given.
+    void focusFirst();
     void cbParVer_Click();
     void cbType_Click(int condition);
 

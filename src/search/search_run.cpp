@@ -111,6 +111,7 @@ void frm성서검색::openParsingTab()
     parsing->cbParRange->setCurrentIndex(0);
     m_scopes.cbParRange_Click();
     statusPanel2->clear();
+    parsing->focusFirst();
 }
 
 void frm성서검색::startSearch()

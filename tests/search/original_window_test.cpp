@@ -212,6 +212,7 @@ TEST_F(OriginalWindowTest, TypedHebrewGrowsToTheLeftWhateverVersionTheOtherTabsS
 {
     openTab();
     QLineEdit& word = box(u"txHGSearch(0)"_s);
+    EXPECT_TRUE(word.hasFocus());
     type(word, u"bra"_s);
     EXPECT_EQ(word.text(), u"arb"_s);
     combo(u"cbType(0)"_s).setListIndex(static_cast<int>(ConditionKind::Strong));
