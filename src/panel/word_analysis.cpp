@@ -23,7 +23,6 @@ namespace {
 constexpr int kStrongRow = 0;
 constexpr int kFormRow = 1;
 constexpr int kHebrewPiecesRow = 4;
-constexpr int kInputMethodKey = 229;
 constexpr int kHebrewPoints = 19;
 constexpr int kGreekPoints = 12;
 // The look of a word that was searched for, as found words have it elsewhere.
@@ -127,7 +126,8 @@ WordAnalysis::WordAnalysis(Services& services, const AppState& state, WordAnalys
     grid.setFixedCols(1);
     grid.setSelectionMode(GridSelection::Cells);
     grid.onKeyUp = [this](int key) {
-        if (key != kInputMethodKey)
+        // A key that the input method keeps to itself comes without a code.
+        if (key != 0 && key != Qt::Key_unknown)
             wordChosen();
     };
     grid.onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
@@ -224,8 +224,11 @@ void WordAnalysis::wordChosen()
 {
     if (m_column == 0)
         return;
-    if (m_host.grid.ColSel() > 0)
-        m_column = m_host.grid.ColSel();
+    const FlexGrid& grid = m_host.grid;
+    if (m_host.passesOverEmptyCells && grid.TextMatrix(grid.RowSel(), grid.ColSel()).isEmpty())
+        return;
+    if (grid.ColSel() > 0)
+        m_column = grid.ColSel();
     guarded(m_services, &m_host.grid, [this] { showWord(); });
 }
 

@@ -58,6 +58,8 @@ struct WordAnalysisHost
     std::function<bool(const QString& strongNumber)> marksWord = {};
     /// The right button was used on the grid.
     std::function<void()> popUpEditMenu = {};
+    /// A click on a cell without a text chooses nothing then.
+    bool passesOverEmptyCells = false;
 };
 
 /// A verse word by word: a grid with a column a word, the analysis of the chosen word and its entry

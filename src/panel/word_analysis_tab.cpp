@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -24,6 +25,8 @@ namespace {
 
 constexpr QStringView kModule = u"\\Data\\z101.dts";
 constexpr int kLongestNumber = 5; // digits
+constexpr int kNumberWidth = 80;  // pixels
+constexpr int kArrowsWidth = 20;  // pixels: the arrows alone, the number stands in its own box
 constexpr int kLargestNumber = 99999;
 
 } // namespace
@@ -40,12 +43,12 @@ WordAnalysisTab::WordAnalysisTab(Services& services, const AppState& state,
                                                   popUpEditMenu();
                                           }})
 {
-    // Digits alone; the keys that edit the box pass.
+    // Digits and the point alone, of which the integer part counts; the keys that edit pass.
     txCodeNum->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(u"[0-9]*"_s), txCodeNum));
+        new QRegularExpressionValidator(QRegularExpression(u"[0-9.]*"_s), txCodeNum));
     txCodeNum->setMaxLength(kLongestNumber);
     updnCode->setRange(0, kLargestNumber);
-    updnCode->setKeyboardTracking(false);
+    updnCode->setFocusPolicy(Qt::NoFocus); // the keys of its arrows are the number box's
     cmd원어관주->setEnabled(false);
     layOut();
     wire();
@@ -53,10 +56,13 @@ WordAnalysisTab::WordAnalysisTab(Services& services, const AppState& state,
 
 void WordAnalysisTab::layOut()
 {
+    txCodeNum->setFixedWidth(kNumberWidth);
+    updnCode->setFixedWidth(kArrowsWidth);
     auto* number = new QHBoxLayout;
-    number->addWidget(txCodeNum, 1);
+    number->addWidget(txCodeNum);
     number->addWidget(updnCode);
     number->addWidget(cmd원어관주);
+    number->addStretch();
     auto* dictionary = new QVBoxLayout;
     dictionary->addLayout(number);
     dictionary->addWidget(tx스트롱, 1);
@@ -76,8 +82,15 @@ void WordAnalysisTab::wire()
     m_analysis.onDblClick = [this] { openList(); };
     QObject::connect(cmd원어관주, &QPushButton::clicked, m_page, [this] { openList(); });
     QObject::connect(txCodeNum, &QLineEdit::returnPressed, m_page,
-                     [this] { lookUp(ValInt(txCodeNum->text())); });
+                     [this] { lookUp(static_cast<int>(Val(txCodeNum->text()))); });
     updnCode->onChange = [this] { lookUp(updnCode->Value()); };
+    const auto step = [this](Qt::Key key, int steps) {
+        auto* shortcut = new QShortcut(key, txCodeNum, nullptr, nullptr, Qt::WidgetShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, m_page,
+                         [this, steps] { updnCode->stepBy(steps); });
+    };
+    step(Qt::Key_Up, 1);
+    step(Qt::Key_Down, -1);
 }
 
 void WordAnalysisTab::enter()

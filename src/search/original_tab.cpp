@@ -48,7 +48,8 @@ OriginalTab::OriginalTab(Services& services, const AppState& state, QWidget& win
               .txParsing = *results.txParsing,
               .dictionary = *results.txStrongDic,
               .marksWord = [this](const QString& number) { return wasSearched(number); },
-              .popUpEditMenu = [this] { onEditMenu(); }}))
+              .popUpEditMenu = [this] { onEditMenu(); },
+              .passesOverEmptyCells = true}))
 {
     m_results.lstResult->onClick = [this] { lstResult_Click(); };
     m_results.lstResult->onDblClick = [this] { onOpenVerse(m_results.lstResult->Text()); };

@@ -244,17 +244,29 @@ TEST_F(WordAnalysisTabTest, TheLastNumberIsLookedForAndTheNextIsNot)
     EXPECT_EQ(status, QString());
 }
 
-TEST_F(WordAnalysisTabTest, NumberBoxAndArrowsTakeDigitsAlone)
+TEST_F(WordAnalysisTabTest, NumberBoxAndArrowsLookNumbersUp)
 {
     tab->txCodeNum->clear();
     QTest::keyClicks(tab->txCodeNum, u"8a8-5 3"_s);
     EXPECT_EQ(tab->txCodeNum->text(), u"8853"_s);
     QTest::keyClick(tab->txCodeNum, Qt::Key_Return);
     EXPECT_TRUE(tab->cmd원어관주->isEnabled());
-    QTest::keyClick(tab->updnCode, Qt::Key_Up);
+    tab->updnCode->stepUp();
     EXPECT_FALSE(tab->cmd원어관주->isEnabled());
-    QTest::keyClick(tab->updnCode, Qt::Key_Down);
+    EXPECT_EQ(tab->txCodeNum->text(), QString());
+    tab->updnCode->stepDown();
     EXPECT_EQ(tab->txCodeNum->text(), u"8853"_s);
+    // The keys of the arrows belong to the number box; both get past a number without an entry.
+    tab->txCodeNum->setFocus();
+    QTest::keyClick(tab->txCodeNum, Qt::Key_Down);
+    EXPECT_EQ(tab->txCodeNum->text(), QString());
+    QTest::keyClick(tab->txCodeNum, Qt::Key_Up);
+    EXPECT_EQ(tab->txCodeNum->text(), u"8853"_s);
+
+    tab->txCodeNum->clear();
+    QTest::keyClicks(tab->txCodeNum, u"1.9"_s);
+    QTest::keyClick(tab->txCodeNum, Qt::Key_Return);
+    EXPECT_EQ(tab->txCodeNum->text(), u"1"_s);
 }
 
 TEST_F(WordAnalysisTabTest, DoubleClickAndButtonAskForTheListOfVerses)
@@ -269,6 +281,17 @@ TEST_F(WordAnalysisTabTest, DoubleClickAndButtonAskForTheListOfVerses)
     tab->popUpEditMenu = [&menus] { ++menus; };
     click(1, 1, Qt::RightButton);
     EXPECT_EQ(menus, 1);
+}
+
+TEST_F(WordAnalysisTabTest, ACellWithoutATextChoosesItsWordToo)
+{
+    // The second word has no gloss; what the input method keeps for itself chooses nothing.
+    grid().setCell(2, 2);
+    QKeyEvent kept(QEvent::KeyRelease, 0, Qt::NoModifier);
+    QApplication::sendEvent(&grid(), &kept);
+    EXPECT_EQ(tab->txCodeNum->text(), u"1"_s);
+    click(2, 2);
+    EXPECT_EQ(lines(*tab->txParsing).first(), u"원어: {gd}"_s);
 }
 
 TEST_F(WordAnalysisTabTest, AVerseThatIsNotThereLeavesAllAsItWas)
@@ -308,10 +331,12 @@ TEST(WordAnalysis, WordsThatAreAskedForStandOut)
                        {.grid = grid,
                         .txParsing = parsing,
                         .dictionary = dictionary,
-                        .marksWord = [&asked](const QString& number) {
-                            asked << number;
-                            return number == u"2"_s;
-                        }});
+                        .marksWord =
+                            [&asked](const QString& number) {
+                                asked << number;
+                                return number == u"2"_s;
+                            },
+                        .passesOverEmptyCells = true});
     const auto database = world.jet.OpenDatabase(u"C:\\lumenscript\\Data\\z101.dts"_s, false, true,
                                                  u";pwd=qolvetrinam"_s);
     const auto rows =
@@ -325,6 +350,15 @@ TEST(WordAnalysis, WordsThatAreAskedForStandOut)
         EXPECT_FALSE(model->style(line, 3).back.has_value());
     }
     EXPECT_EQ(model->style(1, 2).family, u"OrvaneHeb"_s);
+
+    // Here a click on a cell without a text leaves the chosen word.
+    const QString first = parsing.Text();
+    grid.setCell(2, 2);
+    grid.onKeyUp(Qt::Key_Left);
+    EXPECT_EQ(parsing.Text(), first);
+    grid.setCell(1, 2);
+    grid.onKeyUp(Qt::Key_Up);
+    EXPECT_TRUE(parsing.Text().startsWith(u"원어: {gd}"_s));
 }
 
 } // namespace
