@@ -26,7 +26,6 @@ namespace {
 constexpr QStringView kModule = u"\\Data\\z101.dts";
 constexpr int kLongestNumber = 5; // digits
 constexpr int kNumberWidth = 80;  // pixels
-constexpr int kArrowsWidth = 20;  // pixels: the arrows alone, the number stands in its own box
 constexpr int kLargestNumber = 99999;
 
 } // namespace
@@ -48,7 +47,7 @@ WordAnalysisTab::WordAnalysisTab(Services& services, const AppState& state,
         new QRegularExpressionValidator(QRegularExpression(u"[0-9.]*"_s), txCodeNum));
     txCodeNum->setMaxLength(kLongestNumber);
     updnCode->setRange(0, kLargestNumber);
-    updnCode->setFocusPolicy(Qt::NoFocus); // the keys of its arrows are the number box's
+    updnCode->showArrowsOnly();
     cmd원어관주->setEnabled(false);
     layOut();
     wire();
@@ -57,7 +56,6 @@ WordAnalysisTab::WordAnalysisTab(Services& services, const AppState& state,
 void WordAnalysisTab::layOut()
 {
     txCodeNum->setFixedWidth(kNumberWidth);
-    updnCode->setFixedWidth(kArrowsWidth);
     auto* number = new QHBoxLayout;
     number->addWidget(txCodeNum);
     number->addWidget(updnCode);

@@ -251,7 +251,8 @@ TEST_F(WordAnalysisTabTest, NumberBoxAndArrowsLookNumbersUp)
     EXPECT_EQ(tab->txCodeNum->text(), u"8853"_s);
     QTest::keyClick(tab->txCodeNum, Qt::Key_Return);
     EXPECT_TRUE(tab->cmd원어관주->isEnabled());
-    tab->updnCode->stepUp();
+    const QPoint upper(tab->updnCode->width() / 2, tab->updnCode->height() / 4);
+    QTest::mouseClick(tab->updnCode, Qt::LeftButton, {}, upper);
     EXPECT_FALSE(tab->cmd원어관주->isEnabled());
     EXPECT_EQ(tab->txCodeNum->text(), QString());
     tab->updnCode->stepDown();

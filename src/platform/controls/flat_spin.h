@@ -19,6 +19,9 @@ public:
     /// Runs onChange when the number changes, as a change of the user does.
     void setNumber(int number) { setValue(number); }
 
+    /// Shows the arrows alone, for a number that has a box of its own; keys don't come here then.
+    void showArrowsOnly();
+
     std::function<void()> onChange;
 };
 
