@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/controls/colors.h"
 
+#include <QWidget>
+
 #include <cmath>
 
 namespace lumen {
@@ -59,6 +61,14 @@ QColor readableOn(const QColor& ground, const QColor& color)
                                     start + (end - start) * share);
     }
     return readable;
+}
+
+void keepSelectionColors(QWidget& control)
+{
+    QPalette look = control.palette();
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+        look.setColor(QPalette::Inactive, role, look.color(QPalette::Active, role));
+    control.setPalette(look);
 }
 
 } // namespace lumen

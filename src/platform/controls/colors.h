@@ -6,6 +6,8 @@
 #include <QColor>
 #include <QPalette>
 
+class QWidget;
+
 namespace lumen {
 
 /// An RGB long (red in the low byte) as a colour of the toolkit, and back; alpha is dropped.
@@ -18,5 +20,8 @@ bool isDark(const QPalette& palette);
 /// The colour itself when it can be read on the ground, else the same hue made lighter or darker
 /// until it can: a contrast of at least 4.5 to 1, the usual limit for running text.
 QColor readableOn(const QColor& ground, const QColor& color);
+
+/// Shows the selection of a control in its active colours while another control has the focus.
+void keepSelectionColors(QWidget& control);
 
 } // namespace lumen

@@ -37,10 +37,7 @@ FlexGrid::FlexGrid(QWidget* parent)
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(GridSelection::Rows);
-    QPalette look = palette();
-    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
-        look.setColor(QPalette::Inactive, role, look.color(QPalette::Active, role));
-    setPalette(look);
+    keepSelectionColors(*this);
     m_resizeTimer.setParent(this);
     m_resizeTimer.setSingleShot(true);
     m_resizeTimer.setInterval(kResizeRest);

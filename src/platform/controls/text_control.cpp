@@ -32,10 +32,7 @@ TextControl::TextControl(QWidget* parent) : QTextEdit(parent)
     // A bar that comes and goes would lay a long chapter out twice.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     // The selected verse has to be seen while the panel has the focus.
-    QPalette look = palette();
-    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
-        look.setColor(QPalette::Inactive, role, look.color(QPalette::Active, role));
-    setPalette(look);
+    keepSelectionColors(*this);
     m_resizeTimer.setParent(this);
     m_resizeTimer.setSingleShot(true);
     m_resizeTimer.setInterval(kResizeRest);
