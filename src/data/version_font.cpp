@@ -62,11 +62,6 @@ const FontRow* rowOf(int code)
     return nullptr;
 }
 
-bool isHebrew(int code)
-{
-    return code >= 301 && code <= 303;
-}
-
 const UserFont& userFont(int code, const FontSettings& settings)
 {
     return settings.userFonts[static_cast<std::size_t>(code - kFirstUserVersion)];
@@ -103,14 +98,14 @@ FontSettings defaultFontSettings()
 VersionFont GetVersionFont(int code, const FontSettings& settings)
 {
     VersionFont font = screenFont(code, settings);
-    font.alignment = isHebrew(code) ? kGridRightTop : kGridLeftTop;
+    font.alignment = isHebrewVersion(code) ? kGridRightTop : kGridLeftTop;
     return font;
 }
 
 VersionFont GetVersionFontEx(int code, const FontSettings& settings)
 {
     VersionFont font = screenFont(code, settings);
-    font.alignment = isHebrew(code) ? kGridRightCenter : kGridLeftCenter;
+    font.alignment = isHebrewVersion(code) ? kGridRightCenter : kGridLeftCenter;
     return font;
 }
 

@@ -18,6 +18,13 @@ constexpr bool isUserVersion(int code)
     return code >= kFirstUserVersion && code < kFirstUserVersion + kUserVersionCount;
 }
 
+/// True for the Hebrew versions, which hold a verse in display order: it is divided into lines in
+/// the font of the version.
+constexpr bool isHebrewVersion(int code)
+{
+    return code >= 301 && code <= 303;
+}
+
 /// The font of one user slot; the size is kept as the text that the settings hold.
 struct UserFont
 {

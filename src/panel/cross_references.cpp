@@ -23,15 +23,6 @@ namespace {
 constexpr QStringView kModule = u"\\Data\\CRef.dts";
 constexpr QStringView kNoReferences = u"관주 없음";
 constexpr int kTextPoints = 10;
-constexpr int kRightTop = 6; // the place of Hebrew in a cell
-
-/// The font whose letters stand in display order, "" for versions that need no division.
-QString hebrewFont(int code)
-{
-    if (code == 301)
-        return u"OrvaneHeb"_s;
-    return code == 302 || code == 303 ? u"OrvaneHebC"_s : QString();
-}
 
 /// The references as keys; a ";" at the end adds none.
 QStringList keysOf(const QString& references)
@@ -62,7 +53,7 @@ CrossReferences::CrossReferences(Services& services, const AppState& state, Read
     lst관주목록->onDblClick = [this] { openChosen(); };
     tx관주본문->onResizeEnded = [this] {
         // The lines of a Hebrew verse are cut to the width of the box.
-        if (!hebrewFont(m_reader.versionCode(0)).isEmpty())
+        if (isHebrewVersion(m_reader.versionCode(0)))
             guarded(m_services, m_page, [this] { DispCRefCont(); });
     };
 }
@@ -165,13 +156,11 @@ void CrossReferences::showText(const QString& verse, int code)
     QFont font(versionFont.font);
     font.setPointSize(points);
     tx관주본문->setFont(font);
-    const QString hebrew = hebrewFont(code);
-    tx관주본문->setText(hebrew.isEmpty()
-                            ? verse
-                            : DivideHebrewCont(verse, {hebrew, 2 * points, tx관주본문->textWidth()},
-                                               false, m_lineBreaker));
+    const HebrewTarget target{versionFont.font, 2 * points, tx관주본문->textWidth()};
+    const bool hebrew = isHebrewVersion(code);
+    tx관주본문->setText(hebrew ? DivideHebrewCont(verse, target, false, m_lineBreaker) : verse);
     QTextOption direction = tx관주본문->document()->defaultTextOption();
-    direction.setAlignment(versionFont.alignment == kRightTop ? Qt::AlignRight : Qt::AlignLeft);
+    direction.setAlignment(hebrew ? Qt::AlignRight : Qt::AlignLeft);
     tx관주본문->document()->setDefaultTextOption(direction);
 }
 

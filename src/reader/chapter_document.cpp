@@ -9,15 +9,9 @@ namespace lumen {
 
 namespace {
 
-constexpr int kHebrewPointed = 301;
 constexpr int kLanguageBarBlanks = 30;
 // The colour table's entries: base, then the parallel versions behind the mini-title colour.
 constexpr std::array kSlotColor{0, 2, 3, 4};
-
-bool isHebrew(int code)
-{
-    return code >= kHebrewPointed && code <= 303;
-}
 
 /// Collects RTF and counts the characters that the control will show for it.
 class Composer
@@ -82,12 +76,12 @@ void Composer::heading(const Face& face, const QString& title)
 
 void Composer::verseText(const ChapterSource& source, const QString& stored, int halfPoints)
 {
-    if (!isHebrew(source.code)) {
+    if (!isHebrewVersion(source.code)) {
         text(stored);
         return;
     }
     // The order is unscramble, divide, escape; the divider's own "\par" must not be escaped.
-    const QString font = source.code == kHebrewPointed ? u"OrvaneHeb"_s : u"OrvaneHebC"_s;
+    const QString font = GetVersionFont(source.code, m_style.fonts).font;
     const QStringList lines = m_style.divideHebrew(stored, font, halfPoints).split(u"\\par "_s);
     for (qsizetype line = 0; line < lines.size(); ++line) {
         if (line > 0) {

@@ -19,14 +19,8 @@ constexpr int kVerseColumn = 1;
 constexpr int kFirstVersionColumn = 2;
 constexpr int kMarkWidth = 330;  // twips: the mark and a margin
 constexpr int kVerseWidth = 560; // twips: three digits and a margin
-constexpr int kHebrewPointed = 301;
 constexpr RgbLong kMiniTitleColor = RGB(37, 21, 102);
 constexpr double kHeaderPoints = 9;
-
-bool isHebrew(int code)
-{
-    return code >= kHebrewPointed && code <= 303;
-}
 
 RgbLong slotColor(const ReaderColors& colors, int slot)
 {
@@ -74,7 +68,7 @@ void TableView::setUpColumns(const std::vector<ChapterSource>& sources, const QS
         look.family = GetVersionFontEx(code, style.fonts).font;
         look.points = textSize(style, code) / 2.0;
         look.color = slotColor(style.colors, sources[at].slot);
-        look.align = isHebrew(code) ? GridAlign::Right : GridAlign::Left;
+        look.align = isHebrewVersion(code) ? GridAlign::Right : GridAlign::Left;
         m_grid.setColStyle(col, look);
     }
     m_grid.setStretchFrom(kFirstVersionColumn);
@@ -84,8 +78,8 @@ QString TableView::cellText(const ChapterSource& source, const ChapterVerse& ver
                             const TableStyle& style) const
 {
     QString text = verse.cont;
-    if (isHebrew(source.code)) {
-        const QString font = source.code == kHebrewPointed ? u"OrvaneHeb"_s : u"OrvaneHebC"_s;
+    if (isHebrewVersion(source.code)) {
+        const QString font = GetVersionFont(source.code, style.fonts).font;
         text = style.divideHebrew(text, font, textSize(style, source.code), m_grid.ColWidth(col));
     }
     return source.slot == 0 && style.showMiniTitle ? verse.part + text : text;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "reader/verse_copy.h"
 
+#include "data/version_font.h"
 #include "text/original_unicode.h"
 #include "text/rtf_composer.h"
 
@@ -18,7 +19,7 @@ enum class Script { Hebrew, Greek, Other };
 
 Script scriptOf(int code)
 {
-    if (code >= 301 && code <= 303)
+    if (isHebrewVersion(code))
         return Script::Hebrew;
     return code >= 304 && code <= 320 ? Script::Greek : Script::Other;
 }

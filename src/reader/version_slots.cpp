@@ -63,7 +63,7 @@ void VersionSlots::take(int slot, const ChosenVersion& chosen)
 bool VersionSlots::holdsHebrew() const
 {
     return std::any_of(m_slots.begin(), m_slots.end(),
-                       [](const auto& slot) { return slot->code >= 301 && slot->code <= 303; });
+                       [](const auto& slot) { return isHebrewVersion(slot->code); });
 }
 
 std::vector<ChapterSource> VersionSlots::readChapter(int book, int chapter, DocumentKind kind)
