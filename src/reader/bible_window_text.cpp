@@ -132,8 +132,7 @@ void frm성서::Proc이동(QString& reference)
         m_services.messages.show(this, messages::kVerseTooLarge);
     const int shown = std::max(1, verse.value);
     Proc절선택표시(shown);
-    quickMove->remember(reference,
-                        u"%1%2:%3"_s.arg(bookAbbreviation(book())).arg(chapter()).arg(shown));
+    quickMove->remember(u"%1%2:%3"_s.arg(bookAbbreviation(book())).arg(chapter()).arg(shown));
     // Whoever has typed a place wants to read, mark and copy there.
     if (quickMove->isTyping())
         shownView().setFocus();

@@ -3,11 +3,9 @@
 
 namespace lumen {
 
-bool MoveHistory::add(const QString& reference, const QString& entry)
+bool MoveHistory::add(const QString& entry)
 {
-    // The typed text is what is looked for, not the entry: a place that is typed in two ways
-    // stands in the list twice. This is meant.
-    if (m_entries.contains(reference))
+    if (m_entries.contains(entry))
         return false;
     m_entries.prepend(entry);
     if (m_entries.size() > kMaxEntries)

@@ -12,9 +12,9 @@ class MoveHistory
 public:
     static constexpr int kMaxEntries = 30;
 
-    /// Takes a move over: `reference` as it was typed, `entry` the short reference it led to.
-    /// True when the entry was added, as the first.
-    bool add(const QString& reference, const QString& entry);
+    /// Takes over the short reference that a move led to, however it was typed. True when it was
+    /// added, as the first; a place that is there already stays where it is.
+    bool add(const QString& entry);
     const QStringList& entries() const { return m_entries; }
 
 private:

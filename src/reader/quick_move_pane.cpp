@@ -29,9 +29,9 @@ QuickMovePane::QuickMovePane(QWidget* parent) : QWidget(parent)
     }
 }
 
-void QuickMovePane::remember(const QString& reference, const QString& entry)
+void QuickMovePane::remember(const QString& entry)
 {
-    if (!m_history.add(reference, entry))
+    if (!m_history.add(entry))
         return;
     lst즉석이동->Clear();
     lst즉석이동->AddItems(m_history.entries());

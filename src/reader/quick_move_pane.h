@@ -21,7 +21,7 @@ public:
 
     /// Takes a move that succeeded into the history and selects it there; one that the history
     /// has already is left alone.
-    void remember(const QString& reference, const QString& entry);
+    void remember(const QString& entry);
     const QStringList& history() const { return m_history.entries(); }
     /// Puts the focus into the box, its text selected.
     void startTyping();

@@ -32,6 +32,10 @@ constexpr std::array kLettersOfJohn{
 };
 
 constexpr int kLongestAbbreviation = 2;
+constexpr int kPsalms = 18; // zero-based
+
+/// How far the words of a reader may lie from the forms that the program itself writes.
+enum class Reading { Exact, Loose };
 
 bool isDigit(QChar character)
 {
@@ -49,55 +53,127 @@ qsizetype firstPosition(QStringView text, Test test)
     return std::find_if(text.cbegin(), text.cend(), test) - text.cbegin();
 }
 
-int findBook(QStringView name)
+// What an input method, another program or another system writes for the same signs: Hangul in
+// single letters, full-width digits and marks, blanks of any kind.
+QString inPlainSigns(const QString& typed)
 {
-    // So a full name of two syllables ("시편", "욥기") is not known. This is meant.
-    if (name.size() <= kLongestAbbreviation)
-        return BibleCode::GetBookNum(name);
+    constexpr char16_t kFirstFullWidth = 0xFF01;
+    constexpr char16_t kLastFullWidth = 0xFF5E;
+    constexpr char16_t kToAscii = 0xFEE0;
+    QString text = typed.normalized(QString::NormalizationForm_C);
+    for (QChar& character : text) {
+        const char16_t code = character.unicode();
+        if (character.isSpace())
+            character = u' ';
+        else if (code >= kFirstFullWidth && code <= kLastFullWidth)
+            character = QChar(char16_t(code - kToAscii));
+    }
+    return text;
+}
+
+// `hasShortLetter` tells that "요1 " and the like stood there.
+QString withLettersOfJohn(QString text, bool& hasShortLetter)
+{
+    for (const Replacement& row : kLettersOfJohn) {
+        const qsizetype before = text.size();
+        text.replace(row.written.toString(), row.meant.toString(), Qt::CaseInsensitive);
+        hasShortLetter = hasShortLetter || (row.written.endsWith(u' ') && text.size() != before);
+    }
+    return text;
+}
+
+int bookOfFullName(QStringView name)
+{
     for (int book = 0; book < kBookCount; ++book)
         if (bookName(book) == name)
             return book;
     return -1;
 }
 
-int numberOf(QStringView text)
+int findBook(QStringView name, Reading reading)
 {
-    return std::max(0, ValInt(Trim(text)));
+    if (reading == Reading::Exact)
+        return name.size() <= kLongestAbbreviation ? BibleCode::GetBookNum(name)
+                                                   : bookOfFullName(name);
+    const QString joined = name.toString().remove(u' ');
+    const int book = BibleCode::GetBookNum(joined);
+    return book >= 0 ? book : bookOfFullName(joined);
+}
+
+// Digits alone: Val would read a place out of "1.5", "1E1" and "1 2" that nobody has meant.
+std::optional<int> chapterNumber(QStringView text)
+{
+    const QStringView number = Trim(text);
+    if (!std::all_of(number.cbegin(), number.cend(), isDigit))
+        return std::nullopt;
+    return std::max(0, ValInt(number));
+}
+
+// "16", "16절", and of a range or a list its first verse.
+std::optional<int> verseNumber(QStringView text)
+{
+    static constexpr QStringView kRangeSigns = u"-~\u2010\u2011\u2012\u2013\u2014\u223C\u301C,;";
+    const QStringView trimmed = Trim(text);
+    const QStringView number =
+        trimmed.first(firstPosition(trimmed, [](QChar c) { return !isDigit(c); }));
+    QStringView rest = Trim(trimmed.mid(number.size()));
+    if (rest.startsWith(u'절'))
+        rest = Trim(rest.mid(1));
+    // Words behind a number don't change it; digits there would make it another one.
+    const bool hasDigits = std::any_of(rest.cbegin(), rest.cend(), isDigit);
+    const bool isRange = !number.isEmpty() && !rest.isEmpty() && kRangeSigns.contains(rest.front());
+    if (!rest.isEmpty() && (hasDigits || number.isEmpty()) && !isRange)
+        return std::nullopt;
+    return std::max(0, ValInt(number));
+}
+
+// A book of one chapter is cited by the verse alone: "유 3".
+std::optional<TypedReference> verseOfOnlyChapter(int book, QStringView numbers)
+{
+    if (numbers.isEmpty() || book < 0 || chapterCount(book) != 1)
+        return std::nullopt;
+    const auto verse = verseNumber(numbers);
+    if (!verse)
+        return std::nullopt;
+    return TypedReference{book, 1, *verse, {}};
+}
+
+// Leaves `reference` of the answer to the caller.
+std::optional<TypedReference> read(const QString& text, Reading reading)
+{
+    bool hasShortLetter = false;
+    const QString named = withLettersOfJohn(text, hasShortLetter);
+    const QStringView whole(named);
+    const qsizetype numbersAt =
+        firstPosition(whole, [](QChar c) { return isDigit(c) || isSeparator(c); });
+    const QStringView numbers = whole.mid(numbersAt);
+    const int book = findBook(Trim(whole.first(numbersAt)), reading);
+    const bool inPsalms = reading == Reading::Loose && book == kPsalms;
+    const qsizetype markAt = firstPosition(numbers, [inPsalms](QChar c) {
+        return isSeparator(c) || c == u'장' || (inPsalms && c == u'편');
+    });
+    // "요3 16" may as well mean the Gospel.
+    if (markAt == numbers.size())
+        return reading == Reading::Loose && !hasShortLetter ? verseOfOnlyChapter(book, numbers)
+                                                            : std::nullopt;
+    const auto chapter = chapterNumber(numbers.first(markAt));
+    const QStringView verseText = numbers.mid(markAt + 1);
+    const auto verse = verseText.isEmpty() ? 1 : verseNumber(verseText);
+    if (book < 0 || !chapter || !verse)
+        return std::nullopt;
+    return TypedReference{book, *chapter, *verse, verseText.isEmpty() ? u"1"_s : QString()};
 }
 
 } // namespace
 
 std::optional<TypedReference> parseTypedReference(const QString& reference)
 {
-    TypedReference result;
-    result.reference = reference;
-
-    QString text = reference;
-    for (const Replacement& row : kLettersOfJohn)
-        text.replace(row.written.toString(), row.meant.toString(), Qt::CaseInsensitive);
-
-    const QStringView whole(text);
-    const qsizetype numbersAt =
-        firstPosition(whole, [](QChar c) { return isDigit(c) || isSeparator(c); });
-    const QStringView numbers = whole.mid(numbersAt);
-    const qsizetype markAt =
-        firstPosition(numbers, [](QChar c) { return isSeparator(c) || c == u'장'; });
-    if (markAt == numbers.size())
-        return std::nullopt;
-
-    QStringView verse = numbers.mid(markAt + 1);
-    if (verse.isEmpty()) {
-        verse = u"1";
-        result.reference += u'1';
-    }
-    while (!verse.isEmpty() && !isDigit(verse.back()))
-        verse.chop(1);
-
-    result.book = findBook(Trim(whole.first(numbersAt)));
-    if (result.book < 0)
-        return std::nullopt;
-    result.chapter = numberOf(numbers.first(markAt));
-    result.verse = numberOf(verse);
+    const QString text = inPlainSigns(reference);
+    std::optional<TypedReference> result = read(text, Reading::Exact);
+    if (!result)
+        result = read(text, Reading::Loose);
+    if (result)
+        result->reference.prepend(reference);
     return result;
 }
 

@@ -20,8 +20,11 @@ struct TypedReference
     friend bool operator==(const TypedReference&, const TypedReference&) = default;
 };
 
-/// Reads loose Korean references: "요 3:16", "요한복음 3:16", "창3장", "요한 1서 1:9". Nothing when
-/// the text has no number, no mark behind the chapter or no known book.
+/// Reads loose Korean references: "요 3:16", "요한복음 3:16", "창3장", "요한 1서 1:9"; where those
+/// forms name no place also "시 23편", "사무엘 상 3:1", and of a book of one chapter "유 3".
+/// Decomposed Hangul, full-width signs and blanks of any kind are read as the plain ones. Nothing
+/// when the text has no known book, no mark behind the chapter, or anything but digits and blanks
+/// as a number.
 std::optional<TypedReference> parseTypedReference(const QString& reference);
 
 /// A number held against the highest one there is.

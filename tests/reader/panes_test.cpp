@@ -110,7 +110,7 @@ protected:
     {
         pane.onMove = [this](QString& reference) {
             moves << reference;
-            pane.remember(reference, entry.isEmpty() ? reference : entry);
+            pane.remember(entry.isEmpty() ? reference : entry);
         };
         pane.resize(200, 400);
         showActive(pane);
@@ -134,8 +134,8 @@ TEST_F(QuickMovePaneTest, EnterAndButtonGoToTheTypedPlace)
 
 TEST_F(QuickMovePaneTest, ADoubleClickGoesBackWithoutANewEntry)
 {
-    pane.remember(u"창1:1"_s, u"창1:1"_s);
-    pane.remember(u"요3:16"_s, u"요3:16"_s);
+    pane.remember(u"창1:1"_s);
+    pane.remember(u"요3:16"_s);
     doubleClick(*pane.lst즉석이동, 1);
     EXPECT_EQ(moves, QStringList{u"창1:1"_s});
     EXPECT_EQ(items(*pane.lst즉석이동), (QStringList{u"요3:16"_s, u"창1:1"_s}));
