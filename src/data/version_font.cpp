@@ -2,6 +2,7 @@
 #include "data/version_font.h"
 
 #include "text/basic_text.h"
+#include "text/original_unicode.h"
 #include "text/rtf_tables.h"
 
 #include <array>
@@ -85,6 +86,27 @@ VersionFont screenFont(int code, const FontSettings& settings)
 }
 
 } // namespace
+
+Script scriptOf(int code)
+{
+    if (isHebrewVersion(code))
+        return Script::Hebrew;
+    const FontRow* row = rowOf(code);
+    return row != nullptr && row->family == u"OrvaneGrk" ? Script::Greek : Script::Other;
+}
+
+QString unicodeText(int code, const QString& stored)
+{
+    switch (scriptOf(code)) {
+    case Script::Hebrew:
+        return hebrewToUnicode(stored);
+    case Script::Greek:
+        return greekToUnicode(stored);
+    case Script::Other:
+        break;
+    }
+    return stored;
+}
 
 FontSettings defaultFontSettings()
 {

@@ -25,6 +25,13 @@ constexpr bool isHebrewVersion(int code)
     return code >= 301 && code <= 303;
 }
 
+/// In which letters a version is stored: Hebrew and Greek as codes of the program's fonts.
+enum class Script { Hebrew, Greek, Other };
+Script scriptOf(int code);
+/// A stored text (unscrambled) as any other program reads it: Hebrew and Greek as Unicode in
+/// reading order.
+QString unicodeText(int code, const QString& stored);
+
 /// The font of one user slot; the size is kept as the text that the settings hold.
 struct UserFont
 {

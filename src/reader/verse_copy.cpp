@@ -2,7 +2,6 @@
 #include "reader/verse_copy.h"
 
 #include "data/version_font.h"
-#include "text/original_unicode.h"
 #include "text/rtf_composer.h"
 
 #include <QStringList>
@@ -15,26 +14,9 @@ namespace {
 
 constexpr RgbLong kNumberColor = RGB(0, 0, 255);
 
-enum class Script { Hebrew, Greek, Other };
-
-Script scriptOf(int code)
-{
-    if (isHebrewVersion(code))
-        return Script::Hebrew;
-    return code >= 304 && code <= 320 ? Script::Greek : Script::Other;
-}
-
 QString unicodeOf(const CopiedVerse& verse)
 {
-    switch (scriptOf(verse.code)) {
-    case Script::Hebrew:
-        return hebrewToUnicode(verse.text);
-    case Script::Greek:
-        return greekToUnicode(verse.text);
-    case Script::Other:
-        break;
-    }
-    return verse.text;
+    return unicodeText(verse.code, verse.text);
 }
 
 /// What stands behind a verse number: as in the text view, where stored Hebrew runs from the right.
