@@ -228,6 +228,7 @@ ExtractSettings readExtractSettings(RegistryStore& registry)
     settings.VerLf = readSwitch(registry, u"VerLf"_s, standard.VerLf);
     settings.ToClip = readSwitch(registry, u"ToClip"_s, standard.ToClip);
     settings.Tail = readSwitch(registry, u"Tail"_s, standard.Tail);
+    settings.Folder = readText(registry, u"Folder"_s);
     return settings;
 }
 
@@ -243,6 +244,7 @@ void saveExtractSettings(RegistryStore& registry, const ExtractSettings& setting
     writeSwitch(registry, u"VerLf"_s, settings.VerLf);
     writeSwitch(registry, u"ToClip"_s, settings.ToClip);
     writeSwitch(registry, u"Tail"_s, settings.Tail);
+    registry.SetValue(u"Folder"_s, settings.Folder, ValueKind::String);
 }
 
 } // namespace lumen

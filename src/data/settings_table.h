@@ -116,6 +116,7 @@ struct ExtractSettings
     bool VerLf = false;
     bool ToClip = true;
     bool Tail = false;
+    QString Folder; ///< native, of the last file; "" before the first
 };
 
 ExtractSettings readExtractSettings(RegistryStore& registry);

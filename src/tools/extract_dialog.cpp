@@ -10,6 +10,8 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace lumen {
 
 using namespace Qt::StringLiterals;
@@ -60,10 +62,11 @@ void dlog성서추출::deliver(const QString& text, const ExtractRange& range)
 bool dlog성서추출::writeFile(const QString& text, const ExtractRange& range)
 {
     const SaveRequest request{u"텍스트 파일로 추출"_s, u"텍스트 파일 (*.txt)|*.txt"_s, u".txt"_s,
-                              extractFileName(range)};
+                              extractFileName(range), settings().Folder};
     const auto path = services().fileDialogs.save(this, request);
     if (!path)
         return false;
+    settings().Folder = path->first(std::max<qsizetype>(0, path->lastIndexOf(u'/')));
     if (services().files.FileExists(*path) &&
         services().messages.show(this, messages::kExtractOverwrite) == Answer::No)
         return false;

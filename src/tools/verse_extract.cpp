@@ -3,6 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
+#include "data/version_font.h"
 #include "platform/jet/recordset.h"
 #include "text/basic_text.h"
 #include "text/codepage949.h"
@@ -16,9 +17,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString rowsQuery(const QString& table, const QString& keyPrefix)
+QString rowsQuery(QStringView column, const QString& table, const QString& keyPrefix)
 {
-    return u"select chap from ["_s + table + u"] where index like '"_s + keyPrefix + u":*'"_s;
+    return u"select %1 from [%2] where index like '%3:*'"_s.arg(column, table, keyPrefix);
+}
+
+void fillGaps(ExtractRange& range, const ExtractLimits& limits)
+{
+    range.chapter = std::max(1, range.chapter);
+    range.firstVerse = std::max(1, range.firstVerse);
+    if (range.lastVerse < 1)
+        range.lastVerse = std::max(range.firstVerse, limits.verses);
 }
 
 } // namespace
@@ -26,12 +35,14 @@ QString rowsQuery(const QString& table, const QString& keyPrefix)
 std::vector<RangeMending> mendRange(ExtractRange& range, const ExtractLimits& limits)
 {
     std::vector<RangeMending> mendings;
+    fillGaps(range, limits);
     if (range.firstVerse > range.lastVerse) {
         std::swap(range.firstVerse, range.lastVerse);
         mendings.push_back(RangeMending::Swapped);
     }
     if (limits.verses > 0 && range.lastVerse > limits.verses) {
         range.lastVerse = limits.verses;
+        range.firstVerse = std::min(range.firstVerse, limits.verses);
         mendings.push_back(RangeMending::LastVerse);
     }
     if (limits.chapters > 0 && range.chapter > limits.chapters) {
@@ -41,18 +52,21 @@ std::vector<RangeMending> mendRange(ExtractRange& range, const ExtractLimits& li
     return mendings;
 }
 
-std::optional<QString> composeExtract(Recordset& rows, const ExtractRange& range,
+std::optional<QString> composeExtract(Recordset& rows, int code, const ExtractRange& range,
                                       const ExtractForm& form)
 {
-    if (rows.Eof() || rows.Fields(u"cont").Value().isNull())
-        return std::nullopt;
     QString text;
     for (; !rows.Eof(); rows.MoveNext()) {
+        const QString stored = DES::UnscrambleField(Text(rows.Fields(u"cont")));
+        if (stored.isEmpty())
+            continue;
         if (form.verseNumbers)
             text += Text(rows.Fields(u"verse")) + u' ';
-        text += DES::UnscrambleField(Text(rows.Fields(u"cont")));
+        text += unicodeText(code, stored);
         text += form.linePerVerse ? u"\r\n"_s : u" "_s;
     }
+    if (text.isEmpty())
+        return std::nullopt;
     if (form.tail)
         text += extractTail(range);
     return text;
@@ -86,12 +100,12 @@ QByteArray extractFileContent(const QString& text)
 
 QString bookRowsQuery(const QString& table, int book)
 {
-    return rowsQuery(table, BibleCode::bookPrefix(book));
+    return rowsQuery(u"chap", table, BibleCode::bookPrefix(book));
 }
 
 QString chapterRowsQuery(const QString& table, int book, int chapter)
 {
-    return rowsQuery(table, BibleCode::chapterPrefix(book, chapter));
+    return rowsQuery(u"verse", table, BibleCode::chapterPrefix(book, chapter));
 }
 
 QString extractQuery(const QString& table, const ExtractRange& range)
@@ -113,6 +127,14 @@ int highestChapter(Recordset& rows, int book)
             ValInt(
                 QStringView(chapterKey).sliced(std::min(abbreviationLength, chapterKey.size()))));
     }
+    return highest;
+}
+
+int highestVerse(Recordset& rows)
+{
+    int highest = 0;
+    for (; !rows.Eof(); rows.MoveNext())
+        highest = std::max(highest, ValInt(Text(rows.Fields(u"verse"))));
     return highest;
 }
 

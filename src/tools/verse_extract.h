@@ -23,7 +23,7 @@ struct ExtractRange
     friend bool operator==(const ExtractRange&, const ExtractRange&) = default;
 };
 
-/// How many chapters the book and how many verses the chapter has in the chosen version. 0 when the
+/// The last chapter of the book and the last verse of the chapter in the chosen version. 0 when the
 /// version lacks the book; nothing is held against it then.
 struct ExtractLimits
 {
@@ -34,7 +34,9 @@ struct ExtractLimits
 /// What was wrong with a range and has been mended.
 enum class RangeMending { Swapped, LastVerse, LastChapter };
 
-/// Mends the range and tells what was done, in the order in which the user is told.
+/// Mends the range and tells what was done, in the order in which the user is told. A range that
+/// lies behind the last verse becomes that verse; a number that was left out is the first verse,
+/// and of the last one the chapter's end.
 std::vector<RangeMending> mendRange(ExtractRange& range, const ExtractLimits& limits);
 
 /// How the verses are put together.
@@ -45,9 +47,9 @@ struct ExtractForm
     bool tail = false;         ///< the reference at the end
 };
 
-/// The composed text of the rows that extractQuery gives. Nothing when there is no row or the first
-/// one has no text.
-std::optional<QString> composeExtract(Recordset& rows, const ExtractRange& range,
+/// The composed text of the rows that extractQuery gives; Hebrew and Greek of the version `code` as
+/// Unicode. A verse without text is left out. Nothing when no row has text.
+std::optional<QString> composeExtract(Recordset& rows, int code, const ExtractRange& range,
                                       const ExtractForm& form);
 
 /// "(창세기 1:1~3)", or "(창세기 1:1)" for a single verse.
@@ -64,5 +66,8 @@ QString chapterRowsQuery(const QString& table, int book, int chapter);
 QString extractQuery(const QString& table, const ExtractRange& range);
 /// The highest chapter among the rows of bookRowsQuery, 0 when there is none.
 int highestChapter(Recordset& rows, int book);
+/// The highest verse number among the rows of chapterRowsQuery, 0 when there is none. Versions
+/// leave verses out, so this is not their count.
+int highestVerse(Recordset& rows);
 
 } // namespace lumen

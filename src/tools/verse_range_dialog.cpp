@@ -186,12 +186,36 @@ void VerseRangeDialog::cb버전_Click()
         return;
     }
     m_version = choice;
-    if (cb책명->ListIndex() >= 0)
-        fillChapters(connect_text::kDialog);
+    if (cb책명->ListIndex() < 0)
+        return;
+    keepRange();
+    fillChapters(connect_text::kDialog);
+    showKeptRange();
+}
+
+void VerseRangeDialog::keepRange()
+{
+    if (cb시작절->ListCount() == 0)
+        return; // a version without the book; the range of the one before it stays in mind
+    m_kept = typedRange();
+    m_keptToEnd = m_kept->lastVerse == cb끝절->ListCount();
+}
+
+void VerseRangeDialog::showKeptRange()
+{
+    if (!m_kept || cb장->ListCount() == 0)
+        return;
+    cb장->setListIndex(std::clamp(m_kept->chapter, 1, cb장->ListCount()) - 1);
+    const int verses = cb끝절->ListCount();
+    if (verses == 0)
+        return;
+    showNumber(*cb시작절, std::clamp(m_kept->firstVerse, 1, verses));
+    showNumber(*cb끝절, m_keptToEnd ? verses : std::clamp(m_kept->lastVerse, 1, verses));
 }
 
 void VerseRangeDialog::cb책명_Click()
 {
+    m_kept.reset();
     fillChapters(connect_text::kDialogBookChange);
 }
 
@@ -249,7 +273,7 @@ int VerseRangeDialog::versesIn(int chapter)
 {
     dac기본.RecordSource = chapterRowsQuery(m_version.tableName, cb책명->ListIndex(), chapter);
     dac기본.Refresh();
-    return dac기본.Recordset()->RecordCount();
+    return highestVerse(*dac기본.Recordset());
 }
 
 ExtractRange VerseRangeDialog::typedRange() const
@@ -282,7 +306,7 @@ void VerseRangeDialog::takeVerses()
     dac기본.RecordSource = extractQuery(m_version.tableName, range);
     dac기본.Refresh();
     const ExtractForm form{chkVerNum->isChecked(), chkVerLf->isChecked(), chkTail->isChecked()};
-    const auto text = composeExtract(*dac기본.Recordset(), range, form);
+    const auto text = composeExtract(*dac기본.Recordset(), m_version.code, range, form);
     if (text)
         deliver(*text, range);
     else

@@ -13,6 +13,8 @@
 #include <QDialog>
 #include <QPushButton>
 
+#include <optional>
+
 class QBoxLayout;
 
 namespace lumen {
@@ -73,6 +75,8 @@ private:
     int versesIn(int chapter);
     void fillChapters(QStringView connect);
     void fillVerses();
+    void keepRange();
+    void showKeptRange();
     ExtractRange typedRange() const;
     void showRange(const ExtractRange& range);
 
@@ -83,6 +87,10 @@ private:
     ChosenVersion m_version;
     DataControl dac기본;
     ExtractSettings m_settings;
+    /// What a change of version keeps: the range that was shown last, and whether it went to the
+    /// chapter's end. Nothing for a book that was just chosen.
+    std::optional<ExtractRange> m_kept;
+    bool m_keptToEnd = false;
     QBoxLayout* m_ownControls = nullptr;
     QPushButton* m_command;
 };

@@ -193,7 +193,7 @@ TEST_F(SettingsTableTest, UserFontsHaveTheirDefaultsBySlot)
 
 TEST_F(SettingsTableTest, ExtractionChoicesSurvive)
 {
-    ExtractSettings settings{8, 42, 2, 15, 17, true, true, false, true};
+    ExtractSettings settings{8, 42, 2, 15, 17, true, true, false, true, u"/글"_s};
     saveExtractSettings(registry, settings);
     const ExtractSettings again = readExtractSettings(registry);
     EXPECT_EQ(again.Version, 8);
@@ -201,6 +201,7 @@ TEST_F(SettingsTableTest, ExtractionChoicesSurvive)
     EXPECT_EQ(again.ChapNum, 2);
     EXPECT_EQ(again.SVerse, 15);
     EXPECT_EQ(again.EVerse, 17);
+    EXPECT_EQ(again.Folder, settings.Folder);
     EXPECT_TRUE(again.AtchVerNum && again.VerLf && again.Tail);
     EXPECT_FALSE(again.ToClip);
     set(u"BookNum"_s, u"99"_s, u"Extract"_s);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "support/active_window.h"
 #include "support/tiny_data.h"
+#include "text/original_unicode.h"
 #include "tools/extract_dialog.h"
 #include "tools/insert_dialog.h"
 
@@ -80,13 +81,50 @@ TEST_F(ExtractDialogTest, ListsFollowVersionBookAndChapter)
     EXPECT_EQ(dialog->cb장->ListCount(), 2);
     EXPECT_EQ(dialog->cb시작절->ListCount(), 31);
     EXPECT_EQ(dialog->cb끝절->Text(), u"31"_s);
-    dialog->cb장->setListIndex(1);
-    EXPECT_EQ(dialog->cb끝절->ListCount(), 3);
-    dialog->cb버전->setListIndex(dialog->cb버전->findItem(u"KJV"_s));
-    EXPECT_EQ(dialog->cb시작절->ListCount(), 29);
     type(*dialog->cb장, u"2"_s);
     dialog->cb시작절->setFocus();
     EXPECT_EQ(dialog->cb끝절->ListCount(), 3) << "a typed chapter fills the lists too";
+}
+
+TEST_F(ExtractDialogTest, AnotherVersionKeepsChapterAndVerses)
+{
+    const auto dialog = open<dlog성서추출>();
+    const auto range = [&dialog] {
+        return dialog->cb장->currentText() + u':' + dialog->cb시작절->currentText() + u'-' +
+               dialog->cb끝절->currentText();
+    };
+    const auto chooseVersion = [&dialog](const QString& name) {
+        dialog->cb버전->setListIndex(dialog->cb버전->findItem(name));
+    };
+    choose(*dialog, u"개역한글"_s, kJohn, 3);
+    verses(*dialog, u"4"_s, u"7"_s);
+    chooseVersion(u"KJV"_s);
+    EXPECT_EQ(range(), u"3:4-7"_s);
+    chooseVersion(u"BHS"_s); // without John
+    chooseVersion(u"개역한글"_s);
+    EXPECT_EQ(range(), u"3:4-7"_s);
+
+    choose(*dialog, u"개역한글"_s, kGenesis, 1);
+    chooseVersion(u"KJV"_s);
+    EXPECT_EQ(range(), u"1:1-29"_s) << "a range to the end stays one";
+}
+
+TEST_F(ExtractDialogTest, WhatLeavesTheProgramIsUnicodeWithoutEmptyVerses)
+{
+    const auto dialog = open<dlog성서추출>();
+    choose(*dialog, u"BHS"_s, kGenesis, 1);
+    verses(*dialog, u"1"_s, u"1"_s);
+    expectDone(Answer::Yes);
+    press(*dialog, u"cmd추출");
+    EXPECT_EQ(world.clipboard.plainText(),
+              hebrewToUnicode(TinyData::text(301, kGenesis, 1, 1)) + u' ');
+
+    choose(*dialog, u"개역한글"_s, kGenesis, 1);
+    verses(*dialog, u"5"_s, u"6"_s); // the first of them has no text
+    dialog->chkVerNum->setChecked(true);
+    expectDone(Answer::Yes);
+    press(*dialog, u"cmd추출");
+    EXPECT_EQ(world.clipboard.plainText(), u"6 "_s + TinyData::text(101, kGenesis, 1, 6) + u' ');
 }
 
 TEST_F(ExtractDialogTest, VersesGoToTheClipboardInTheChosenForm)
@@ -126,6 +164,22 @@ TEST_F(ExtractDialogTest, ABadRangeIsToldAndMended)
     EXPECT_TRUE(world.clipboard.plainText().endsWith(u"(요한복음 3:5~16)"));
     EXPECT_EQ(dialog->cb시작절->Text(), u"5"_s);
     EXPECT_EQ(dialog->cb끝절->Text(), u"16"_s);
+}
+
+TEST_F(ExtractDialogTest, TheSaveDialogOpensInTheFolderOfTheLastFile)
+{
+    auto dialog = open<dlog성서추출>();
+    dialog->OptFile->setChecked(true);
+    world.fileDialogs.answerSave(world.folders.root() + u"/verses.txt"_s);
+    world.messages.expect(u"추출 확인"_s,
+                          u"파일로의 추출이 완료되었습니다. 추출을 계속 하시겠습니까?"_s, 68,
+                          Answer::No);
+    press(*dialog, u"cmd추출");
+    dialog = open<dlog성서추출>();
+    world.fileDialogs.answerSave({});
+    press(*dialog, u"cmd추출");
+    EXPECT_EQ(world.fileDialogs.saveRequests.first().folder, QString());
+    EXPECT_EQ(world.fileDialogs.saveRequests.last().folder, world.folders.root());
 }
 
 TEST_F(ExtractDialogTest, AChapterBeyondTheBookBecomesItsLast)

@@ -28,6 +28,9 @@ TEST(VerseExtractTest, ABadRangeIsMendedInTheOrderOfTheMessages)
         {{0, 1, 1, 32}, {0, 1, 1, 31}, {RangeMending::LastVerse}},
         {{0, 50, 31, 31}, {0, 50, 31, 31}, {}},
         {{0, 51, 1, 2}, {0, 50, 1, 2}, {RangeMending::LastChapter}},
+        {{0, 1, 40, 45}, {0, 1, 31, 31}, {RangeMending::LastVerse}},
+        {{0, 0, 0, 0}, {0, 1, 1, 31}, {}},
+        {{0, 1, 3, 0}, {0, 1, 3, 31}, {}},
         {{0, 99, 99, 2},
          {0, 50, 2, 31},
          {RangeMending::Swapped, RangeMending::LastVerse, RangeMending::LastChapter}},
@@ -58,7 +61,7 @@ TEST(VerseExtractTest, QueriesNameTableBookAndRange)
     EXPECT_EQ(bookRowsQuery(u"BHS 자음"_s, 0),
               u"select chap from [BHS 자음] where index like '01창:*'"_s);
     EXPECT_EQ(chapterRowsQuery(u"KJV"_s, 42, 3),
-              u"select chap from [KJV] where index like '43요:003:*'"_s);
+              u"select verse from [KJV] where index like '43요:003:*'"_s);
     EXPECT_EQ(extractQuery(u"KJV"_s, {18, 119, 2, 176}),
               u"select * from [KJV] where index like '19시:119:*' and Verse >= 2 and Verse <= 176 "
               "order by index"_s);

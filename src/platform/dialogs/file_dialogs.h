@@ -17,6 +17,7 @@ struct SaveRequest
     QString filter;           ///< "텍스트 파일 (*.txt)|*.txt"
     QString defaultExtension; ///< ".txt"
     QString name;
+    QString folder{}; ///< native; where it is "" or gone, the user's documents
 };
 
 /// The common dialogs: a native path or a colour, nothing when the user cancelled.

@@ -34,7 +34,10 @@ QString withExtension(const QString& path, const QString& extension)
 
 std::optional<QString> QtFileDialogs::save(QWidget* parent, const SaveRequest& request)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const bool hasFolder = !request.folder.isEmpty() && QFileInfo(request.folder).isDir();
+    const QString folder =
+        hasFolder ? request.folder
+                  : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QFileDialog dialog(parent, request.title, folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
