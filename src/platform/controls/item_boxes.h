@@ -9,7 +9,7 @@
 
 namespace lumen {
 
-/// A combo box as the program's rules speak of it; items count from 0. onClick runs when the user
+/// A combo box whose event the windows can rely on; items count from 0. onClick runs when the user
 /// picks an item, also the current one, and when code sets another list index; not when code sets
 /// the index that is set already, and not while items are added or cleared.
 class ComboBox : public QComboBox

@@ -5,7 +5,7 @@
 
 namespace lumen {
 
-/// A twip is 1/1440 inch; the settings and the rules of the windows count in twips.
+/// A twip is 1/1440 inch; settings and window places count in twips, whatever the screen.
 inline constexpr int kTwipsPerInch = 1440;
 
 /// The logical resolution of the primary screen in dots per inch; 96 without a screen.

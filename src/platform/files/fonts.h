@@ -6,8 +6,9 @@
 
 namespace lumen {
 
-/// Fonts known to the program. The fonts that the rules name and no Linux has (굴림, 굴림체,
-/// 바탕체, MS Song, the Western ones of the modules) are substituted by installed ones.
+/// Fonts known to the program. The Korean fonts that settings and documents name and no Linux has
+/// (굴림, 굴림체, 바탕체, MS Song, the Western ones of the modules) are substituted by installed
+/// ones.
 class Fonts
 {
 public:
