@@ -6,6 +6,7 @@
 #include "import/import_command.h"
 #include "platform/jet/jet_error.h"
 #include "platform/log.h"
+#include "sources/sword_process.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -31,6 +32,7 @@ constexpr std::array kCommands{
     Command{u"check", runCheck},
     Command{u"import", runImport},
     Command{u"list", runList},
+    Command{kReadSwordCommand, runReadSword},
 };
 
 QString usage()

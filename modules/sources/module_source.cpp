@@ -3,6 +3,7 @@
 
 #include "sources/json_readers.h"
 #include "sources/osis_reader.h"
+#include "sources/sword_process.h"
 #include "sources/usfm_reader.h"
 
 #include <QDateTime>
@@ -19,7 +20,7 @@ VersionResult readSource(const ModuleSource& source)
     const QString file = source.files.value(0);
     switch (source.format) {
     case SourceFormat::Sword:
-        return readSwordModule(source.sword);
+        return readSwordApart(source.sword);
     case SourceFormat::Osis:
         return readOsisFile(file);
     case SourceFormat::OsisWithNumbers:

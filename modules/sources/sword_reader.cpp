@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "sources/sword_reader.h"
 
+#include "canon/canon_table.h"
 #include "sources/book_names.h"
 #include "sources/markup_scanner.h"
 #include "sources/osis_collector.h"
+#include "sources/sword_index.h"
 #include "sources/text_cleaning.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 
+#include <array>
 #include <markupfiltmgr.h>
 #include <memory>
 #include <mutex>
@@ -18,6 +22,7 @@
 #include <swmgr.h>
 #include <swmodule.h>
 #include <versekey.h>
+#include <versificationmgr.h>
 
 namespace lumen {
 
@@ -37,29 +42,130 @@ QString confValue(const QString& confFile, QStringView key)
     return {};
 }
 
+QString moduleValue(const sword::SWModule& module, const char* key)
+{
+    return QString::fromUtf8(module.getConfigEntry(key)).trimmed();
+}
+
+template <typename Choice>
+struct ConfWord
+{
+    QStringView word;
+    Choice choice;
+};
+
+// What a key of the conf file may say. A word that is none of these is a damaged file: the library
+// would read on with a guess.
+template <typename Choice, std::size_t kCount>
+std::optional<Choice> chosen(const sword::SWModule& module, const char* key,
+                             const ConfWord<Choice> (&words)[kCount])
+{
+    const QString value = moduleValue(module, key);
+    for (const ConfWord<Choice>& one : words)
+        if (value.compare(one.word, Qt::CaseInsensitive) == 0)
+            return one.choice;
+    return std::nullopt;
+}
+
+enum class Markup { Osis, Other };
+enum class Encoding { Utf8, Other };
+
+struct SwordConf
+{
+    SwordLayout layout;
+    Markup markup = Markup::Other;
+    Encoding encoding = Encoding::Other;
+};
+
+struct Driver
+{
+    bool packed = false;
+    bool wideSizes = false;
+};
+
+using Compression = SwordLayout::Compression;
+constexpr ConfWord<Driver> kDrivers[] = {{u"RawText", {false, false}},
+                                         {u"RawText4", {false, true}},
+                                         {u"zText", {true, false}},
+                                         {u"zText4", {true, true}}};
+constexpr ConfWord<Compression> kCompressions[] = {{u"", Compression::Lzss},
+                                                   {u"LZSS", Compression::Lzss},
+                                                   {u"ZIP", Compression::Zip},
+                                                   {u"BZIP2", Compression::Bzip2},
+                                                   {u"XZ", Compression::Xz}};
+constexpr ConfWord<char> kBlocks[] = {
+    {u"", 'c'}, {u"BOOK", 'b'}, {u"CHAPTER", 'c'}, {u"VERSE", 'v'}};
+constexpr ConfWord<Markup> kMarkups[] = {{u"", Markup::Other},    {u"Plaintext", Markup::Other},
+                                         {u"OSIS", Markup::Osis}, {u"ThML", Markup::Other},
+                                         {u"GBF", Markup::Other}, {u"TEI", Markup::Other}};
+constexpr ConfWord<Encoding> kEncodings[] = {{u"", Encoding::Other},
+                                             {u"Latin-1", Encoding::Other},
+                                             {u"UTF-8", Encoding::Utf8},
+                                             {u"UTF-16", Encoding::Other},
+                                             {u"SCSU", Encoding::Other}};
+
+bool isKnownNumbering(const QString& name)
+{
+    const auto* known = sword::VersificationMgr::getSystemVersificationMgr();
+    return name.isEmpty() || known->getVersificationSystem(name.toUtf8().constData());
+}
+
+Result<SwordConf> readConf(const sword::SWModule& module, const QString& confFile)
+{
+    const auto driver = chosen(module, "ModDrv", kDrivers);
+    const auto compression = chosen(module, "CompressType", kCompressions);
+    const auto block = chosen(module, "BlockType", kBlocks);
+    const auto markup = chosen(module, "SourceType", kMarkups);
+    const auto encoding = chosen(module, "Encoding", kEncodings);
+    const char* wrong = !driver                                                   ? "ModDrv"
+                        : !compression                                            ? "CompressType"
+                        : !block                                                  ? "BlockType"
+                        : !markup                                                 ? "SourceType"
+                        : !encoding                                               ? "Encoding"
+                        : !isKnownNumbering(moduleValue(module, "Versification")) ? "Versification"
+                                                                                  : nullptr;
+    if (wrong)
+        return sourceFailure(
+            confFile, 0,
+            u"알 수 없는 값입니다: %1=%2"_s.arg(QLatin1String(wrong), moduleValue(module, wrong)));
+    SwordConf conf{{}, *markup, *encoding};
+    conf.layout.folder = QDir::cleanPath(moduleValue(module, "AbsoluteDataPath"));
+    conf.layout.compression = driver->packed ? *compression : Compression::None;
+    conf.layout.wideSizes = driver->wideSizes;
+    conf.layout.blockLetter = *block;
+    conf.layout.enciphered = !moduleValue(module, "CipherKey").isEmpty();
+    return conf;
+}
+
 // Walks over a module from its first entry to its last and makes verses of them.
 class SwordWalk
 {
 public:
-    explicit SwordWalk(sword::SWModule& module)
-        : m_module(module), m_isOsis(qstricmp(module.getConfigEntry("SourceType"), "OSIS") == 0)
+    SwordWalk(sword::SWModule& module, const SwordConf& conf, QString confFile)
+        : m_module(module), m_conf(conf), m_confFile(std::move(confFile))
     {
     }
 
-    VersionText run();
+    VersionResult run();
 
 private:
+    std::optional<Failure> readIndex(sword::VerseKey& key);
     void visit(sword::VerseKey& key);
     void visitBook(const char* id);
     void visitIntroduction(const QString& entry);
     bool isLinkedToTheOneBefore(const sword::VerseKey& key, const QByteArray& entry) const;
     void visitVerse(const sword::VerseKey& key, const QByteArray& entry);
+    void checkEntry(const sword::VerseKey& key, const QByteArray& entry);
+    void noteHoles();
     void dropBooksAndChaptersWithoutText(VersionText& version) const;
 
     sword::SWModule& m_module;
-    bool m_isOsis;
+    SwordConf m_conf;
+    QString m_confFile;
+    std::array<SwordTestament, 2> m_index;
     OsisCollector m_collector;
     VersionText m_version;
+    std::optional<Failure> m_failure;
     QByteArray m_bookId;
     std::optional<int> m_book;
     QByteArray m_entryBefore;
@@ -67,23 +173,55 @@ private:
     std::set<std::pair<int, int>> m_chaptersWithText;
 };
 
-VersionText SwordWalk::run()
+VersionResult SwordWalk::run()
 {
     const std::unique_ptr<sword::SWKey> made(m_module.createKey());
     auto* key = dynamic_cast<sword::VerseKey*>(made.get());
     if (!key)
-        return {};
+        return sourceFailure(m_confFile, 0, u"성경 본문 모듈이 아닙니다."_s);
     key->setIntros(true);
+    if (auto failure = readIndex(*key))
+        return *failure;
     key->setPersist(true);
     m_module.setSkipConsecutiveLinks(false);
     m_module.setKey(*key);
-    for (key->setPosition(sword::TOP); !key->popError(); key->increment())
+    for (key->setPosition(sword::TOP); !key->popError() && !m_failure; key->increment())
         visit(*key);
     m_module.setKey("");
+    if (m_failure)
+        return *m_failure;
     if (!m_unknownBooks.isEmpty())
         m_version.remarks << u"정경에 없는 책을 뺐습니다: %1"_s.arg(m_unknownBooks.join(u", "_s));
+    noteHoles();
     dropBooksAndChaptersWithoutText(m_version);
     return std::move(m_version);
+}
+
+// What the numbering has room for tells how long the index of each testament must be.
+std::optional<Failure> SwordWalk::readIndex(sword::VerseKey& key)
+{
+    std::array<std::vector<bool>, 2> isCanonVerse;
+    for (key.setPosition(sword::TOP); !key.popError(); key.increment()) {
+        const int testament = key.getTestament();
+        if (testament < 1 || testament > 2)
+            continue;
+        auto& places = isCanonVerse[static_cast<std::size_t>(testament - 1)];
+        places.resize(static_cast<std::size_t>(key.getTestamentIndex()) + 1, false);
+        places.back() = key.getBook() > 0 && key.getChapter() > 0 && key.getVerse() > 0 &&
+                        BookNames::fromOsis(QString::fromLatin1(key.getOSISBookName()));
+    }
+    int lost = 0;
+    for (const std::size_t testament : {0U, 1U}) {
+        auto index = SwordTestament::read(m_conf.layout, testament == 0 ? u"ot"_s : u"nt"_s,
+                                          isCanonVerse[testament].size());
+        if (!index)
+            return index.failure();
+        lost += index.value().lostPieces(isCanonVerse[testament]);
+        m_index[testament] = std::move(index.value());
+    }
+    if (lost > 0)
+        m_version.losses << u"색인이 가리키지 않는 본문이 %1곳 있습니다."_s.arg(lost);
+    return std::nullopt;
 }
 
 void SwordWalk::visitBook(const char* id)
@@ -108,6 +246,7 @@ void SwordWalk::visit(sword::VerseKey& key)
             m_unknownBooks << id;
         return;
     }
+    checkEntry(key, entry);
     if (key.getChapter() < 1)
         return;
     if (key.getVerse() < 1)
@@ -116,10 +255,25 @@ void SwordWalk::visit(sword::VerseKey& key)
         visitVerse(key, entry);
 }
 
+// The library gives nothing, or signs that are no text, where it can't read what the index has.
+void SwordWalk::checkEntry(const sword::VerseKey& key, const QByteArray& entry)
+{
+    const auto testament = static_cast<std::size_t>(key.getTestament() - 1);
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(entry);
+    const bool isText = m_conf.encoding != Encoding::Utf8 || !decoder.hasError();
+    if (isText && entry.isEmpty() != m_index[testament].hasText(key.getTestamentIndex()))
+        return;
+    m_failure = sourceFailure(m_confFile, 0,
+                              u"%1 %2:%3의 본문이 손상되었습니다."_s.arg(bookName(*m_book))
+                                  .arg(key.getChapter())
+                                  .arg(key.getVerse()));
+}
+
 void SwordWalk::visitIntroduction(const QString& entry)
 {
     m_collector.reset();
-    if (!m_isOsis)
+    if (m_conf.markup != Markup::Osis)
         return;
     scanMarkup(entry, m_collector);
     // With words of its own it is an introduction, and its titles are that text's.
@@ -144,7 +298,7 @@ void SwordWalk::visitVerse(const sword::VerseKey& key, const QByteArray& entry)
     VerseText verse{*m_book, key.getChapter(), key.getVerse(), {}, {}, {}};
     const bool linked = isLinkedToTheOneBefore(key, entry);
     m_entryBefore = entry;
-    if (m_isOsis) {
+    if (m_conf.markup == Markup::Osis) {
         if (!linked)
             scanMarkup(QString::fromUtf8(entry), m_collector);
         m_collector.takeVerse(verse);
@@ -154,6 +308,21 @@ void SwordWalk::visitVerse(const sword::VerseKey& key, const QByteArray& entry)
     if (verse.text)
         m_chaptersWithText.insert({verse.book, verse.chapter});
     m_version.verses.push_back(std::move(verse));
+}
+
+// A chapter that the numbering has and that is empty amid a book with words.
+void SwordWalk::noteHoles()
+{
+    std::set<std::pair<int, int>> empty;
+    std::set<int> books;
+    for (const auto& [book, chapter] : m_chaptersWithText)
+        books.insert(book);
+    for (const VerseText& verse : m_version.verses)
+        if (books.contains(verse.book) && verse.chapter <= chapterCount(verse.book) &&
+            !m_chaptersWithText.contains({verse.book, verse.chapter}))
+            empty.insert({verse.book, verse.chapter});
+    for (const auto& [book, chapter] : empty)
+        m_version.losses << u"%1 %2장에 본문이 없습니다."_s.arg(bookName(book)).arg(chapter);
 }
 
 // The numbering has places for verses that a module of one testament or one book never fills.
@@ -166,17 +335,21 @@ void SwordWalk::dropBooksAndChaptersWithoutText(VersionText& version) const
 
 VersionResult readOpened(sword::SWMgr& manager, const SwordModule& source)
 {
+    const QString confFile = swordConfFile(source);
     sword::SWModule* module = manager.getModule(source.name.toUtf8().constData());
     if (!module)
-        return sourceFailure(swordConfFile(source), 0, u"SWORD 모듈을 열 수 없습니다."_s);
+        return sourceFailure(confFile, 0, u"SWORD 모듈을 열 수 없습니다."_s);
     const char* cipher = module->getConfigEntry("CipherKey");
     if (cipher && *cipher == '\0')
-        return sourceFailure(swordConfFile(source), 0, u"잠긴 모듈입니다. 열쇠가 없습니다."_s);
+        return sourceFailure(confFile, 0, u"잠긴 모듈입니다. 열쇠가 없습니다."_s);
     if (qstrcmp(module->getType(), "Biblical Texts") != 0)
-        return sourceFailure(swordConfFile(source), 0, u"성경 본문 모듈이 아닙니다."_s);
-    VersionText version = SwordWalk(*module).run();
-    if (version.verses.empty())
-        return sourceFailure(swordConfFile(source), 0, u"읽을 수 있는 절이 없습니다."_s);
+        return sourceFailure(confFile, 0, u"성경 본문 모듈이 아닙니다."_s);
+    const auto conf = readConf(*module, confFile);
+    if (!conf)
+        return conf.failure();
+    VersionResult version = SwordWalk(*module, conf.value(), confFile).run();
+    if (version && version.value().verses.empty())
+        return sourceFailure(confFile, 0, u"읽을 수 있는 절이 없습니다."_s);
     return version;
 }
 

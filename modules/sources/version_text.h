@@ -27,11 +27,13 @@ struct VerseText
 };
 
 /// A whole version as a reader gives it: plain text, in the order of the source. The remarks are
-/// Korean lines for the report: what was left out, mended or looks odd.
+/// Korean lines for the report: what was left out, mended or looks odd. The losses are such lines
+/// on words that must be missing: of them no module is made unless the user accepts it.
 struct VersionText
 {
     std::vector<VerseText> verses;
     QStringList remarks;
+    QStringList losses{};
 };
 
 /// What a reader gives: NotFound when the source is not there, Damaged with "file:line: reason"

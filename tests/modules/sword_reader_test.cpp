@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
-#include "sources/sword_reader.h"
+#include "sources/sword_process.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 #include <QFile>
 
 #include <rawtext.h>
+#include <tuple>
 #include <versekey.h>
 
 namespace lumen {
@@ -57,6 +58,27 @@ protected:
         sword::VerseKey target(to);
         module->setKey(key);
         module->linkEntry(&target);
+    }
+
+    template <typename Change>
+    static void damage(const QString& path, Change change)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        QByteArray bytes = file.readAll();
+        change(bytes);
+        file.resize(0);
+        file.seek(0);
+        file.write(bytes);
+    }
+
+    // Where the first entry that isn't empty stands.
+    static qsizetype indexOfText(const QByteArray& index, qsizetype record)
+    {
+        for (qsizetype at = 0; at < index.size(); at += record)
+            if (index.mid(at + 4, 2) != QByteArray(2, 0))
+                return at;
+        return -1;
     }
 
     SourceFiles files;
@@ -113,6 +135,95 @@ TEST_F(SwordReaderTest, TellsAbsentLockedAndEmptyModulesApart)
     const SwordModule empty = make(u"Empty"_s, "SourceType=OSIS\n");
     module.reset();
     EXPECT_EQ(readSwordModule(empty).failure().kind, FailureKind::Damaged);
+}
+
+// The library reads all of these to the end and gives other words or none.
+TEST_F(SwordReaderTest, RefusesAModuleWhoseFilesDoNotFitTogether)
+{
+    constexpr qsizetype kRecord = 6;
+    struct Row
+    {
+        const char* what;
+        QStringView file;
+        void (*damage)(QByteArray& bytes);
+    };
+    const Row rows[] = {
+        {"an index that is cut", u"ot.vss", [](QByteArray& bytes) { bytes.chop(600); }},
+        {"a text that is cut", u"nt", [](QByteArray& bytes) { bytes.chop(3); }},
+        {"no text", u"ot", [](QByteArray& bytes) { bytes.clear(); }},
+        {"zeros in the text", u"nt",
+         [](QByteArray& bytes) { bytes.replace(2, 2, QByteArray(2, 0)); }},
+        {"bytes that are no text", u"nt", [](QByteArray& bytes) { bytes[2] = '\xC0'; }},
+        {"a verse that ends within another", u"nt.vss",
+         [](QByteArray& bytes) { bytes[indexOfText(bytes, kRecord) + 4] += 4; }},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        const SwordModule source = make(u"Made"_s, "SourceType=OSIS\n");
+        set("Ruth 1:1", "a verse of the old");
+        set("Romans 1:1", "one verse");
+        set("Romans 1:2", "another verse");
+        module.reset();
+        ASSERT_TRUE(readSwordModule(source).ok());
+        damage(files.path(u"text/Made/"_s + row.file.toString()), row.damage);
+        const auto version = readSwordModule(source);
+        ASSERT_FALSE(version.ok());
+        EXPECT_EQ(version.failure().kind, FailureKind::Damaged);
+        QDir(files.path(u"text"_s)).removeRecursively();
+    }
+}
+
+TEST_F(SwordReaderTest, TellsTextThatTheIndexHasForgottenAndEmptyChapters)
+{
+    const SwordModule source = make(u"Made"_s, "SourceType=OSIS\n");
+    for (const char* place : {"Ruth 1:1", "Ruth 2:1", "Ruth 3:1", "Ruth 4:1"})
+        set(place, place);
+    module.reset();
+    EXPECT_EQ(readSwordModule(source).value().losses, QStringList());
+    damage(files.path(u"text/Made/ot.vss"_s), [](QByteArray& bytes) {
+        constexpr qsizetype kRecord = 6;
+        const qsizetype first = indexOfText(bytes, kRecord);
+        const qsizetype second = first + kRecord + indexOfText(bytes.mid(first + kRecord), kRecord);
+        bytes.replace(second, kRecord, QByteArray(kRecord, 0));
+    });
+    const QString losses = readSwordModule(source).value().losses.join(u'\n');
+    EXPECT_TRUE(losses.contains(u"룻기 2장"_s)) << losses.toStdString();
+    EXPECT_TRUE(losses.contains(u"색인이 가리키지 않는"_s)) << losses.toStdString();
+}
+
+TEST_F(SwordReaderTest, RefusesAConfThatTheLibraryWouldGuessAt)
+{
+    for (const char* line : {"SourceType=OSIR\n", "SourceType=OSIS\nVersification=KJW\n",
+                             "SourceType=OSIS\nCompressType=ZAP\n"}) {
+        SCOPED_TRACE(line);
+        const SwordModule source = make(u"Made"_s, line);
+        set("Ruth 1:1", "one");
+        module.reset();
+        EXPECT_FALSE(readSwordModule(source).ok());
+        QDir(files.path(u"text"_s)).removeRecursively();
+    }
+}
+
+TEST_F(SwordReaderTest, AModuleReadInAProcessOfItsOwnIsTheSame)
+{
+    const SwordModule source = make(u"Made"_s, "SourceType=OSIS\n");
+    set("Psalm 3:1", "<title type=\"psalm\">A song</title><title>Head</title> one");
+    set("Psalm 3:3", "three");
+    module.reset();
+    const auto here = readSwordModule(source);
+    const auto apart = readSwordApart(source);
+    ASSERT_TRUE(here.ok() && apart.ok()) << apart.failure().detail.toStdString();
+    EXPECT_EQ(apart.value().losses, here.value().losses);
+    ASSERT_EQ(apart.value().verses.size(), here.value().verses.size());
+    for (std::size_t i = 0; i < here.value().verses.size(); ++i) {
+        const VerseText& a = here.value().verses[i];
+        const VerseText& b = apart.value().verses[i];
+        EXPECT_EQ(std::tie(a.book, a.chapter, a.verse, a.text, a.part, a.miniTitle),
+                  std::tie(b.book, b.chapter, b.verse, b.text, b.part, b.miniTitle));
+    }
+    EXPECT_EQ(readSwordApart({files.path(), u"Absent"_s}).failure().kind, FailureKind::NotFound);
+    damage(files.path(u"text/Made/ot"_s), [](QByteArray& bytes) { bytes.clear(); });
+    EXPECT_EQ(readSwordApart(source).failure().detail, readSwordModule(source).failure().detail);
 }
 
 TEST_F(SwordReaderTest, FindsTheFilesOfAModuleByItsConf)
