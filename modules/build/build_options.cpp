@@ -94,16 +94,18 @@ Result<Done> takeFolders(const Arguments& arguments, BuildOptions& options)
 
 Result<BuildOptions> parseBuildOptions(const QStringList& args)
 {
-    const auto parsed = parseArguments(args,
-                                       {u"out"_s, u"only"_s, u"source"_s, u"user"_s, u"module"_s,
-                                        u"name"_s, u"format"_s, u"report"_s, u"jobs"_s},
-                                       {u"help"_s, u"baptist"_s, u"renumber"_s});
+    const auto parsed =
+        parseArguments(args,
+                       {u"out"_s, u"only"_s, u"source"_s, u"user"_s, u"module"_s, u"name"_s,
+                        u"format"_s, u"report"_s, u"jobs"_s},
+                       {u"help"_s, u"baptist"_s, u"renumber"_s, u"force"_s, u"accept-loss"_s});
     if (!parsed)
         return parsed.failure();
     const Arguments& arguments = parsed.value();
     BuildOptions options;
     options.help = arguments.has(u"help"_s);
     options.baptist = arguments.has(u"baptist"_s);
+    options.mode = {arguments.has(u"force"_s), arguments.has(u"accept-loss"_s)};
     options.renumbering = arguments.has(u"renumber"_s) ? Renumbering::English : Renumbering::Keep;
     if (arguments.has(u"only"_s)) {
         const auto taken = takeOnly(arguments.value(u"only"_s), options);
@@ -135,7 +137,8 @@ QString buildUsage()
     return uR"(사용법: lumen-modules build [선택 사항]
         lumen-modules build --module 번호 --format 형식 [--name 이름] 파일...
 
-설치된 공개 자료와 직접 가진 파일로 성경 모듈을 만듭니다. 원본이 그대로인 모듈은 다시 만들지 않습니다.
+설치된 공개 자료와 직접 가진 파일로 성경 모듈을 만듭니다. 원본이 그대로이고 온전한 모듈은 다시
+만들지 않습니다.
 
   --out 폴더       모듈을 둘 폴더. 주지 않으면 프로그램의 Data 폴더
   --only 번호,...  이 역본과 모듈만 만듭니다. 예: --only 101,201,z101,CRef
@@ -147,6 +150,9 @@ QString buildUsage()
   --name 이름      사용자 역본의 이름
   --baptist        개역한글에서 "세례"를 "침례"로 바꾼 103도 만듭니다.
   --renumber       불가타와 러시아어 성경의 절 번호를 영어 성경에 맞춥니다.
+  --force          원본이 그대로인 모듈도 다시 만듭니다.
+  --accept-loss    절이 줄었거나 본문이 빠진 원본으로도 만듭니다. 주지 않으면 그런 모듈은 만들지 않고
+                   전의 것을 둡니다.
   --report 파일    모듈마다 절 수와 다른 점을 적을 파일
   --jobs 수        함께 만들 모듈의 수
   --help           이 도움말

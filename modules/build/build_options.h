@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "build/module_task.h"
 #include "build/recipes.h"
 #include "platform/result.h"
 
@@ -26,6 +27,7 @@ struct BuildOptions
     bool baptist = false;
     Renumbering renumbering = Renumbering::Keep;
     int jobs = 1;
+    BuildMode mode;
 
     bool makesAll() const { return only.isEmpty() && onlyFiles.isEmpty(); }
 };

@@ -94,6 +94,7 @@ Result<BuildPlan> planOneModule(const BuildOptions& options, const SourceFolders
         return Failure{FailureKind::NotFound,
                        u"원본을 찾을 수 없습니다: %1"_s.arg(options.files.join(u' '))};
     BuildPlan plan;
+    plan.mode = options.mode;
     plan.tasks.push_back(userTask(options.moduleCode, options.moduleName, source.value(), folders,
                                   options.renumbering));
     return plan;
@@ -128,6 +129,7 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     if (options.moduleCode != 0)
         return planOneModule(options, folders);
     BuildPlan plan;
+    plan.mode = options.mode;
     TaskMap tasks;
     addInstalled(options, folders, tasks);
     UserSources user;
@@ -159,9 +161,9 @@ std::vector<ModuleOutcome> runPlan(const BuildPlan& plan, const QString& outFold
             progress.advance(i, share, label);
             return !interrupted();
         };
-        outcomes[i] = i < versions ? buildModule(plan.tasks[i], outFolder, advance)
+        outcomes[i] = i < versions ? buildModule(plan.tasks[i], outFolder, advance, plan.mode)
                                    : buildReference(plan.references[i - versions], *plan.corpus,
-                                                    outFolder, advance);
+                                                    outFolder, advance, plan.mode);
         progress.finish(i, outcomeLine(outcomes[i]));
     };
     const std::vector<std::size_t> order = workOrder(versions, count);

@@ -21,6 +21,7 @@ struct BuildPlan
         corpus;                         ///< what the modules of the original languages read from
     std::vector<ModuleOutcome> refused; ///< modules asked for that can't be made
     QStringList remarks;
+    BuildMode mode;
 };
 
 /// Puts installed and supplied sources together; a supplied one goes before an installed one.

@@ -8,6 +8,7 @@
 #include "build/reference_builder.h"
 #include "common/arguments.h"
 #include "common/console.h"
+#include "common/row_digest.h"
 
 #include <QFileInfo>
 
@@ -27,6 +28,13 @@ QString usage()
   --help       이 도움말)"_s;
 }
 
+QString builtState(const QString& file, bool upToDate)
+{
+    if (!moduleIsSound(file))
+        return u"만들어져 있으나 손상됨"_s;
+    return upToDate ? u"만들어져 있음"_s : u"만들어져 있으나 원본이 바뀜"_s;
+}
+
 QString stateOf(const ModuleTask& task, const QString& folder)
 {
     const QString file = moduleFile(folder, task.code);
@@ -35,8 +43,7 @@ QString stateOf(const ModuleTask& task, const QString& folder)
         return built ? u"만들어져 있음, 원본 없음"_s : task.hint;
     if (!built)
         return u"만들 수 있음"_s;
-    return storedStamp(file) == taskStamp(task) ? u"만들어져 있음"_s
-                                                : u"만들어져 있으나 원본이 바뀜"_s;
+    return builtState(file, storedStamp(file) == taskStamp(task));
 }
 
 QString stateOf(const ReferenceTask& task, const QString& folder)
@@ -48,8 +55,7 @@ QString stateOf(const ReferenceTask& task, const QString& folder)
         return built ? u"만들어져 있음, 원본 없음"_s : missing;
     if (!built)
         return u"만들 수 있음"_s;
-    return isUpToDate(task, storedStamp(file)) ? u"만들어져 있음"_s
-                                               : u"만들어져 있으나 원본이 바뀜"_s;
+    return builtState(file, isUpToDate(task, storedStamp(file)));
 }
 
 void listOriginals(const QString& folder)

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/module_builder.h"
 
+#include "build/loss_check.h"
 #include "build/module_stamp.h"
 #include "build/version_module_writer.h"
+#include "common/row_digest.h"
 #include "platform/jet/jet_error.h"
 
 #include <QDate>
 #include <QElapsedTimer>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <exception>
@@ -66,14 +69,31 @@ ModuleLabel labelOf(const ModuleTask& task, const QString& stamp)
             {{u"source"_s, task.origin},
              {u"licence"_s, task.licence},
              {u"built"_s, QDate::currentDate().toString(Qt::ISODate)},
+             {kRulesKey.toString(), QString::number(kBuilderVersion)},
              {kStampKey.toString(), stamp}}};
 }
 
+// True when nothing may be made of a text that has lost words; accepted losses are told.
+bool refusesLosses(const QStringList& losses, bool hasFormer, const BuildMode& mode,
+                   ModuleOutcome& outcome)
+{
+    if (losses.isEmpty())
+        return false;
+    outcome.remarks << losses;
+    if (mode.acceptLosses)
+        return false;
+    outcome.problem = losses.join(u' ');
+    if (hasFormer)
+        outcome.problem += u" 전의 모듈은 그대로 두었습니다."_s;
+    outcome.problem += u" 그래도 만들려면 --accept-loss를 주십시오."_s;
+    return true;
+}
+
 void makeModule(const ModuleTask& task, const QString& file, const BuildAdvance& advance,
-                ModuleOutcome& outcome)
+                const BuildMode& mode, ModuleOutcome& outcome)
 {
     const QString stamp = taskStamp(task);
-    if (storedStamp(file) == stamp) {
+    if (!mode.force && storedStamp(file) == stamp && moduleIsSound(file)) {
         outcome.state = ModuleState::UpToDate;
         return;
     }
@@ -83,6 +103,9 @@ void makeModule(const ModuleTask& task, const QString& file, const BuildAdvance&
         return;
     }
     describe(version.value(), task, outcome);
+    if (refusesLosses(lossesOf(version.value(), task, file), QFileInfo::exists(file), mode,
+                      outcome))
+        return;
     const auto written =
         writeVersionModule(file, labelOf(task, stamp), version.value(), [&advance](double share) {
             return advance(kReadShare + (1 - kReadShare) * share);
@@ -101,7 +124,7 @@ QString moduleFile(const QString& folder, int code)
 }
 
 ModuleOutcome buildModule(const ModuleTask& task, const QString& folder,
-                          const BuildAdvance& advance)
+                          const BuildAdvance& advance, const BuildMode& mode)
 {
     ModuleOutcome outcome;
     outcome.code = task.code;
@@ -115,7 +138,7 @@ ModuleOutcome buildModule(const ModuleTask& task, const QString& folder,
     timer.start();
     try {
         if (advance(0))
-            makeModule(task, moduleFile(folder, task.code), advance, outcome);
+            makeModule(task, moduleFile(folder, task.code), advance, mode, outcome);
         else
             outcome.state = ModuleState::Interrupted;
     } catch (const JetError& error) {

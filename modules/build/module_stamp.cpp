@@ -22,22 +22,27 @@ QString taskStamp(const ModuleTask& task)
         QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex());
 }
 
-QString storedStamp(const QString& moduleFile)
+QString originLine(const QString& moduleFile, QStringView key)
 {
     if (!QFileInfo::exists(moduleFile))
         return {};
-    QString stamp;
+    QString line;
     try {
         readColumnPair(moduleFile, StoreLayout::kOriginTable.toString(), u"key"_s, u"value"_s,
-                       [&stamp](const QString& key, const QString& value) {
-                           if (key == kStampKey)
-                               stamp = value;
+                       [&](const QString& stored, const QString& value) {
+                           if (stored == key)
+                               line = value;
                        });
     } catch (const JetError&) {
         // A file that can't be read is made anew.
         return {};
     }
-    return stamp;
+    return line;
+}
+
+QString storedStamp(const QString& moduleFile)
+{
+    return originLine(moduleFile, kStampKey);
 }
 
 } // namespace lumen

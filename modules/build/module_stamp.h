@@ -8,15 +8,19 @@
 namespace lumen {
 
 /// The version of the rules by which modules are made; a module of other rules is made anew.
-inline constexpr int kBuilderVersion = 4;
+inline constexpr int kBuilderVersion = 5;
 
-/// The key of the origin line that holds the stamp.
+/// The keys of the origin lines that hold the stamp and the version of the rules.
 inline constexpr QStringView kStampKey = u"stamp";
+inline constexpr QStringView kRulesKey = u"rules";
 
 /// Tells a module's making apart: the rules, the options and the state of the source's files.
 QString taskStamp(const ModuleTask& task);
 
-/// The stamp that a finished module holds, "" when there is none or the file is no module.
+/// What a finished module says of its making, "" when there is no such line or the file is no
+/// module.
+QString originLine(const QString& moduleFile, QStringView key);
+/// The stamp that a finished module holds.
 QString storedStamp(const QString& moduleFile);
 
 } // namespace lumen

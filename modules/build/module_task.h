@@ -28,10 +28,18 @@ struct ModuleTask
     Numbering numbering = Numbering::English;
     QString ownMapping; ///< mapping files for renumbering, "" to keep the source's numbers
     QString englishMapping;
+    bool isWhole = false; ///< the source is known to have words for every chapter of the canon
     PsalmNumbers psalmNumbers = PsalmNumbers::AsMapped;
     QString origin;  ///< where the text comes from, for the module's origin lines
     QString licence; ///< under what conditions
     QString hint;    ///< how to get the source when it is not there
+};
+
+/// What the user asked for beyond the ordinary.
+struct BuildMode
+{
+    bool force = false;        ///< make what is up to date as well
+    bool acceptLosses = false; ///< make a module also of a text that has lost words
 };
 
 /// What became of a task.

@@ -149,6 +149,7 @@ std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering
         task.origin = u"%1, %2"_s.arg(recipe.text, recipe.package);
         task.licence = recipe.licence.toString();
         task.hint = hintOf(recipe);
+        task.isWhole = true;
         if (renumbering == Renumbering::English)
             setRenumbering(task, folders);
         if (recipe.mend == Mending::douay) // which gives them the chapters of the Hebrew text

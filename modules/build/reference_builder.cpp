@@ -2,6 +2,7 @@
 #include "build/reference_builder.h"
 
 #include "build/module_stamp.h"
+#include "common/row_digest.h"
 #include "platform/jet/jet_error.h"
 
 #include <QCryptographicHash>
@@ -35,10 +36,10 @@ void takeFailure(const Failure& failure, ModuleOutcome& outcome)
 }
 
 void makeReference(const ReferenceTask& task, OriginalCorpus& corpus, const QString& file,
-                   const BuildAdvance& advance, ModuleOutcome& outcome)
+                   const BuildAdvance& advance, const BuildMode& mode, ModuleOutcome& outcome)
 {
     const QString stamp = referenceStamp(task);
-    if (isUpToDate(task, storedStamp(file))) {
+    if (!mode.force && isUpToDate(task, storedStamp(file)) && moduleIsSound(file)) {
         outcome.state = ModuleState::UpToDate;
         return;
     }
@@ -90,7 +91,8 @@ bool isUpToDate(const ReferenceTask& task, const QString& stored)
 }
 
 ModuleOutcome buildReference(const ReferenceTask& task, OriginalCorpus& corpus,
-                             const QString& folder, const BuildAdvance& advance)
+                             const QString& folder, const BuildAdvance& advance,
+                             const BuildMode& mode)
 {
     ModuleOutcome outcome;
     outcome.file = task.file;
@@ -104,7 +106,8 @@ ModuleOutcome buildReference(const ReferenceTask& task, OriginalCorpus& corpus,
     timer.start();
     try {
         if (advance(0))
-            makeReference(task, corpus, u"%1/%2.dts"_s.arg(folder, task.file), advance, outcome);
+            makeReference(task, corpus, u"%1/%2.dts"_s.arg(folder, task.file), advance, mode,
+                          outcome);
         else
             outcome.state = ModuleState::Interrupted;
     } catch (const JetError& error) {

@@ -15,11 +15,12 @@ QString referenceStamp(const ReferenceTask& task);
 /// enrichment that it lacks. One made with an enrichment that is away today stays as it is.
 bool isUpToDate(const ReferenceTask& task, const QString& stored);
 
-/// Makes a module that is no version, unless the one that is there was made of the same sources by
-/// the same rules. Never throws: what goes wrong stands in the outcome, and the file that was there
-/// stays.
+/// Makes a module that is no version, unless the one that is there is sound and was made of the
+/// same sources by the same rules. Never throws: what goes wrong stands in the outcome, and the
+/// file that was there stays.
 ModuleOutcome buildReference(const ReferenceTask& task, OriginalCorpus& corpus,
-                             const QString& folder, const BuildAdvance& advance);
+                             const QString& folder, const BuildAdvance& advance,
+                             const BuildMode& mode = {});
 
 /// Why a source is not there, "" when all are.
 QString missingReferenceSource(const ReferenceTask& task);

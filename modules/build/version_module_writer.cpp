@@ -3,6 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
+#include "common/row_digest.h"
 #include "platform/jet/store_writer.h"
 #include "text/field_scramble.h"
 
@@ -69,14 +70,18 @@ Result<Done> writeVersionModule(const QString& file, const ModuleLabel& label,
     for (const auto& [key, value] : label.originLines)
         writer.addOriginLine(key, value);
     writer.createTable(versionTable(label.tableName));
+    RowDigest digest;
     for (std::size_t i = 0; i < version.verses.size(); ++i) {
         const double share = static_cast<double>(i) / static_cast<double>(version.verses.size());
         if (i % kRowsPerStep == 0 && !advance(share))
             return Failure{FailureKind::Cancelled, file};
-        writer.addRow(label.tableName, versionRow(version.verses[i]));
+        const QVariantList row = versionRow(version.verses[i]);
+        writer.addRow(label.tableName, row);
+        digest.add(label.tableName, row);
     }
     if (!advance(1))
         return Failure{FailureKind::Cancelled, file};
+    writer.addOriginLine(RowDigest::kKey.toString(), digest.result());
     writer.commit();
     return Done{};
 }

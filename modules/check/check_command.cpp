@@ -4,6 +4,7 @@
 #include "check/verse_check.h"
 #include "common/arguments.h"
 #include "common/console.h"
+#include "common/row_digest.h"
 #include "platform/jet/jet_error.h"
 #include "platform/jet/jet_header.h"
 #include "platform/jet/jet_import.h"
@@ -64,6 +65,17 @@ bool checkVerses(const QString& path, const StoreTable& table)
     return false;
 }
 
+/// False when the module holds the check sum of its rows and they have another.
+bool rowsAreAsWritten(const QString& path, const StoreInspection& store)
+{
+    for (const auto& [key, value] : store.originLines)
+        if (key == RowDigest::kKey && value != digestOfModule(path)) {
+            printLine(u"손상: 행들의 검사합이 만들 때와 다릅니다."_s);
+            return false;
+        }
+    return true;
+}
+
 int checkStore(const QString& path)
 {
     const StoreInspection store = inspectStore(path);
@@ -78,7 +90,7 @@ int checkStore(const QString& path)
             store.origin, store.compare, store.hasPassword ? u"있음"_s : u"없음"_s));
     for (const auto& [key, value] : store.originLines)
         printLine(u"%1: %2"_s.arg(key, value));
-    bool sound = store.isOurs;
+    bool sound = store.isOurs && rowsAreAsWritten(path, store);
     for (const StoreTable& table : store.tables) {
         printLine(u"표 \"%1\": 행 %2개"_s.arg(table.name).arg(table.rows));
         if (isVersionTable(table))

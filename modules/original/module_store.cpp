@@ -43,7 +43,16 @@ bool ModuleStore::addRow(const QString& table, const QVariantList& values)
     }
     ++m_rows;
     m_writer.addRow(table, values);
+    m_digest.add(table, values);
     return true;
+}
+
+void ModuleStore::commit()
+{
+    // Tables that are made empty are for the program to write into; no check sum holds for them.
+    if (const QString digest = m_digest.result(); !digest.isEmpty())
+        m_writer.addOriginLine(RowDigest::kKey.toString(), digest);
+    m_writer.commit();
 }
 
 ColumnDef textColumn(const QString& name, int size)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "common/row_digest.h"
 #include "platform/jet/store_writer.h"
 
 #include <QString>
@@ -30,10 +31,11 @@ public:
     /// False once the work is to be stopped; then nothing more may be added.
     [[nodiscard]] bool addRow(const QString& table, const QVariantList& values);
     std::size_t rows() const { return m_rows; }
-    void commit() { m_writer.commit(); }
+    void commit();
 
 private:
     StoreWriter m_writer;
+    RowDigest m_digest;
     Advance m_advance;
     std::size_t m_expected = 0;
     std::size_t m_rows = 0;

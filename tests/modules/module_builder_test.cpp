@@ -3,6 +3,7 @@
 #include "build/build_run.h"
 #include "build/module_builder.h"
 #include "modules/source_files.h"
+#include "text/field_scramble.h"
 
 #include <gtest/gtest.h>
 
@@ -22,9 +23,10 @@ protected:
         return userTask(code, u"시험 역본"_s, {SourceFormat::Usfm, {file}, {}}, {},
                         Renumbering::Keep);
     }
-    ModuleOutcome build(const ModuleTask& task)
+    ModuleOutcome build(const ModuleTask& task, const BuildMode& mode = {})
     {
-        return buildModule(task, files.path(), [](double) { return true; });
+        return buildModule(
+            task, files.path(), [](double) { return true; }, mode);
     }
     QString book(const QString& name, const QString& words) const
     {
@@ -50,11 +52,53 @@ TEST_F(ModuleBuilderTest, BuildsOnceAndAgainWhenTheSourceChanges)
               (std::vector<QVariantList>{{u"POF BOE UXP"_s}}));
 }
 
-TEST_F(ModuleBuilderTest, ADamagedModuleIsMadeAnew)
+TEST_F(ModuleBuilderTest, ADamagedModuleIsMadeAnewAndASoundOneWhenForced)
 {
     const ModuleTask task = usfmTask(901, book(u"a.usfm"_s, u"one"_s));
-    files.write(u"901.dts"_s, u"no store"_s);
+    const QString module = files.write(u"901.dts"_s, u"no store"_s);
     EXPECT_EQ(build(task).state, ModuleState::Built);
+    QFile file(module);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QByteArray sound = file.readAll();
+    // One letter of the verse, which the store's own check passes over.
+    const qsizetype word = sound.indexOf(DES::ScrambleField(u"one"_s).toUtf8());
+    ASSERT_GT(word, 0);
+    file.seek(word);
+    file.write("#");
+    file.close();
+    EXPECT_EQ(build(task).state, ModuleState::Built);
+    EXPECT_EQ(build(task).state, ModuleState::UpToDate);
+    EXPECT_EQ(build(task, {.force = true}).state, ModuleState::Built);
+}
+
+TEST_F(ModuleBuilderTest, ATextThatHasLostVersesIsRefusedUnlessItIsAccepted)
+{
+    struct Row
+    {
+        QStringView words;
+        ModuleState state;
+    };
+    const Row rows[] = {
+        {u"one\n\\v 2 two\n\\c 2\n\\v 1 three", ModuleState::Built},
+        {u"one\n\\v 2\n\\c 2\n\\v 1 three", ModuleState::Failed}, // a verse without words
+        {u"one\n\\v 2 two", ModuleState::Failed},
+        {u"other\n\\v 2 words\n\\c 2\n\\v 1 are fine", ModuleState::Built},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.words.toString().toStdString());
+        const ModuleTask task = usfmTask(901, book(u"a.usfm"_s, row.words.toString()));
+        const ModuleOutcome outcome = build(task);
+        EXPECT_EQ(outcome.state, row.state) << outcome.problem.toStdString();
+        EXPECT_EQ(storeRows(files.path(u"901.dts"_s), u"select count(Cont) from [시험 역본]"_s),
+                  (std::vector<QVariantList>{{3}}));
+    }
+    const ModuleTask fewer = usfmTask(901, book(u"a.usfm"_s, u"one"_s));
+    EXPECT_TRUE(build(fewer).problem.contains(u"룻02, 룻01"_s))
+        << build(fewer).problem.toStdString();
+    EXPECT_EQ(build(fewer, {.acceptLosses = true}).state, ModuleState::Built);
+    ModuleTask whole = usfmTask(902, files.path(u"a.usfm"_s));
+    whole.isWhole = true;
+    EXPECT_EQ(build(whole).state, ModuleState::Failed);
 }
 
 TEST_F(ModuleBuilderTest, AFaultLeavesTheModuleThatWasThere)

@@ -106,4 +106,18 @@ void readColumnPair(const QString& nativePath, const QString& table, const QStri
         take(statement.text(0), statement.isNull(1) ? QString() : statement.text(1));
 }
 
+void readRows(const QString& nativePath, const QString& table,
+              const std::function<void(const QVariantList&)>& take)
+{
+    const SqliteHandle handle(nativePath, kOpenFlags);
+    SqliteStatement statement(handle.get(),
+                              u"SELECT * FROM %1 ORDER BY rowid"_s.arg(quotedName(table)).toUtf8());
+    while (statement.step()) {
+        QVariantList row;
+        for (int column = 0; column < statement.columnCount(); ++column)
+            row << statement.value(column);
+        take(row);
+    }
+}
+
 } // namespace lumen

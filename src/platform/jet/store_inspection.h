@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 #include <functional>
 #include <utility>
@@ -37,5 +38,9 @@ StoreInspection inspectStore(const QString& nativePath);
 void readColumnPair(const QString& nativePath, const QString& table, const QString& first,
                     const QString& second,
                     const std::function<void(const QString&, const QString&)>& take);
+
+/// Calls `take` with each row of a table in stored order, its columns in theirs.
+void readRows(const QString& nativePath, const QString& table,
+              const std::function<void(const QVariantList&)>& take);
 
 } // namespace lumen
