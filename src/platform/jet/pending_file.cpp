@@ -6,8 +6,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -37,6 +39,20 @@ bool syncPath(const QByteArray& path, int flags)
 }
 
 } // namespace
+
+void PendingFile::removeLeftovers(const QString& folder)
+{
+    static const QRegularExpression form(uR"(^\..+\.new-(\d+)-\d+(-journal)?$)"_s);
+    const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden);
+    for (const QString& name : names) {
+        const auto match = form.match(name);
+        if (!match.hasMatch())
+            continue;
+        const bool runs = ::kill(match.captured(1).toInt(), 0) == 0 || errno != ESRCH;
+        if (!runs)
+            QFile::remove(folder + u'/' + name);
+    }
+}
 
 PendingFile::PendingFile(const QString& destination) : m_destination(destination)
 {
