@@ -6,6 +6,7 @@
 #include "import/import_command.h"
 #include "platform/jet/jet_error.h"
 #include "platform/log.h"
+#include "sources/fault_texts.h"
 #include "sources/sword_process.h"
 
 #include <QCoreApplication>
@@ -59,7 +60,7 @@ int runCommand(const Command& command, const QStringList& args)
     } catch (const JetError& error) {
         printError(error.text());
     } catch (const std::exception& error) {
-        printError(u"작업을 마치지 못했습니다: %1"_s.arg(QString::fromUtf8(error.what())));
+        printError(u"작업을 마치지 못했습니다: %1"_s.arg(faultText(error)));
     }
     return kExitFailed;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/build_report.h"
 
+#include "sources/fault_texts.h"
+
 #include <QLocale>
 #include <QSaveFile>
 
@@ -88,7 +90,7 @@ Result<Done> saveReport(const QString& file, const QString& text)
     if (!device.open(QIODevice::WriteOnly) || device.write(bytes) != bytes.size() ||
         !device.commit())
         return Failure{FailureKind::NoAccess,
-                       u"보고서를 쓸 수 없습니다: %1 (%2)"_s.arg(file, device.errorString())};
+                       u"보고서를 쓸 수 없습니다: %1 (%2)"_s.arg(file, faultText(device))};
     return Done{};
 }
 

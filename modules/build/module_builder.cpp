@@ -6,6 +6,7 @@
 #include "build/version_module_writer.h"
 #include "common/row_digest.h"
 #include "platform/jet/jet_error.h"
+#include "sources/fault_texts.h"
 
 #include <QDate>
 #include <QElapsedTimer>
@@ -144,7 +145,7 @@ ModuleOutcome buildModule(const ModuleTask& task, const QString& folder,
     } catch (const JetError& error) {
         outcome.problem = error.text();
     } catch (const std::exception& error) {
-        outcome.problem = QString::fromUtf8(error.what());
+        outcome.problem = faultText(error);
     }
     outcome.seconds = static_cast<double>(timer.elapsed()) / 1000;
     return outcome;

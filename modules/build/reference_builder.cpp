@@ -4,6 +4,7 @@
 #include "build/module_stamp.h"
 #include "common/row_digest.h"
 #include "platform/jet/jet_error.h"
+#include "sources/fault_texts.h"
 
 #include <QCryptographicHash>
 #include <QDate>
@@ -113,7 +114,7 @@ ModuleOutcome buildReference(const ReferenceTask& task, OriginalCorpus& corpus,
     } catch (const JetError& error) {
         outcome.problem = error.text();
     } catch (const std::exception& error) {
-        outcome.problem = QString::fromUtf8(error.what());
+        outcome.problem = faultText(error);
     }
     outcome.seconds = static_cast<double>(timer.elapsed()) / 1000;
     return outcome;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/user_sources.h"
 
+#include "build/korean_edition.h"
+#include "build/recipes.h"
 #include "original/original_versions.h"
 #include "sources/json_readers.h"
 #include "sources/usfm_reader.h"
@@ -21,9 +23,6 @@ namespace lumen {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kKorean = 101;
-constexpr int kMixedScript = 102;
 
 struct SwordName
 {
@@ -48,16 +47,28 @@ public:
     UserSources run();
 
 private:
-    void visit(const QString& folder, const QStringList& files);
-    void visitJson(const QString& folder, const QStringList& files);
-    void visitUsfm(const QString& folder, const QStringList& files);
-    void visitOsis(const QString& file);
-    void visitSword(const QString& confFile);
+    enum class KnownBy { Name, Content };
+
+    struct Place
+    {
+        QString path;
+        KnownBy knownBy = KnownBy::Name;
+    };
+
+    // Each tells whether it found anything to read, or to tell.
+    bool visit(const QString& folder, const QStringList& files);
+    bool visitJson(const QString& folder, const QStringList& files);
+    bool visitUsfm(const QString& folder, const QStringList& files);
+    bool visitOsis(const QString& file);
+    bool visitSword(const QString& confFile);
     bool readCode(const QString& path, UserSource& source) const;
-    void add(const QString& path, UserSource source);
+    void add(const QString& path, UserSource source, KnownBy knownBy);
+    void tellUnknown(const QString& folder, const QStringList& files);
 
     QString m_root;
     UserSources m_sources;
+    std::vector<Place> m_places; ///< of the sources found
+    QStringList m_swordRoots;
 };
 
 QStringList endingWith(const QStringList& files, std::initializer_list<QStringView> endings)
@@ -88,75 +99,108 @@ UserSources FolderSearch::run()
         const QString file = walk.next();
         folders[QFileInfo(file).absolutePath()] << file;
     }
+    for (const auto& [folder, files] : folders)
+        if (QFileInfo(folder).fileName() == u"mods.d")
+            m_swordRoots << QFileInfo(folder).path() + u'/';
     for (auto& [folder, files] : folders) {
         files.sort();
-        visit(folder, files);
+        if (!visit(folder, files))
+            tellUnknown(folder, files);
     }
     return std::move(m_sources);
 }
 
-void FolderSearch::visit(const QString& folder, const QStringList& files)
+bool FolderSearch::visit(const QString& folder, const QStringList& files)
 {
-    visitJson(folder, endingWith(files, {u".json"}));
-    visitUsfm(folder, endingWith(files, {u".usfm", u".sfm"}));
+    bool found = visitJson(folder, endingWith(files, {u".json"}));
+    found = visitUsfm(folder, endingWith(files, {u".usfm", u".sfm"})) || found;
     for (const QString& file : endingWith(files, {u".xml", u".osis"}))
-        if (isOsisFile(file))
-            visitOsis(file);
+        found = visitOsis(file) || found;
     for (const QString& file : endingWith(files, {u".csv"}))
-        if (looksLikeByzantine(file))
+        if (looksLikeByzantine(file)) {
             m_sources.byzantineFiles << file;
+            found = true;
+        }
     if (QFileInfo(folder).fileName() == u"mods.d")
         for (const QString& file : endingWith(files, {u".conf"}))
-            visitSword(file);
+            found = visitSword(file) || found;
+    return found;
 }
 
-void FolderSearch::visitJson(const QString& folder, const QStringList& files)
+// A folder that no reader has any use for is named: its user expects something of it.
+void FolderSearch::tellUnknown(const QString& folder, const QStringList& files)
+{
+    const auto isData = [&folder](const QString& root) { return folder.startsWith(root); };
+    if (std::ranges::any_of(m_swordRoots, isData))
+        return;
+    static const QRegularExpression companion(
+        u"^(README|LICEN[SC]E|COPYING|COPYRIGHT|NOTICE|CHANGELOG)"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    QStringList names;
+    for (const QString& file : files)
+        if (const QString name = QFileInfo(file).fileName(); !name.contains(companion))
+            names << name;
+    if (names.isEmpty())
+        return;
+    const QString others = names.size() == 1 ? QString() : u" 외 %1개"_s.arg(names.size() - 1);
+    m_sources.remarks << u"읽을 수 있는 원본이 없는 폴더입니다: %1 (%2%3)"_s.arg(
+        folder, names.first(), others);
+}
+
+bool FolderSearch::visitJson(const QString& folder, const QStringList& files)
 {
     // One file of the right shape makes them all books, so that a damaged one is told and not
     // passed over.
-    for (const QString& file : files) {
-        bool mixedScript = false;
-        if (!looksLikeBookJson(file, mixedScript))
-            continue;
-        UserSource source{
-            mixedScript ? kMixedScript : kKorean, {}, {SourceFormat::BookJson, files, {}}};
-        readCode(folder, source);
-        add(folder, source);
-        return;
+    if (std::ranges::none_of(files, looksLikeBookJson))
+        return false;
+    UserSource source{0, {}, {SourceFormat::BookJson, files, {}}};
+    KnownBy knownBy = KnownBy::Name;
+    if (!readCode(folder, source)) {
+        knownBy = KnownBy::Content;
+        source.code = koreanEdition(files).value_or(0);
     }
+    add(folder, source, knownBy);
+    return true;
 }
 
-void FolderSearch::visitUsfm(const QString& folder, const QStringList& files)
+bool FolderSearch::visitUsfm(const QString& folder, const QStringList& files)
 {
     if (files.isEmpty())
-        return;
+        return false;
     UserSource source{0, {}, {SourceFormat::Usfm, files, {}}};
     readCode(folder, source);
-    add(folder, source);
+    add(folder, source, KnownBy::Name);
+    return true;
 }
 
-void FolderSearch::visitOsis(const QString& file)
+bool FolderSearch::visitOsis(const QString& file)
 {
+    if (!isOsisFile(file))
+        return false;
     UserSource source{0, {}, {SourceFormat::Osis, {file}, {}}};
     readCode(file, source);
-    add(file, source);
+    add(file, source, KnownBy::Name);
+    return true;
 }
 
-void FolderSearch::visitSword(const QString& confFile)
+bool FolderSearch::visitSword(const QString& confFile)
 {
     UserSource source{0, {}, {SourceFormat::Sword, {}, swordModuleOf(confFile)}};
     if (source.source.sword.name.isEmpty())
-        return;
+        return false;
+    KnownBy knownBy = KnownBy::Name;
     if (!readCode(confFile, source)) {
         const auto known =
             std::find_if(kSwordNames.begin(), kSwordNames.end(), [&source](const SwordName& row) {
                 return row.name == source.source.sword.name;
             });
         source.code = known == kSwordNames.end() ? 0 : known->code;
+        knownBy = KnownBy::Content;
     }
     if (source.name.isEmpty())
         source.name = source.source.sword.name;
-    add(confFile, source);
+    add(confFile, source, knownBy);
+    return true;
 }
 
 // The nearest name wins: that of the file, then those of the folders up to the user's.
@@ -175,7 +219,8 @@ bool FolderSearch::readCode(const QString& path, UserSource& source) const
     return false;
 }
 
-void FolderSearch::add(const QString& path, UserSource source)
+// A version has one source. What a number was written on goes before what was guessed.
+void FolderSearch::add(const QString& path, UserSource source, KnownBy knownBy)
 {
     if (source.code == 0) {
         m_sources.remarks
@@ -183,14 +228,23 @@ void FolderSearch::add(const QString& path, UserSource source)
                "--module 번호로 지정하십시오)"_s.arg(path);
         return;
     }
-    const auto same = [&source](const UserSource& other) { return other.code == source.code; };
-    if (std::any_of(m_sources.found.begin(), m_sources.found.end(), same)) {
-        m_sources.remarks << u"같은 역본 번호(%1)의 원본이 더 있어 쓰지 않았습니다: %2"_s
-                                 .arg(source.code)
-                                 .arg(path);
+    const QString label = u"%1 %2"_s.arg(source.code).arg(catalogueName(source.code)).trimmed();
+    if (knownBy == KnownBy::Content)
+        m_sources.remarks << u"내용으로 보아 %1의 원본입니다: %2"_s.arg(label, path);
+    const auto same = std::ranges::find(m_sources.found, source.code, &UserSource::code);
+    if (same == m_sources.found.end()) {
+        m_sources.found.push_back(std::move(source));
+        m_places.push_back({path, knownBy});
         return;
     }
-    m_sources.found.push_back(std::move(source));
+    Place& former = m_places[static_cast<std::size_t>(same - m_sources.found.begin())];
+    const bool better = knownBy == KnownBy::Name && former.knownBy == KnownBy::Content;
+    m_sources.remarks << u"%1의 원본이 둘입니다. 쓰는 것: %2, 쓰지 않는 것: %3"_s.arg(
+        label, better ? path : former.path, better ? former.path : path);
+    if (!better)
+        return;
+    *same = std::move(source);
+    former = {path, knownBy};
 }
 
 Result<ModuleSource> namedSword(const QString& path, const QString& installedSword)

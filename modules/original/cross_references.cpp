@@ -5,6 +5,7 @@
 #include "common/verse_counts.h"
 #include "original/wlc_versification.h"
 #include "sources/book_names.h"
+#include "sources/fault_texts.h"
 #include "sources/version_text.h"
 
 #include <QFile>
@@ -63,7 +64,7 @@ Result<QJsonObject> readObject(const QString& file)
     QJsonParseError error;
     const auto document = QJsonDocument::fromJson(object.toUtf8(), &error);
     if (!document.isObject())
-        return sourceFailure(file, 0, error.errorString());
+        return sourceFailure(file, 0, faultText(error));
     return document.object();
 }
 

@@ -2,6 +2,7 @@
 #include "original/kjv_reader.h"
 
 #include "sources/book_names.h"
+#include "sources/fault_texts.h"
 #include "sources/text_cleaning.h"
 #include "sources/version_text.h"
 
@@ -88,7 +89,7 @@ Result<std::vector<KjvVerse>> KjvReader::run()
         }
     }
     if (m_xml.hasError())
-        return sourceFailure(m_file, m_xml.lineNumber(), m_xml.errorString());
+        return sourceFailure(m_file, m_xml.lineNumber(), faultText(m_xml));
     return std::move(m_verses);
 }
 

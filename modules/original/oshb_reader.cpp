@@ -2,6 +2,7 @@
 #include "original/oshb_reader.h"
 
 #include "sources/book_names.h"
+#include "sources/fault_texts.h"
 #include "sources/version_text.h"
 
 #include <QFile>
@@ -68,7 +69,7 @@ Result<std::vector<OshbVerse>> OshbReader::run()
         if (m_xml.readNext() == QXmlStreamReader::StartElement && m_xml.name() == u"verse")
             readVerse();
     if (m_xml.hasError())
-        return sourceFailure(m_file, m_xml.lineNumber(), m_xml.errorString());
+        return sourceFailure(m_file, m_xml.lineNumber(), faultText(m_xml));
     return std::move(m_verses);
 }
 

@@ -2,6 +2,7 @@
 #include "original/strong_reader.h"
 
 #include "original/korean_pronunciation.h"
+#include "sources/fault_texts.h"
 #include "sources/text_cleaning.h"
 #include "sources/version_text.h"
 #include "text/original_unicode.h"
@@ -134,7 +135,7 @@ Result<StrongEntries> StrongReader::run(const Take& take)
         if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"entry")
             take();
     if (xml.hasError())
-        return sourceFailure(m_file, xml.lineNumber(), xml.errorString());
+        return sourceFailure(m_file, xml.lineNumber(), faultText(xml));
     return std::move(entries);
 }
 
@@ -218,7 +219,7 @@ Result<Done> addReferences(const QString& file, StrongEntries& entries)
             list << reference;
     }
     if (xml.hasError())
-        return sourceFailure(file, xml.lineNumber(), xml.errorString());
+        return sourceFailure(file, xml.lineNumber(), faultText(xml));
     for (auto& [number, entry] : entries)
         entry.reference = references[number].join(u", "_s);
     return Done{};

@@ -2,6 +2,7 @@
 #include "original/wlc_versification.h"
 
 #include "sources/book_names.h"
+#include "sources/fault_texts.h"
 #include "sources/version_text.h"
 
 #include <QFile>
@@ -121,7 +122,7 @@ Result<WlcVersification> WlcVersification::read(const QString& file)
         result.m_places.insert(keyOf(from), to);
     }
     if (xml.hasError())
-        return sourceFailure(file, xml.lineNumber(), xml.errorString());
+        return sourceFailure(file, xml.lineNumber(), faultText(xml));
     return result;
 }
 

@@ -4,10 +4,14 @@
 #include "canon/canon_table.h"
 
 #include <QHash>
+#include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 namespace lumen::BookNames {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -88,6 +92,43 @@ constexpr std::array<SourceNames, kBookCount> kNames{{
 }};
 static_assert(!kNames.back().english.isEmpty());
 
+struct OtherTitle
+{
+    QStringView title;
+    QStringView osis;
+};
+
+// Titles in use beside those of the canon.
+constexpr std::array kOtherTitles{
+    OtherTitle{u"Psalm", u"Ps"},
+    OtherTitle{u"Song of Songs", u"Song"},
+    OtherTitle{u"Canticles", u"Song"},
+    OtherTitle{u"Acts of the Apostles", u"Acts"},
+    OtherTitle{u"Revelation of John", u"Rev"},
+    OtherTitle{u"Apocalypse", u"Rev"},
+    OtherTitle{u"아가서", u"Song"},
+    OtherTitle{u"애가", u"Lam"},
+    OtherTitle{u"전도", u"Eccl"},
+    OtherTitle{u"요한1서", u"1John"},
+    OtherTitle{u"요한2서", u"2John"},
+    OtherTitle{u"요한3서", u"3John"},
+    OtherTitle{u"계시록", u"Rev"},
+};
+
+// Books of OSIS and USFM that other canons have.
+constexpr QStringView kOtherBooks[] = {
+    u"TOB", u"JDT",   u"ESG",  u"ADDESTH", u"ESTHGR", u"WIS",   u"SIR",    u"SIRP",  u"BAR",
+    u"LJE", u"EPJER", u"S3Y",  u"PRAZAR",  u"SUS",    u"BEL",   u"ADDDAN", u"DAG",   u"DANGR",
+    u"1MA", u"2MA",   u"3MA",  u"4MA",     u"1MACC",  u"2MACC", u"3MACC",  u"4MACC", u"1ES",
+    u"2ES", u"1ESD",  u"2ESD", u"EZA",     u"4EZRA",  u"5EZ",   u"5EZRA",  u"6EZ",   u"6EZRA",
+    u"MAN", u"PRMAN", u"PS2",  u"PS3",     u"ADDPS",  u"ODA",   u"ODES",   u"PSS",   u"PSSSOL",
+    u"ENO", u"1EN",   u"JUB",  u"1MQ",     u"2MQ",    u"3MQ",   u"1MEQ",   u"2MEQ",  u"3MEQ",
+    u"2BA", u"2BAR",  u"LBA",  u"4BA",     u"4BAR",   u"REP",   u"LAO",    u"EPLAO"};
+
+// Files that accompany the books of a USFM Bible.
+constexpr QStringView kNoBooks[] = {u"FRT", u"INT", u"BAK", u"CNC", u"GLO", u"TDX", u"NDX", u"OTH",
+                                    u"XXA", u"XXB", u"XXC", u"XXD", u"XXE", u"XXF", u"XXG"};
+
 using Index = QHash<QString, int>;
 
 template <typename Key>
@@ -99,13 +140,33 @@ Index makeIndex(Key key)
     return index;
 }
 
+// Composed, in small letters and without blanks; "II Kings" is "2kings".
 QString folded(QStringView title)
 {
+    static const QRegularExpression numeral(u"^\\s*(I{1,3})\\s+"_s);
+    QString text = title.toString().normalized(QString::NormalizationForm_C);
+    if (const auto match = numeral.match(text); match.hasMatch())
+        text.replace(0, match.capturedLength(), QString::number(match.capturedLength(1)));
     QString result;
-    for (const QChar c : title)
-        if (!c.isSpace())
+    for (const QChar c : std::as_const(text))
+        if (!c.isSpace() && c != u'.')
             result += c.toLower();
     return result;
+}
+
+Index titleIndex()
+{
+    Index index;
+    for (int book = 0; book < kBookCount; ++book) {
+        const SourceNames& names = kNames[static_cast<std::size_t>(book)];
+        const QString titles[] = {names.english.toString(), names.osis.toString(),
+                                  names.usfm.toString(), bookName(book), bookAbbreviation(book)};
+        for (const QString& title : titles)
+            index.insert(folded(title), book);
+    }
+    for (const OtherTitle& other : kOtherTitles)
+        index.insert(folded(other.title), *fromOsis(other.osis));
+    return index;
 }
 
 std::optional<int> find(const Index& index, const QString& key)
@@ -132,6 +193,24 @@ std::optional<int> fromEnglish(QStringView title)
 {
     static const Index index = makeIndex([](const SourceNames& n) { return folded(n.english); });
     return find(index, folded(title));
+}
+
+std::optional<int> fromTitle(QStringView title)
+{
+    static const Index index = titleIndex();
+    return find(index, folded(title));
+}
+
+bool isOutsideCanon(QStringView id)
+{
+    const QString folded = id.toString().toUpper();
+    return std::ranges::any_of(kOtherBooks, [&](QStringView other) { return other == folded; });
+}
+
+bool isNoBook(QStringView usfmId)
+{
+    const QString folded = usfmId.toString().toUpper();
+    return std::ranges::any_of(kNoBooks, [&](QStringView other) { return other == folded; });
 }
 
 QString osis(int book)

@@ -18,6 +18,13 @@ std::optional<int> fromOsis(QStringView id);
 std::optional<int> fromUsfm(QStringView id);
 /// The English title, "Genesis", "1 Samuel", "SongofSolomon"; blanks and case don't count.
 std::optional<int> fromEnglish(QStringView title);
+/// A title in English or Korean, full or short, or one of the ids above: "Genesis", "창세기", "창",
+/// "II Kings", "요한1서".
+std::optional<int> fromTitle(QStringView title);
+/// True for the ids of OSIS and USFM of books that other canons have.
+bool isOutsideCanon(QStringView id);
+/// True for the ids of USFM files that are no books: glossaries, front matter.
+bool isNoBook(QStringView usfmId);
 /// The OSIS id of a book of the canon.
 QString osis(int book);
 

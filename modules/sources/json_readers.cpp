@@ -3,6 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "sources/book_names.h"
+#include "sources/fault_texts.h"
 #include "sources/text_cleaning.h"
 #include "sources/versification.h"
 
@@ -35,7 +36,7 @@ QJsonArray asList(const QJsonValue& value)
 std::optional<Failure> addBook(const QString& file, const QJsonObject& root, VersionText& version)
 {
     const QString title = root[u"book"_s].toString();
-    const auto book = BookNames::fromEnglish(title);
+    const auto book = BookNames::fromTitle(title);
     if (!book)
         return sourceFailure(fileName(file), 0, u"알 수 없는 책 이름입니다: \"%1\""_s.arg(title));
     const QJsonArray chapters = root[u"chapters"_s].toArray();
@@ -66,6 +67,8 @@ std::optional<Failure> addNestedVerse(const QString& file, const QJsonObject& ob
         return sourceFailure(fileName(file), 0, u"알 수 없는 절입니다: \"%1\""_s.arg(id));
     const auto book = BookNames::fromOsis(items[0]);
     if (!book) {
+        if (!BookNames::isOutsideCanon(items[0]))
+            return sourceFailure(fileName(file), 0, u"알 수 없는 책입니다: \"%1\""_s.arg(id));
         if (!unknownBooks.contains(items[0]))
             unknownBooks << items[0];
         return std::nullopt;
@@ -85,7 +88,7 @@ Result<QJsonDocument> readJsonFile(const QString& file)
     if (!device.exists())
         return missingSource(file);
     if (!device.open(QIODevice::ReadOnly))
-        return sourceFailure(fileName(file), 0, device.errorString());
+        return sourceFailure(fileName(file), 0, faultText(device));
     const QByteArray bytes = device.readAll();
     QJsonParseError error;
     QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
@@ -93,7 +96,7 @@ Result<QJsonDocument> readJsonFile(const QString& file)
         return document;
     const qint64 line = bytes.left(error.offset).count('\n') + 1;
     return sourceFailure(fileName(file), line,
-                         u"JSON이 잘못되었습니다: %1"_s.arg(error.errorString()));
+                         u"JSON이 잘못되었습니다: %1"_s.arg(faultText(error)));
 }
 
 VersionResult readBookJsonFiles(const QStringList& files)
@@ -119,14 +122,13 @@ VersionResult readBookJsonFiles(const QStringList& files)
     return version;
 }
 
-bool looksLikeBookJson(const QString& file, bool& withHangulText)
+bool looksLikeBookJson(const QString& file)
 {
     const auto document = readJsonFile(file);
     if (!document)
         return false;
     const QJsonObject root = document.value().object();
     const QJsonValue verse = root[u"chapters"_s].toArray().at(0)[u"verses"_s].toArray().at(0);
-    withHangulText = verse[u"hangulText"_s].isString();
     return root[u"book"_s].isString() && verse[u"text"_s].isString();
 }
 
@@ -147,7 +149,7 @@ VersionResult readNestedJsonFile(const QString& file)
     if (version.verses.empty())
         return sourceFailure(fileName(file), 0, u"절이 하나도 없습니다."_s);
     if (!unknownBooks.isEmpty())
-        version.remarks << u"정경에 없는 책을 뺐습니다: %1"_s.arg(unknownBooks.join(u", "_s));
+        version.remarks << leftOutBooks(unknownBooks);
     return version;
 }
 

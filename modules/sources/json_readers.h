@@ -15,9 +15,8 @@ Result<QJsonDocument> readJsonFile(const QString& file);
 /// One book a file: {"book": "Genesis", "chapters": [{"chapter": 1, "verses": [{"verse": 1,
 /// "text": "..."}]}]}.
 VersionResult readBookJsonFiles(const QStringList& files);
-/// True for a file of that shape; `withHangulText` tells the edition in mixed script, whose verses
-/// have a field "hangulText" too.
-bool looksLikeBookJson(const QString& file, bool& withHangulText);
+/// True for a file of that shape.
+bool looksLikeBookJson(const QString& file);
 
 /// OSIS turned into JSON: osis / osisText / div / chapter / verse, with "-osisID" and "text". A
 /// list of one is the item itself. A verse without text has no words.

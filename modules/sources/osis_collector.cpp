@@ -91,7 +91,8 @@ void OsisCollector::start(QStringView element, const Attribute& attribute)
         append(attribute(u"n").toString() + u' ');
     else if (element == u"q" || (element == u"milestone" && attribute(u"type") == u"cQuote"))
         append(attribute(u"marker"));
-    else if (isOneOf(element, kBlanks))
+    else if (isOneOf(element, kBlanks) ||
+             (element == u"milestone" && attribute(u"type") == u"line"))
         append(u" ");
 }
 

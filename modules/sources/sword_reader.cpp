@@ -191,7 +191,7 @@ VersionResult SwordWalk::run()
     if (m_failure)
         return *m_failure;
     if (!m_unknownBooks.isEmpty())
-        m_version.remarks << u"정경에 없는 책을 뺐습니다: %1"_s.arg(m_unknownBooks.join(u", "_s));
+        m_version.remarks << leftOutBooks(m_unknownBooks);
     noteHoles();
     dropBooksAndChaptersWithoutText(m_version);
     return std::move(m_version);

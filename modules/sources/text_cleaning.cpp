@@ -11,6 +11,32 @@ constexpr QChar kPilcrow(u'\u00B6');
 constexpr QChar kNoBreakSpace(u'\u00A0');
 constexpr QStringView kNoBlankBefore = u",.;:?!";
 
+bool hasJoiners(QChar::Script script)
+{
+    return script >= QChar::Script_Arabic && script != QChar::Script_Hangul &&
+           script != QChar::Script_Han;
+}
+
+// Signs that nobody sees and that keep a word from being found: control characters, zero-width
+// blanks, soft hyphens, direction marks. Joiners shape the letters of scripts that have them.
+bool isUnseen(QChar c, const QString& before)
+{
+    switch (c.unicode()) {
+    case 0x00AD:
+    case 0x200B:
+    case 0x200E:
+    case 0x200F:
+    case 0x2060:
+    case 0xFEFF:
+        return true;
+    case 0x200C:
+    case 0x200D:
+        return before.isEmpty() || !hasJoiners(before.back().script());
+    default:
+        return c.category() == QChar::Other_Control && !c.isSpace();
+    }
+}
+
 bool isBlank(QChar c)
 {
     return c.isSpace() && c != kNoBreakSpace;
@@ -38,7 +64,7 @@ QString tidyText(QStringView text)
     QString result;
     result.reserve(text.size());
     for (const QChar c : text) {
-        if (c == kPilcrow)
+        if (c == kPilcrow || isUnseen(c, result))
             continue;
         if (isBlank(c)) {
             if (!result.isEmpty() && result.back() != u' ')

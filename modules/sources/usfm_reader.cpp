@@ -3,6 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "sources/book_names.h"
+#include "sources/fault_texts.h"
 #include "sources/text_cleaning.h"
 #include "sources/usfm_tokens.h"
 
@@ -35,7 +36,16 @@ private:
     bool take(const UsfmToken& token);
     bool takeBook(const UsfmToken& token);
     bool takeChapter(const UsfmToken& token);
+    struct Numbers
+    {
+        int first = 0;
+        int last = 0;         ///< of a bridge
+        qsizetype length = 0; ///< of the text that they take
+    };
+
     bool takeVerse(const UsfmToken& token);
+    static std::optional<Numbers> readNumbers(const QString& text);
+    void tellOddVerse(const UsfmToken& token);
     bool takeNote(const UsfmToken& token);
     bool endsNote(UsfmKind kind) const;
     void takeCharacters(const UsfmToken& token, UsfmKind kind);
@@ -126,8 +136,15 @@ bool UsfmBook::takeBook(const UsfmToken& token)
     if (m_begun)
         return fail(token.line, u"한 파일에 \\id가 두 번 나옵니다."_s);
     m_begun = true;
-    m_book = BookNames::fromUsfm(token.text.trimmed().left(3));
-    return m_book.has_value();
+    const QString id = token.text.trimmed().left(3).toUpper();
+    m_book = BookNames::fromUsfm(id);
+    if (m_book)
+        return true;
+    if (BookNames::isOutsideCanon(id))
+        m_version.remarks << leftOutBooks({id});
+    else if (!BookNames::isNoBook(id))
+        return fail(token.line, u"알 수 없는 책입니다: \\id %1"_s.arg(id));
+    return false;
 }
 
 bool UsfmBook::takeChapter(const UsfmToken& token)
@@ -146,27 +163,49 @@ bool UsfmBook::takeChapter(const UsfmToken& token)
     return true;
 }
 
+// "3", "3a", "3-5", also "3,4" and "3." as some write; nothing without a number.
+std::optional<UsfmBook::Numbers> UsfmBook::readNumbers(const QString& text)
+{
+    static const QRegularExpression form(
+        uR"(^\s*(\d{1,3})(?!\d)(?:[a-z](?!\p{L}))?(?:(?:\s*[-\x{2013}\x{2014}]\s*|,)(\d{1,3})(?!\d)(?:[a-z](?!\p{L}))?)?[.:)]?)"_s);
+    const auto match = form.match(text);
+    Numbers numbers;
+    numbers.first = match.captured(1).toInt();
+    numbers.last = match.captured(2).isEmpty() ? numbers.first : match.captured(2).toInt();
+    numbers.length = match.capturedLength();
+    return numbers.first > 0 ? std::optional(numbers) : std::nullopt;
+}
+
 bool UsfmBook::takeVerse(const UsfmToken& token)
 {
     if (m_chapter < 1)
         return fail(token.line, u"\\c보다 앞에 \\v가 있습니다."_s);
-    static const QRegularExpression number(
-        uR"(^\s*(\d+)[a-z]?(?:\s*[-\x{2013}]\s*(\d+)[a-z]?)?(?:\s|$))"_s);
-    const auto match = number.match(token.text);
-    const int first = match.captured(1).toInt();
-    const int last = match.captured(2).isEmpty() ? first : match.captured(2).toInt();
-    if (first < 1 || last < first)
-        return fail(token.line,
-                    u"\\v 뒤에 절 번호가 없습니다: %1"_s.arg(token.text.trimmed().left(20)));
+    auto numbers = readNumbers(token.text);
+    if (!numbers || numbers->last < numbers->first) {
+        tellOddVerse(token);
+        if (!numbers && m_verse) {
+            startLine(Target::Verse, u' ' + token.text);
+            return true;
+        }
+        numbers = Numbers{numbers ? numbers->first : 1, 0, numbers ? numbers->length : 0};
+    }
     endLine();
     finishVerse();
-    m_verse = VerseText{*m_book, m_chapter, first, {}, {}, {}};
-    m_lastOfBridge = last;
+    m_verse = VerseText{*m_book, m_chapter, numbers->first, {}, {}, {}};
+    m_lastOfBridge = numbers->last;
     settlePending();
     m_target = Target::Verse;
     m_openStyles = 0;
-    append(token.text.mid(match.capturedLength()));
+    append(token.text.mid(numbers->length));
     return true;
+}
+
+// One slip of a typist is no reason to be without the Bible: the words stay with the verse before.
+void UsfmBook::tellOddVerse(const UsfmToken& token)
+{
+    m_version.remarks << u"%1:%2: 절 번호가 이상합니다: \\v %3"_s.arg(m_fileName)
+                             .arg(token.line)
+                             .arg(token.text.trimmed().left(20));
 }
 
 bool UsfmBook::endsNote(UsfmKind kind) const
@@ -295,7 +334,7 @@ Result<QString> decodedFile(const QString& file)
     if (!device.exists())
         return missingSource(file);
     if (!device.open(QIODevice::ReadOnly))
-        return sourceFailure(name, 0, device.errorString());
+        return sourceFailure(name, 0, faultText(device));
     const QByteArray bytes = device.readAll();
     const auto encoding = QStringConverter::encodingForData(bytes);
     QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));

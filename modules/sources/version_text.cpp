@@ -24,6 +24,33 @@ auto placeOf(const VerseText& verse)
     return std::tuple(verse.book, verse.chapter, verse.verse);
 }
 
+QString chapterPlace(const VerseText& verse)
+{
+    return u"%1%2"_s.arg(bookAbbreviation(verse.book)).arg(verse.chapter);
+}
+
+// What stands in front of a chapter's first verse is counted as verse 0 by some: the title of a
+// Psalm, which is kept with verse 1, or an introduction.
+void settleVerseZero(VersionText& version)
+{
+    QStringList dropped;
+    for (VerseText& verse : version.verses) {
+        if (verse.verse != 0 || verse.chapter < 1)
+            continue;
+        const auto words = std::exchange(verse.text, std::nullopt);
+        if (verse.book == kPsalms && words)
+            verse.part = verse.part ? *verse.part + u' ' + *words : *words;
+        else if (words)
+            dropped << chapterPlace(verse);
+        if (verse.part || !verse.miniTitle.isEmpty())
+            verse.verse = 1;
+    }
+    std::erase_if(version.verses,
+                  [](const VerseText& verse) { return verse.verse == 0 && verse.chapter > 0; });
+    if (!dropped.isEmpty())
+        version.remarks << u"장의 머리말(0절)을 뺐습니다: %1"_s.arg(dropped.join(u' '));
+}
+
 bool inCanon(const VerseText& verse)
 {
     return verse.chapter >= 1 && verse.chapter <= chapterCount(verse.book) && verse.verse >= 1;
@@ -89,6 +116,11 @@ std::optional<Failure> BookFiles::add(const QString& file, const VersionText& ve
     return std::nullopt;
 }
 
+QString leftOutBooks(const QStringList& ids)
+{
+    return u"정경에 없는 책을 뺐습니다: %1"_s.arg(ids.join(u", "_s));
+}
+
 void addHeading(QString& headings, const QString& heading)
 {
     if (heading.isEmpty())
@@ -100,6 +132,7 @@ void addHeading(QString& headings, const QString& heading)
 
 void arrangeVerses(VersionText& version)
 {
+    settleVerseZero(version);
     dropOutsideCanon(version);
     auto& verses = version.verses;
     std::stable_sort(verses.begin(), verses.end(), [](const VerseText& a, const VerseText& b) {

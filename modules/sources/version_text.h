@@ -56,6 +56,9 @@ private:
     std::map<int, QString> m_fileOfBook;
 };
 
+/// The remark on books that a version leaves out since the canon hasn't them.
+QString leftOutBooks(const QStringList& ids);
+
 /// Puts a heading behind those that a verse has already.
 void addHeading(QString& headings, const QString& heading);
 

@@ -23,51 +23,100 @@ const ModuleTask* taskOf(const BuildPlan& plan, int code)
 class BuildPlanTest : public testing::Test
 {
 protected:
-    void writeUserFolder()
+    // A book file with one verse, made up in the wording of the edition of 1961.
+    QString book(const QString& name, QStringView text, QStringView hangul = {}) const
     {
-        const QString book = u"{\"book\": \"Ruth\", \"chapters\": [{\"chapter\": 1, \"verses\": "
-                             u"[{\"verse\": 1, \"text\": \"a\"%1}]}]}"_s;
-        files.write(u"user/plain/Ruth.json"_s, book.arg(QString()));
-        files.write(u"user/mixed/Ruth.json"_s, book.arg(u", \"hangulText\": \"b\""_s));
-        files.write(u"user/plain/Bad.json"_s, u"{"_s);
-        files.write(u"user/901 나의 역본/rut.usfm"_s, u"\\id RUT\n\\c 1\n\\v 1 a"_s);
-        files.write(u"user/214.xml"_s, u"<osis/>"_s);
-        files.write(u"user/other.xml"_s, u"<html/>"_s);
-        files.write(u"user/unknown/a.sfm"_s, u"\\id RUT"_s);
-        files.write(u"user/sword/mods.d/bbe.conf"_s, u"[BBE]\nDataPath=./x/\n"_s);
-        files.write(u"user/304/a.xml"_s, u"<osis/>"_s);
+        const QString more =
+            hangul.isEmpty() ? QString() : u", \"hangulText\": \"%1\""_s.arg(hangul);
+        return files.write(name,
+                           u"{\"book\": \"룻기\", \"chapters\": [{\"chapter\": 1, \"verses\": "
+                           u"[{\"verse\": 1, \"text\": \"%1\"%2}]}]}"_s.arg(text, more));
+    }
+    const BuildPlan& plan(bool baptist = false)
+    {
+        BuildOptions options;
+        options.sourceFolder = files.path(u"user"_s);
+        options.baptist = baptist;
+        auto made = planBuild(options, {});
+        EXPECT_TRUE(made.ok());
+        m_plan = std::move(made.value());
+        return m_plan;
+    }
+    QString remarks() const { return m_plan.remarks.join(u'\n'); }
+    QString usedFile(int code) const
+    {
+        const ModuleTask* task = taskOf(m_plan, code);
+        return task ? task->source.files.value(0) : u"none"_s;
     }
 
     SourceFiles files;
+    BuildPlan m_plan;
 };
+
+constexpr QStringView kOldKorean = u"아무개가 가로되 시험이라 하니라";
+constexpr QStringView kNewKorean = u"아무개가 말하였다 시험이다";
+constexpr QStringView kMixed = u"아무개가 曰 試驗이라 하니라";
 
 TEST_F(BuildPlanTest, FindsWhatLiesInAUserFolder)
 {
-    writeUserFolder();
-    BuildOptions options;
-    options.sourceFolder = files.path(u"user"_s);
-    options.baptist = true;
-    const auto plan = planBuild(options, {});
-    ASSERT_TRUE(plan.ok());
-    const ModuleTask* korean = taskOf(plan.value(), 101);
+    book(u"user/plain/Ruth.json"_s, kOldKorean);
+    book(u"user/mixed/Ruth.json"_s, kMixed, kOldKorean);
+    files.write(u"user/plain/Bad.json"_s, u"{"_s);
+    files.write(u"user/901 나의 역본/rut.usfm"_s, u"\\id RUT\n\\c 1\n\\v 1 a"_s);
+    files.write(u"user/214.xml"_s, u"<osis/>"_s);
+    files.write(u"user/304/a.xml"_s, u"<osis/>"_s);
+    files.write(u"user/sword/mods.d/bbe.conf"_s, u"[BBE]\nDataPath=./x/\n"_s);
+    plan(true);
+    const ModuleTask* korean = taskOf(m_plan, 101);
     ASSERT_NE(korean, nullptr);
     // A damaged file beside the good ones is a fault of the module and not passed over.
     EXPECT_EQ(korean->source.files.size(), 2);
     EXPECT_EQ(korean->numbering, Numbering::Korean);
-    EXPECT_NE(taskOf(plan.value(), 102), nullptr);
-    ASSERT_NE(taskOf(plan.value(), 103), nullptr);
-    EXPECT_EQ(taskOf(plan.value(), 103)->name, u"개역한글침례표기"_s);
-    EXPECT_EQ(taskOf(plan.value(), 103)->mends.size(), korean->mends.size() + 1);
-    ASSERT_NE(taskOf(plan.value(), 901), nullptr);
-    EXPECT_EQ(taskOf(plan.value(), 901)->name, u"나의 역본"_s);
-    ASSERT_NE(taskOf(plan.value(), 211), nullptr);
-    EXPECT_EQ(taskOf(plan.value(), 211)->name, u"BBE"_s);
-    ASSERT_NE(taskOf(plan.value(), 214), nullptr);
-    EXPECT_EQ(taskOf(plan.value(), 304), nullptr);
-    const QString remarks = plan.value().remarks.join(u'\n');
-    EXPECT_TRUE(remarks.contains(files.path(u"user/unknown"_s)));
-    EXPECT_TRUE(remarks.contains(u"304: "_s));
-    EXPECT_FALSE(remarks.contains(u"other.xml"_s));
+    EXPECT_TRUE(usedFile(102).contains(u"mixed"_s));
+    ASSERT_NE(taskOf(m_plan, 103), nullptr);
+    EXPECT_EQ(taskOf(m_plan, 103)->mends.size(), korean->mends.size() + 1);
+    ASSERT_NE(taskOf(m_plan, 901), nullptr);
+    EXPECT_EQ(taskOf(m_plan, 901)->name, u"나의 역본"_s);
+    ASSERT_NE(taskOf(m_plan, 211), nullptr);
+    EXPECT_EQ(taskOf(m_plan, 211)->source.format, SourceFormat::Sword);
+    EXPECT_NE(taskOf(m_plan, 214), nullptr);
+    EXPECT_EQ(taskOf(m_plan, 304), nullptr);
+    EXPECT_TRUE(remarks().contains(u"304: "_s));
+}
+
+TEST_F(BuildPlanTest, OnlyTheWordingOfTheEditionMakesAFolderWithoutANumberTheKoreanText)
+{
+    book(u"user/a-english/Ruth.json"_s, u"somebody said this is a trial");
+    book(u"user/b-new/Ruth.json"_s, kNewKorean);
+    plan();
+    EXPECT_EQ(taskOf(m_plan, 101), nullptr);
+    for (const QString& folder : {u"a-english"_s, u"b-new"_s})
+        EXPECT_TRUE(remarks().contains(u"알 수 없습니다: "_s + files.path(u"user/"_s + folder)))
+            << remarks().toStdString();
+    book(u"user/c-old/Ruth.json"_s, kOldKorean);
+    book(u"user/d-copy/Ruth.json"_s, kOldKorean);
+    plan();
+    EXPECT_TRUE(usedFile(101).contains(u"c-old"_s));
+    EXPECT_TRUE(remarks().contains(u"쓰지 않는 것: "_s + files.path(u"user/d-copy"_s)));
+    book(u"user/e/101/Ruth.json"_s, kNewKorean);
+    plan();
+    EXPECT_TRUE(usedFile(101).contains(u"e/101"_s)) << "a number goes before a guess";
+}
+
+TEST_F(BuildPlanTest, NamesFoldersThatNoReaderKnows)
+{
+    files.write(u"user/known/README.md"_s, u"x"_s);
+    files.write(u"user/known/214/a.usfm"_s, u"\\id RUT"_s);
+    files.write(u"user/unknown/a.sfm"_s, u"\\id RUT"_s);
+    files.write(u"user/zip/bible.zip"_s, u"x"_s);
+    files.write(u"user/html/a.xml"_s, u"<html/>"_s);
+    files.write(u"user/sword/mods.d/bbe.conf"_s, u"[BBE]\nDataPath=./modules/x/\n"_s);
+    files.write(u"user/sword/modules/x/ot"_s, u"x"_s);
+    plan();
+    for (const QString& told : {u"unknown"_s, u"zip"_s, u"html"_s})
+        EXPECT_TRUE(remarks().contains(files.path(u"user/"_s + told))) << told.toStdString();
+    for (const QString& quiet : {u"known"_s, u"sword/modules"_s})
+        EXPECT_FALSE(remarks().contains(files.path(u"user/"_s + quiet))) << quiet.toStdString();
 }
 
 TEST_F(BuildPlanTest, ASuppliedTextGoesBeforeAnInstalledOne)

@@ -35,19 +35,25 @@ TEST(JsonReaders, ReadsABookAFileInCanonOrder)
     EXPECT_EQ(wordsAt(version.value(), 21, 1, 1), u"둘"_s);
 }
 
-TEST(JsonReaders, KnowsTheEditionInMixedScript)
+TEST(JsonReaders, KnowsABookByAnyTitleInUse)
 {
+    struct Row
+    {
+        QStringView title;
+        int book;
+    };
+    const Row rows[] = {
+        {u"창세기", 0},    {u"창", 0},     {u"GEN", 0},          {u"1 Samuel", 8},
+        {u"II Kings", 11}, {u"Psalm", 18}, {u"시편", 18},        {u"요한 1서", 61},
+        {u"요한일서", 61}, {u"1Jn", 61},   {u"\u1100\u1168", 65}}; // the last decomposed
     const SourceFiles files;
-    bool mixed = true;
-    EXPECT_TRUE(looksLikeBookJson(
-        files.write(u"a.json"_s, bookJson(u"Genesis", u"{\"verse\": 1, \"text\": \"a\"}")), mixed));
-    EXPECT_FALSE(mixed);
-    EXPECT_TRUE(looksLikeBookJson(
-        files.write(u"b.json"_s, bookJson(u"Genesis", u"{\"verse\": 1, \"text\": \"a\", "
-                                                      u"\"hangulText\": \"b\"}")),
-        mixed));
-    EXPECT_TRUE(mixed);
-    EXPECT_FALSE(looksLikeBookJson(files.write(u"c.json"_s, u"{\"name\": 1}"_s), mixed));
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.title.toString().toStdString());
+        const auto version = readBookJsonFiles(
+            {files.write(u"a.json"_s, bookJson(row.title, u"{\"verse\": 1, \"text\": \"a\"}"))});
+        ASSERT_TRUE(version.ok()) << version.failure().detail.toStdString();
+        EXPECT_EQ(version.value().verses[0].book, row.book);
+    }
 }
 
 TEST(JsonReaders, NamesFileAndLineOfAFault)
@@ -87,6 +93,11 @@ TEST(JsonReaders, ReadsNestedOsisWhereAListOfOneIsTheItem)
     EXPECT_EQ(wordsAt(version.value(), 44, 1, 1), u"two"_s);
     ASSERT_EQ(version.value().remarks.size(), 1);
     EXPECT_TRUE(version.value().remarks[0].contains(u"Tob"_s));
+    EXPECT_FALSE(readNestedJsonFile(
+                     files.write(u"slip.json"_s,
+                                 u"{\"osis\": {\"osisText\": {\"div\": {\"chapter\": {\"verse\": "
+                                 u"{\"-osisID\": \"Gem.1.1\", \"text\": \"one\"}}}}}}"_s))
+                     .ok());
 }
 
 TEST(JsonReaders, CountsTheFlatArrayAndSkipsItsFiller)

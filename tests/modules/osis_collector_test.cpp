@@ -89,5 +89,11 @@ TEST(TextCleaning, JoinsBlanksButKeepsTheNoBreakSpace)
     EXPECT_FALSE(textOrNothing(u" ¶ \n").has_value());
 }
 
+TEST(TextCleaning, DropsSignsThatNobodySees)
+{
+    const QString text = u"a\u200Bb\uFEFFc\u00ADd"_s + QChar(0) + u"\u200De \u0628\u200C\u0628"_s;
+    EXPECT_EQ(tidyText(text), u"abcde \u0628\u200C\u0628"_s);
+}
+
 } // namespace
 } // namespace lumen

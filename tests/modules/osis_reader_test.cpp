@@ -52,6 +52,25 @@ TEST(OsisReader, HeadingBehindAVerseIsThatOfTheNext)
     EXPECT_EQ(verseAt(version.value(), 0, 1, 2)->miniTitle, u"Second"_s);
 }
 
+TEST(OsisReader, ReadsRangesAndTheTitleThatIsCountedAsVerseZero)
+{
+    const SourceFiles files;
+    VersionResult version = readOsisFile(files.write(
+        u"a.xml"_s, osis(u"<verse osisID=\"Gen.1.0\">About</verse>"
+                         u"<verse osisID=\"Gen.1.1-Gen.1.3\">one</verse>"
+                         u"<verse osisID=\"Gen.1.4\">two<milestone type=\"line\"/>three</verse>"
+                         u"<verse osisID=\"Ps.3.0\">A song</verse><verse osisID=\"Ps.3.1\">four"
+                         u"</verse>")));
+    ASSERT_TRUE(version.ok()) << version.failure().detail.toStdString();
+    arrangeVerses(version.value());
+    EXPECT_EQ(wordsAt(version.value(), 0, 1, 1), u"one"_s);
+    EXPECT_EQ(wordsAt(version.value(), 0, 1, 3), u"<no words>"_s);
+    EXPECT_EQ(wordsAt(version.value(), 0, 1, 4), u"two three"_s);
+    EXPECT_EQ(verseAt(version.value(), 18, 3, 1)->part.value_or(QString()), u"A song"_s);
+    EXPECT_EQ(wordsAt(version.value(), 18, 3, 1), u"four"_s);
+    EXPECT_EQ(version.value().remarks.size(), 1) << "on what is dropped";
+}
+
 TEST(OsisReader, NamesFileAndLineOfAFault)
 {
     struct Row
@@ -67,6 +86,11 @@ TEST(OsisReader, NamesFileAndLineOfAFault)
          u"bad.xml:4: "},
         {u"\n\n<verse osisID=\"Gen.1.1\" sID=\"a\"/>one", u"bad.xml:5: "},
         {u"no verse at all", u"bad.xml: "},
+        {u"\n<verse osisID=\"Gem.1.1\">one</verse>", u"bad.xml:4: "},
+        {u"<verse osisID=\"Gen.1.1\">one</verse><verse osisID=\"Exod.1.1\">two</verse>\n"
+         u"<verse osisID=\"Gen.2.1\">a book that comes again</verse>",
+         u"bad.xml:4: "},
+        {u"\n<verse osisID=\"Gen.1.5-Gen.1.3\">one</verse>", u"bad.xml:4: "},
     };
     const SourceFiles files;
     for (const Row& row : rows) {

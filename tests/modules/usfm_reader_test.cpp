@@ -90,6 +90,33 @@ TEST_F(UsfmReaderTest, ReadsBridgesPartsAndEmptyVerses)
     EXPECT_EQ(wordsAt(version.value(), 42, 3, 5), u"<no words>"_s);
 }
 
+TEST_F(UsfmReaderTest, AnOddVerseNumberLosesNoWords)
+{
+    struct Row
+    {
+        QStringView verses;
+        QStringView first, second, third;
+        qsizetype remarks;
+    };
+    const Row rows[] = {
+        {u"\\v 1 a\n\\v 2. b\n\\v 3one", u"a", u"b", u"one", 0},
+        {u"\\v 1 a\n\\v 2,3 b", u"a", u"b", u"<no words>", 0},
+        {u"\\v 1 a\n\\v 2 3 men", u"a", u"3 men", u"<no row>", 0},
+        {u"\\v 1 a\n\\v two b\n\\v 3 c", u"a two b", u"<no row>", u"c", 1},
+        {u"\\v 1 a\n\\v\n\\p b\n\\v 3 c", u"a b", u"<no row>", u"c", 1},
+        {u"\\v one a\n\\v 2-1 b\n\\v 3 c", u"one a", u"b", u"c", 2},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.verses.toString().toStdString());
+        const auto version = read(u"\\id GEN\n\\c 1\n"_s + row.verses.toString());
+        ASSERT_TRUE(version.ok()) << version.failure().detail.toStdString();
+        EXPECT_EQ(wordsAt(version.value(), 0, 1, 1), row.first);
+        EXPECT_EQ(wordsAt(version.value(), 0, 1, 2), row.second);
+        EXPECT_EQ(wordsAt(version.value(), 0, 1, 3), row.third);
+        EXPECT_EQ(version.value().remarks.size(), row.remarks);
+    }
+}
+
 TEST_F(UsfmReaderTest, NamesFileAndLineOfAFault)
 {
     struct Row
@@ -100,8 +127,7 @@ TEST_F(UsfmReaderTest, NamesFileAndLineOfAFault)
     const Row rows[] = {
         {u"\\id GEN\n\\c one\n\\v 1 x", u"book.usfm:2: "},
         {u"\\id GEN\n\\v 1 x", u"book.usfm:2: "},
-        {u"\\id GEN\n\\c 1\n\\v 1 x\n\\v two", u"book.usfm:4: "},
-        {u"\\id GEN\n\\c 1\n\\v 5-3 x", u"book.usfm:3: "},
+        {u"\n\\id GEM\n\\c 1\n\\v 1 x", u"book.usfm:2: "},
         {u"\\id GEN\n\\c 1\n\\v 1 x\n\\q \\f + \\ft note\n\\v 2 y", u"book.usfm:4: "},
         {u"\\id GEN\n\\c 1\n\\v 1 x \\f + end", u"book.usfm:3: "},
         {u"\\id GEN\n\\c 1\n\\v 1 x\n\\id EXO", u"book.usfm:4: "},
@@ -129,9 +155,11 @@ TEST_F(UsfmReaderTest, RefusesBytesThatAreNoTextAndABookThatComesTwice)
 TEST_F(UsfmReaderTest, PassesOverFilesThatAreNoBooks)
 {
     const QString glossary = files.write(u"glo.usfm"_s, u"\\id GLO\n\\p words"_s);
+    const QString tobit = files.write(u"tob.usfm"_s, u"\\id TOB\n\\c 1\n\\v 1 words"_s);
     const QString book = files.write(u"rut.usfm"_s, u"\uFEFF\\id rut x\n\\c 1\n\\v 1 a"_s);
-    const auto version = readUsfmFiles({glossary, book});
+    const auto version = readUsfmFiles({glossary, tobit, book});
     ASSERT_TRUE(version.ok());
+    EXPECT_TRUE(version.value().remarks.join(u' ').contains(u"TOB"_s));
     EXPECT_EQ(version.value().verses.size(), 1U);
     EXPECT_EQ(wordsAt(version.value(), 7, 1, 1), u"a"_s);
     EXPECT_FALSE(readUsfmFiles({glossary}).ok());

@@ -241,7 +241,7 @@ TEST(OriginalPlan, FindsTheUsersFiles)
     const SourceFiles files;
     files.write(u"user/greek/MAT.csv"_s, u"chapter,verse,text\n1,1,α 1 {X}\n"_s);
     files.write(u"user/greek/notes.csv"_s, u"a\n"_s);
-    files.write(u"user/krv/Ruth.json"_s,
+    files.write(u"user/101/Ruth.json"_s,
                 u"{\"book\": \"Ruth\", \"chapters\": [{\"chapter\": 1, \"verses\": "
                 "[{\"verse\": 1, \"text\": \"a\"}]}]}"_s);
     files.write(u"user/306/a.xml"_s, u"<osis/>"_s);
