@@ -208,13 +208,13 @@ QString whyNotBuildable(int code, const QString& name)
         return u"%1: 원어 본문은 이 방법으로 만들 수 없습니다."_s.arg(code);
     if (!isUserSlot(code))
         return catalogueName(code).isEmpty() ? u"%1: 없는 역본 번호입니다."_s.arg(code) : QString();
-    // The name becomes a table's; a list knows an absent row by its closing bracket.
-    static const QRegularExpression refused(uR"([\[\]!`".\x00-\x1F]|\)$|^MSys)"_s,
+    // The name becomes a table's; "(없음)" behind it marks an absent row in the lists.
+    static const QRegularExpression refused(uR"([\[\]!`".\x00-\x1F]|\(없음\)$|^MSys)"_s,
                                             QRegularExpression::CaseInsensitiveOption);
     constexpr qsizetype kLongestName = 64;
     if (name.trimmed().isEmpty() || name.size() > kLongestName || name.contains(refused))
         return u"%1: 사용자 역본의 이름으로 쓸 수 없습니다: \"%2\". 마침표와 [ ] ! ` \" 를 빼고 "
-               u"\")\"로 "
+               u"\"(없음)\"으로 "
                "끝나지 않는 64자까지의 이름을 --name으로 주십시오."_s.arg(code)
                    .arg(name);
     return {};

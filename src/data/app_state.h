@@ -24,7 +24,7 @@ struct InstalledFlags
     bool myc = false;
     bool z101 = false;
 
-    /// The table names of the user slots, slot i at index i - 1; "" when absent or without a table.
+    /// The table names of the user slots, slot i at index i - 1; "" when absent.
     std::array<QString, kUserVersionCount> userTables;
     int versionCount = 0;
     QString firstVersion;

@@ -99,7 +99,9 @@ void Check::userVersion(int code)
     const QString path = joinedPath(m_state.AppPath, versionFile(code));
     if (m_files.FileExists(path)) {
         const std::optional<QString> table = firstTable(path);
-        if (table) {
+        if (table && table->isEmpty())
+            qCWarning(dataLog) << "user version left out, it has no table of its own:" << path;
+        else if (table) {
             const auto slot = static_cast<std::size_t>(code - kFirstUserVersion);
             m_state.installed.userTables[slot] = *table;
             count(code, *table);

@@ -14,7 +14,7 @@ class JetEngine;
 QString FindCdDrive(const Drives& drives);
 
 /// Takes stock of the installed modules into `state.installed`; AppPath and CdDrive must be set.
-/// A user version that can't be opened counts as absent.
+/// A user version that can't be opened or has no table of its own counts as absent.
 void CheckData(AppState& state, const FileSystem& files, JetEngine& jet);
 
 } // namespace lumen

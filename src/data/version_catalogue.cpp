@@ -20,7 +20,7 @@ static_assert([] {
         for (std::size_t k = 0; k < i; ++k)
             if (kVersionCatalogue[i].code == kVersionCatalogue[k].code)
                 return false;
-    return kVersionCatalogue.size() == 47;
+    return kVersionCatalogue.size() == 49;
 }());
 
 int userSlot(int code)
@@ -78,9 +78,7 @@ QString versionName(int code, const InstalledFlags& installed)
     for (const VersionRow& row : kVersionCatalogue)
         if (row.code == code)
             return row.name.toString();
-    if (code == 106)
-        return u"개역개정판"_s;
-    return code == 107 ? u"현대어성경"_s : QString();
+    return {};
 }
 
 QList<VersionItem> SetClassicCombo(const InstalledFlags& installed, int number)
@@ -128,14 +126,9 @@ int indexOfVersion(const QList<VersionItem>& items, int code)
     return found == items.cend() ? -1 : found->index;
 }
 
-bool isAbsentLabel(QStringView label)
-{
-    return label.endsWith(u')');
-}
-
 int restoredVersionIndex(const QList<VersionItem>& items, int saved)
 {
-    if (saved < 0 || saved >= items.size() || isAbsentLabel(items[saved].label))
+    if (saved < 0 || saved >= items.size() || !items[saved].present)
         return 0;
     return saved;
 }

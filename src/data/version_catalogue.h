@@ -29,6 +29,8 @@ inline constexpr std::array kVersionCatalogue{
     VersionRow{103, u"개역한글침례표기"},
     VersionRow{104, u"공동번역"},
     VersionRow{105, u"표준새번역"},
+    VersionRow{106, u"개역개정판", false},
+    VersionRow{107, u"현대어성경", false},
     VersionRow{108, u"현대인의 성경"},
     VersionRow{109, u"킹제임스 흠정역", false},
     VersionRow{401, u"중국어 간체"},
@@ -73,11 +75,12 @@ inline constexpr std::array kVersionCatalogue{
     VersionRow{311, u"Tischendorf"},
 };
 
-/// What an empty parallel slot holds.
+/// What an empty parallel slot is called. Whether it is empty its code tells: a version of the
+/// user's may have this name.
 inline constexpr QStringView kNoVersion = u"None";
 
-/// The name of a version: its row's, for a user slot the table of its module. 106 and 107, which no
-/// list offers, have their names too. "" for a code that isn't known or a slot that is absent.
+/// The name of a version: its row's, for a user slot the table of its module. "" for a code that
+/// isn't known or a slot that is absent.
 QString versionName(int code, const InstalledFlags& installed);
 
 /// One item of a version combo.
@@ -115,8 +118,6 @@ QList<VersionTool> SetupMenu(const InstalledFlags& installed, int number);
 
 /// The place of a code among the items, -1 when it has none.
 int indexOfVersion(const QList<VersionItem>& items, int code);
-/// A row that isn't installed is known by its last character.
-bool isAbsentLabel(QStringView label);
 /// The index that a saved one stands for: 0 when it lies outside or names an absent row.
 int restoredVersionIndex(const QList<VersionItem>& items, int saved);
 /// Where the choice goes while the window loads and the row is absent: the next one, from the last

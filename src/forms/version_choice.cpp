@@ -31,7 +31,7 @@ ChosenVersion VersionChoice::choose(QWidget* parent, int index, bool loading)
         m_previousIndex = index;
         return {true, index, 0, kNoVersion.toString(), {}};
     }
-    if (isAbsentLabel(item.label)) {
+    if (!item.present) {
         if (loading)
             return moveOn(index);
         return refuse(parent, item.code, AbsentVersion::ComboRow, m_previousIndex);
@@ -47,7 +47,7 @@ ChosenVersion VersionChoice::choose(QWidget* parent, int index, bool loading)
 
 ChosenVersion VersionChoice::moveOn(int index) const
 {
-    // With 106 or 107 alone, which no list has, there is nowhere to go.
+    // Without any version there is nowhere to go.
     const bool nowhere = std::none_of(m_items.begin(), m_items.end(),
                                       [](const VersionItem& item) { return item.present; });
     if (nowhere)

@@ -313,7 +313,8 @@ void frm성서::copySelection(OriginalText originals)
     options.crLf = m_settings.copy.crLf; // unlike the others it counts as it was at the start
     CopySource source;
     for (int slot = 0; slot < kSlotCount; ++slot)
-        source.versions << versionName(slot);
+        if (slot == 0 || m_slots(slot).isOpen())
+            source.versions << versionName(slot);
     source.bookName = toolCombo(u"ID_cb책명").Text();
     source.abbreviation = bookAbbreviation(book());
     source.chapter = toolCombo(u"ID_cb장").Text();

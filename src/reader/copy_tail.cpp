@@ -7,15 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString versionText(const QStringList& versions)
-{
-    QString text = versions.value(0);
-    for (const QString& name : versions.mid(1))
-        if (name.toUpper() != "NONE"_L1)
-            text += u'/' + name;
-    return text + u' ';
-}
-
 QString verseText(const QString& range)
 {
     const qsizetype dash = range.indexOf(u'-');
@@ -43,7 +34,7 @@ QString GetCopyTailIndex(const CopyOptions& options, const CopySource& source)
         return QString();
     QString tail = referenceText(options, source);
     if (options.addVersion)
-        tail.prepend(versionText(source.versions));
+        tail.prepend(source.versions.join(u'/') + u' ');
     if (options.parenthesis)
         tail = u'(' + tail + u')';
     // On a line of its own the tail needs no blank before it.

@@ -11,7 +11,7 @@ namespace lumen {
 /// What is selected when verses are copied.
 struct CopySource
 {
-    /// The table names of the base version and the three parallel slots, "None" for an empty one.
+    /// The table names of the base version and of the parallel slots that are not empty.
     QStringList versions;
     QString bookName;
     QString abbreviation;

@@ -49,7 +49,7 @@ TEST(VersionCatalogue, ABaseComboMarksWhatIsAbsentAndNumbersFromZero)
     EXPECT_EQ(texts.size(), 46 + 15);
     for (qsizetype i = 0; i < items.size(); ++i) {
         EXPECT_EQ(items[i].index, i);
-        EXPECT_EQ(isAbsentLabel(items[i].label), !items[i].present) << items[i].code;
+        EXPECT_EQ(items[i].label.endsWith(u"(없음)"), !items[i].present) << items[i].code;
     }
     EXPECT_EQ(indexOfVersion(items, 902), texts.size() - 14);
     EXPECT_EQ(indexOfVersion(items, 109), -1);
@@ -60,7 +60,6 @@ TEST(VersionCatalogue, AParallelComboBeginsWithNoneAndPrefixesEveryItem)
     const QList<VersionItem> items = SetClassicCombo(installedVersions({109}), 2);
     EXPECT_EQ(items[0].label, u"대역본2 - 없음"_s);
     EXPECT_EQ(items[0].code, 0);
-    EXPECT_FALSE(isAbsentLabel(items[0].label));
     EXPECT_EQ(items[1].label, u"대역본2 - 개역한글(없음)"_s);
     EXPECT_EQ(items[1].code, 101);
     EXPECT_EQ(items[7].label, u"대역본2 - 킹제임스 흠정역"_s);
@@ -110,7 +109,10 @@ TEST(VersionCatalogue, MenuToolsAreNamedAndShownByTheirSlot)
 
 TEST(VersionCatalogue, ASavedIndexThatCantBeTakenGivesTheFirstItem)
 {
-    const QList<VersionItem> items = SetClassicCombo(installedVersions({101, 102}), 0);
+    InstalledFlags installed = installedVersions({101, 102, 902});
+    installed.userTables[1] = u"나의 역본 (새)"_s;
+    const QList<VersionItem> items = SetClassicCombo(installed, 0);
+    EXPECT_EQ(restoredVersionIndex(items, 47), 47) << "a name of its own may end in a bracket";
     EXPECT_EQ(restoredVersionIndex(items, 1), 1);
     for (const int saved : {2, -1, 61, 1000})
         EXPECT_EQ(restoredVersionIndex(items, saved), 0) << saved;

@@ -49,7 +49,14 @@ TEST_F(VersionChoiceTest, AnInstalledVersionGivesItsTableAndPath)
     EXPECT_EQ(kjv.tableName, u"KJV"_s);
     EXPECT_EQ(kjv.path, u"C:\\lumenscript\\Data\\201.dts"_s);
     EXPECT_EQ(base.previousIndex(), base.indexOf(201));
-    EXPECT_EQ(choose(base, 901).tableName, u"나의 역본"_s);
+    for (const QString& name : {u"나의 역본"_s, u"나의 역본 (새)"_s, u"None"_s}) {
+        world.state.installed.userTables[0] = name;
+        VersionChoice parallel = choiceOf({.number = 1});
+        const ChosenVersion own = choose(parallel, 901);
+        EXPECT_TRUE(own.accepted) << name.toStdString();
+        EXPECT_EQ(own.tableName, name);
+        EXPECT_EQ(own.code, 901);
+    }
 }
 
 TEST_F(VersionChoiceTest, TheFirstItemOfAParallelSlotIsNoVersion)

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 CopySource genesis(const QString& range)
 {
-    return {{u"개역한글"_s, u"None"_s, u"KJV"_s, u"NONE"_s}, u"창세기"_s, u"창"_s, u"1"_s, range};
+    return {{u"개역한글"_s, u"KJV"_s}, u"창세기"_s, u"창"_s, u"1"_s, range};
 }
 
 TEST(CopyTailTest, WithoutSettingsVersionsAndPlaceStandInParentheses)
