@@ -24,7 +24,7 @@ Answer answerTo(int flags, const std::function<void(QMessageBox&)>& user)
         ASSERT_NE(box, nullptr);
         user(*box);
     });
-    return boxes.show(nullptr, u"제목"_s, u"본문"_s, flags);
+    return boxes.show(nullptr, u"제목"_s, u"본문"_s, flags, u"할 일"_s);
 }
 
 QStringList captions(const QMessageBox& box)
@@ -94,6 +94,15 @@ TEST(QtMessageBoxes, EachButtonGivesItsAnswer)
     EXPECT_EQ(answerOfClick(35, u"아니요"_s), Answer::No);
     EXPECT_EQ(answerOfClick(35, u"취소"_s), Answer::Cancel);
     EXPECT_EQ(answerOfClick(36, u"예"_s), Answer::Yes);
+}
+
+TEST(QtMessageBoxes, AdviceStandsBelowTheText)
+{
+    answerTo(48, [](QMessageBox& box) {
+        EXPECT_EQ(box.text(), u"본문"_s);
+        EXPECT_EQ(box.informativeText(), u"할 일"_s);
+        box.reject();
+    });
 }
 
 TEST(QtMessageBoxes, MarkupInATextIsShownAsItIs)

@@ -77,6 +77,7 @@ TEST_F(VersionChoiceTest, AnAbsentRowIsRefusedAndTheFormerPutBack)
     const ChosenVersion asv = choose(base, 205);
     EXPECT_FALSE(asv.accepted);
     EXPECT_EQ(asv.index, base.indexOf(201));
+    EXPECT_TRUE(world.messages.lastAdvice().contains(u"lumen-modules build"_s));
     world.messages.expect(u"역본 미설치"_s, kMissingText, 48);
     EXPECT_FALSE(choose(base, 203).accepted);
     world.messages.verify();

@@ -16,9 +16,16 @@ void ScriptedMessageBoxes::expect(const QString& title, const QString& text, int
     m_expected.append({title, text, flags, answer, std::move(whileOpen)});
 }
 
-Answer ScriptedMessageBoxes::show(QWidget* /*parent*/, const QString& title, const QString& text,
+Answer ScriptedMessageBoxes::show(QWidget* parent, const QString& title, const QString& text,
                                   int flags)
 {
+    return show(parent, title, text, flags, {});
+}
+
+Answer ScriptedMessageBoxes::show(QWidget* /*parent*/, const QString& title, const QString& text,
+                                  int flags, const QString& advice)
+{
+    m_advice = advice;
     ++m_shown;
     if (m_expected.isEmpty()) {
         ADD_FAILURE() << "unexpected message box: " << title.toStdString() << " | "

@@ -19,6 +19,8 @@ public:
 
     using MessageBoxes::show;
     Answer show(QWidget* parent, const QString& title, const QString& text, int flags) override;
+    Answer show(QWidget* parent, const QString& title, const QString& text, int flags,
+                const QString& advice) override;
 
     /// The next box. `whileOpen` runs while it is up, before the answer is given.
     void expect(const QString& title, const QString& text, int flags, Answer answer = Answer::Ok,
@@ -26,6 +28,8 @@ public:
     /// Fails for each box that hasn't come, and forgets them; the destructor does it too.
     void verify();
     int shownCount() const { return m_shown; }
+    /// What stood below the text of the last box.
+    const QString& lastAdvice() const { return m_advice; }
 
 private:
     struct Box
@@ -38,6 +42,7 @@ private:
     };
 
     QList<Box> m_expected;
+    QString m_advice;
     int m_shown = 0;
 };
 

@@ -17,11 +17,14 @@ class MessageBoxes
 public:
     virtual ~MessageBoxes() = default;
     virtual Answer show(QWidget* parent, const QString& title, const QString& text, int flags) = 0;
+    /// The same with advice below the text, "" for none.
+    virtual Answer show(QWidget* parent, const QString& title, const QString& text, int flags,
+                        const QString& advice) = 0;
 
     Answer show(QWidget* parent, const MessageText& message)
     {
         return show(parent, QString::fromUtf16(message.title), QString::fromUtf16(message.text),
-                    message.flags);
+                    message.flags, message.advice ? QString::fromUtf16(message.advice) : QString());
     }
 };
 

@@ -90,11 +90,13 @@ Answer answerOf(const QMessageBox& box)
     return static_cast<Answer>(clicked->property(kAnswerProperty).toInt());
 }
 
-Answer QtMessageBoxes::show(QWidget* parent, const QString& title, const QString& text, int flags)
+Answer QtMessageBoxes::show(QWidget* parent, const QString& title, const QString& text, int flags,
+                            const QString& advice)
 {
     // A window that isn't shown has no place for a box to stand over: the screen's middle then.
     QMessageBox box(parent != nullptr && parent->isVisible() ? parent : nullptr);
     setUpMessageBox(box, title, text, flags);
+    box.setInformativeText(advice);
     box.exec();
     return answerOf(box);
 }

@@ -12,7 +12,12 @@ class QtMessageBoxes : public MessageBoxes
 {
 public:
     using MessageBoxes::show;
-    Answer show(QWidget* parent, const QString& title, const QString& text, int flags) override;
+    Answer show(QWidget* parent, const QString& title, const QString& text, int flags) override
+    {
+        return show(parent, title, text, flags, {});
+    }
+    Answer show(QWidget* parent, const QString& title, const QString& text, int flags,
+                const QString& advice) override;
 };
 
 /// Gives a box its icon, its buttons and the one that Esc answers.
