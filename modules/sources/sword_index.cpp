@@ -199,6 +199,14 @@ bool SwordTestament::hasText(long place) const
            m_entries[static_cast<std::size_t>(place)].size > 0;
 }
 
+QByteArray SwordTestament::text(long place) const
+{
+    if (!hasText(place))
+        return {};
+    const Entry& entry = m_entries[static_cast<std::size_t>(place)];
+    return m_blocks[entry.block].text.mid(entry.start, entry.size);
+}
+
 // The text of all blocks cut into entries and what lies between them, in the order of the file.
 std::vector<SwordTestament::Piece> SwordTestament::pieces() const
 {

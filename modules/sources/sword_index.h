@@ -36,8 +36,11 @@ public:
     static Result<SwordTestament> read(const SwordLayout& layout, const QString& name,
                                        std::size_t places);
 
+    long places() const { return static_cast<long>(m_entries.size()); }
     /// Whether the index has text for a place. The library must give some for it, too.
     bool hasText(long place) const;
+    /// The bytes of a place as the file has them, "" when they are enciphered or there are none.
+    QByteArray text(long place) const;
     /// How many pieces of text lie where no entry leads to, though a place that is `wanted` belongs
     /// there by the order of the entries around. What is repeated right behind it is not counted.
     int lostPieces(const std::vector<bool>& wanted) const;

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <array>
 #include <markupfiltmgr.h>
 #include <memory>
@@ -67,14 +68,14 @@ std::optional<Choice> chosen(const sword::SWModule& module, const char* key,
     return std::nullopt;
 }
 
-enum class Markup { Osis, Other };
-enum class Encoding { Utf8, Other };
+enum class Markup { None, Osis, Other };
+enum class Encoding { Latin1, Utf8, Other };
 
 struct SwordConf
 {
     SwordLayout layout;
-    Markup markup = Markup::Other;
-    Encoding encoding = Encoding::Other;
+    Markup markup = Markup::None;
+    Encoding encoding = Encoding::Latin1;
 };
 
 struct Driver
@@ -95,11 +96,11 @@ constexpr ConfWord<Compression> kCompressions[] = {{u"", Compression::Lzss},
                                                    {u"XZ", Compression::Xz}};
 constexpr ConfWord<char> kBlocks[] = {
     {u"", 'c'}, {u"BOOK", 'b'}, {u"CHAPTER", 'c'}, {u"VERSE", 'v'}};
-constexpr ConfWord<Markup> kMarkups[] = {{u"", Markup::Other},    {u"Plaintext", Markup::Other},
+constexpr ConfWord<Markup> kMarkups[] = {{u"", Markup::None},     {u"Plaintext", Markup::None},
                                          {u"OSIS", Markup::Osis}, {u"ThML", Markup::Other},
                                          {u"GBF", Markup::Other}, {u"TEI", Markup::Other}};
-constexpr ConfWord<Encoding> kEncodings[] = {{u"", Encoding::Other},
-                                             {u"Latin-1", Encoding::Other},
+constexpr ConfWord<Encoding> kEncodings[] = {{u"", Encoding::Latin1},
+                                             {u"Latin-1", Encoding::Latin1},
                                              {u"UTF-8", Encoding::Utf8},
                                              {u"UTF-16", Encoding::Other},
                                              {u"SCSU", Encoding::Other}};
@@ -150,6 +151,7 @@ public:
 
 private:
     std::optional<Failure> readIndex(sword::VerseKey& key);
+    std::optional<Failure> checkConf() const;
     void visit(sword::VerseKey& key);
     void visitBook(const char* id);
     void visitIntroduction(const QString& entry);
@@ -181,6 +183,8 @@ VersionResult SwordWalk::run()
         return sourceFailure(m_confFile, 0, u"성경 본문 모듈이 아닙니다."_s);
     key->setIntros(true);
     if (auto failure = readIndex(*key))
+        return *failure;
+    if (auto failure = checkConf())
         return *failure;
     key->setPersist(true);
     m_module.setSkipConsecutiveLinks(false);
@@ -221,6 +225,33 @@ std::optional<Failure> SwordWalk::readIndex(sword::VerseKey& key)
     }
     if (lost > 0)
         m_version.losses << u"색인이 가리키지 않는 본문이 %1곳 있습니다."_s.arg(lost);
+    return std::nullopt;
+}
+
+// A conf file that has lost a line looks like that of a text without mark-up or in Latin letters of
+// one byte. The text itself tells when it is none.
+std::optional<Failure> SwordWalk::checkConf() const
+{
+    constexpr int kMostByChance = 10;
+    int withTags = 0;
+    int inUtf8 = 0;
+    bool isUtf8 = true;
+    for (const SwordTestament& testament : m_index) {
+        for (long place = 0; place < testament.places(); ++place) {
+            const QByteArray text = testament.text(place);
+            withTags += text.contains("</") || text.contains("/>") ? 1 : 0;
+            if (std::ranges::all_of(text, [](char c) { return c >= 0; }))
+                continue;
+            QStringDecoder decoder(QStringDecoder::Utf8);
+            const QString decoded = decoder(text);
+            isUtf8 = isUtf8 && !decoder.hasError();
+            ++inUtf8;
+        }
+    }
+    if (m_conf.markup == Markup::None && withTags > kMostByChance)
+        return sourceFailure(m_confFile, 0, u"SourceType이 없거나 본문과 다릅니다."_s);
+    if (m_conf.encoding == Encoding::Latin1 && isUtf8 && inUtf8 > kMostByChance)
+        return sourceFailure(m_confFile, 0, u"Encoding이 없거나 본문과 다릅니다."_s);
     return std::nullopt;
 }
 
