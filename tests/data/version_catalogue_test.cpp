@@ -121,38 +121,12 @@ TEST(VersionCatalogue, ASavedIndexThatCantBeTakenGivesTheFirstItem)
     EXPECT_EQ(nextVersionIndex(items, 60), 0);
 }
 
-TEST(VersionCatalogue, AbsentVersionsGetTheMessageOfTheirKind)
+TEST(VersionCatalogue, VersionsThatNeverCameWithADiscAreNotAskedForIt)
 {
-    struct Row
-    {
-        int code;
-        AbsentVersion how;
-        QString title;
-        QString text;
-    };
-    const QString insert = u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s;
-    const QString missing = u"해당 역본이 설치되어 있지 않습니다."_s;
-    const Row rows[] = {
-        {101, AbsentVersion::BaseFile, u"CD 삽입 후 재시행 요망"_s, insert},
-        {101, AbsentVersion::ParallelFile, u"CD 삽입 후 재실행 요망"_s, insert},
-        {101, AbsentVersion::ComboRow, u"CD 삽입 후 재실행 요망"_s, insert},
-        {203, AbsentVersion::BaseFile, u"역본 미설치"_s, missing},
-        {205, AbsentVersion::ComboRow, u"CD 삽입 후 재실행 요망"_s, insert},
-        {206, AbsentVersion::ComboRow, u"역본 미설치"_s, missing},
-        {208, AbsentVersion::ParallelFile, u"역본 미설치"_s, missing},
-        {209, AbsentVersion::ParallelFile, u"CD 삽입 후 재실행 요망"_s, insert},
-        {305, AbsentVersion::ComboRow, u"역본 미설치"_s, missing},
-        {401, AbsentVersion::ComboRow, u"CD 삽입 후 재실행 요망"_s, insert},
-        {901, AbsentVersion::BaseFile, u"역본 미설치"_s, missing},
-        {915, AbsentVersion::ComboRow, u"역본 미설치"_s, missing},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.code);
-        const MessageText message = absentVersionMessage(row.code, row.how);
-        EXPECT_EQ(QString::fromUtf16(message.title), row.title);
-        EXPECT_EQ(QString::fromUtf16(message.text), row.text);
-        EXPECT_EQ(message.flags, 48);
-    }
+    for (const int code : {203, 206, 207, 208, 305, 901, 915})
+        EXPECT_FALSE(comesWithDisc(code)) << code;
+    for (const int code : {101, 202, 204, 205, 209, 304, 306, 401})
+        EXPECT_TRUE(comesWithDisc(code)) << code;
 }
 
 } // namespace

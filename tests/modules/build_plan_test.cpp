@@ -186,19 +186,5 @@ TEST(BuildOptions, RefusesWhatMakesNoSense)
     }
 }
 
-TEST(BuildOptions, ReadsTheArguments)
-{
-    const auto options =
-        parseBuildOptions({u"--out"_s, u"/x/y/"_s, u"--only=101,201"_s, u"--jobs"_s, u"3"_s,
-                           u"--renumber"_s, u"--module"_s, u"901"_s, u"--name"_s, u"나의 역본"_s,
-                           u"--format"_s, u"usfm"_s, u"a"_s, u"b"_s});
-    ASSERT_TRUE(options.ok()) << options.failure().detail.toStdString();
-    EXPECT_EQ(options.value().outFolder, u"/x/y"_s);
-    EXPECT_EQ(options.value().only, (QSet<int>{101, 201}));
-    EXPECT_EQ(options.value().jobs, 3);
-    EXPECT_EQ(options.value().renumbering, Renumbering::English);
-    EXPECT_EQ(options.value().files, (QStringList{u"a"_s, u"b"_s}));
-}
-
 } // namespace
 } // namespace lumen

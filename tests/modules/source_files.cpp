@@ -2,6 +2,7 @@
 #include "modules/source_files.h"
 
 #include "platform/jet/sqlite_statement.h"
+#include "text/field_scramble.h"
 
 #include <QDir>
 #include <QFile>
@@ -51,6 +52,15 @@ std::vector<QVariantList> storeRows(const QString& file, const QString& sql)
         rows.push_back(row);
     }
     return rows;
+}
+
+bool changeLetter(const QString& path, const QString& text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    const qsizetype at = file.readAll().indexOf(DES::ScrambleField(text).toUtf8());
+    return at > 0 && file.seek(at) && file.write("#") == 1;
 }
 
 } // namespace lumen

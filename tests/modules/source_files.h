@@ -35,4 +35,8 @@ QString wordsAt(const VersionText& version, int book, int chapter, int verse);
 /// The rows that a query of a finished store gives.
 std::vector<QVariantList> storeRows(const QString& file, const QString& sql);
 
+/// Puts another letter in the place of the first of a text that a module holds scrambled, as a
+/// fault of the disc would. False when the text is not there.
+bool changeLetter(const QString& file, const QString& text);
+
 } // namespace lumen

@@ -10,6 +10,8 @@
 #include <rawtext.h>
 #include <tuple>
 #include <versekey.h>
+#include <zipcomprs.h>
+#include <ztext.h>
 
 namespace lumen {
 namespace {
@@ -28,7 +30,8 @@ protected:
         module = std::make_unique<sword::RawText>(data.constData());
         files.write(u"mods.d/%1.conf"_s.arg(name.toLower()),
                     "[" + name.toUtf8() + "]\nDataPath=./text/" + name.toUtf8() +
-                        "/\nModDrv=RawText\nEncoding=UTF-8\n" + conf);
+                        "/\nModDrv=RawText\n" + conf +
+                        (conf.contains("Encoding") ? "" : "Encoding=UTF-8\n"));
         return {files.path(), name};
     }
 
@@ -82,7 +85,7 @@ protected:
     }
 
     SourceFiles files;
-    std::unique_ptr<sword::RawText> module;
+    std::unique_ptr<sword::SWModule> module;
 };
 
 TEST_F(SwordReaderTest, ReadsTextTitlesAndLinks)
@@ -193,15 +196,51 @@ TEST_F(SwordReaderTest, TellsTextThatTheIndexHasForgottenAndEmptyChapters)
 
 TEST_F(SwordReaderTest, RefusesAConfThatTheLibraryWouldGuessAt)
 {
-    for (const char* line : {"SourceType=OSIR\n", "SourceType=OSIS\nVersification=KJW\n",
-                             "SourceType=OSIS\nCompressType=ZAP\n"}) {
-        SCOPED_TRACE(line);
-        const SwordModule source = make(u"Made"_s, line);
-        set("Ruth 1:1", "one");
+    struct Row
+    {
+        const char* conf;
+        const char* entry;
+        bool refused;
+    };
+    const Row rows[] = {
+        {"SourceType=OSIS\n", "<w>\xC3\xA9</w>", false},
+        {"SourceType=Plaintext\n", "a < b", false},
+        {"SourceType=Plaintext\nEncoding=Latin-1\n", "\xE9t\xE9", false},
+        {"SourceType=OSIR\n", "one", true},
+        {"SourceType=OSIS\nVersification=KJW\n", "one", true},
+        {"SourceType=OSIS\nCompressType=ZAP\n", "one", true},
+        // Lines that have gone.
+        {"", "<w>one</w>", true},
+        {"SourceType=OSIS\nEncoding=Latin-1\n", "\xC3\xA9t\xC3\xA9", true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.conf);
+        const SwordModule source = make(u"Made"_s, row.conf);
+        for (int verse = 1; verse <= 15; ++verse)
+            set(qPrintable(u"Ruth 1:%1"_s.arg(verse)), row.entry);
         module.reset();
-        EXPECT_FALSE(readSwordModule(source).ok());
+        EXPECT_EQ(!readSwordModule(source).ok(), row.refused);
         QDir(files.path(u"text"_s)).removeRecursively();
     }
+}
+
+TEST_F(SwordReaderTest, RefusesABlockThatDoesNotUnpack)
+{
+    const QString folder = files.path(u"text/Packed"_s);
+    QDir().mkpath(folder);
+    const QByteArray data = QFile::encodeName(folder);
+    sword::zText::createModule(data.constData(), BOOKBLOCKS);
+    module = std::make_unique<sword::zText>(data.constData(), nullptr, nullptr, BOOKBLOCKS,
+                                            new sword::ZipCompress());
+    set("Ruth 1:1", "one verse of many words");
+    module.reset();
+    files.write(u"mods.d/packed.conf"_s,
+                QByteArray("[Packed]\nDataPath=./text/Packed/\nModDrv=zText\nEncoding=UTF-8\n"
+                           "SourceType=OSIS\nCompressType=ZIP\nBlockType=BOOK\n"));
+    ASSERT_TRUE(readSwordModule({files.path(), u"Packed"_s}).ok());
+    damage(folder + u"/ot.bzz"_s, [](QByteArray& bytes) { bytes[10] ^= 1; });
+    EXPECT_EQ(readSwordModule({files.path(), u"Packed"_s}).failure().kind, FailureKind::Damaged)
+        << "the check sum";
 }
 
 TEST_F(SwordReaderTest, AModuleReadInAProcessOfItsOwnIsTheSame)

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-
 namespace lumen {
 namespace {
 
@@ -61,20 +59,6 @@ TEST(VersionModuleWriter, KeepsPasswordIndexesAndOrigin)
                               "pragma_index_info(l.name)) from pragma_index_list('X') l "
                               "order by 1"_s),
               (std::vector<QVariantList>{{0, u"Chap"_s}, {1, u"index"_s}}));
-}
-
-TEST(VersionModuleWriter, LeavesNothingWhenStopped)
-{
-    const SourceFiles files;
-    const QString file = files.write(u"901.dts"_s, u"what was there"_s);
-    const auto stopped =
-        writeVersionModule(file, {u"X"_s, {}}, madeUp(), [](double share) { return share < 1; });
-    ASSERT_FALSE(stopped.ok());
-    EXPECT_EQ(stopped.failure().kind, FailureKind::Cancelled);
-    EXPECT_EQ(QDir(files.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"901.dts"_s});
-    QFile kept(file);
-    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
-    EXPECT_EQ(kept.readAll(), QByteArray("what was there"));
 }
 
 } // namespace

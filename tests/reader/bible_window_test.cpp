@@ -395,8 +395,11 @@ TEST_F(BibleWindowTest, EditToolsComeAliveAgainBehindTheirMenu)
     EXPECT_TRUE(reader->atbar.tool(u"ID_전체선택").enabled());
     EXPECT_FALSE(reader->atbar.tool(u"ID_잘라내기").enabled());
     edit.hide();
+    pickVersion(u"ID_cb대역본3", 201);
     QTest::keyClick(reader->txCont, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(services.clipboard.plainText().startsWith(u"1\t"_s));
+    EXPECT_TRUE(services.clipboard.plainText().trimmed().endsWith(u"(개역한글/KJV 창1:1)"_s))
+        << services.clipboard.plainText().toStdString();
     EXPECT_TRUE(reader->atbar.tool(u"ID_복사").enabled());
 }
 

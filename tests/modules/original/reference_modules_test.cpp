@@ -136,6 +136,9 @@ TEST_F(ReferenceModules, AreLeftAloneUntilASourceChanges)
 {
     ASSERT_EQ(build(u"z103"_s).state, ModuleState::Built);
     EXPECT_EQ(build(u"z103"_s).state, ModuleState::UpToDate);
+    const QString code = rows(u"z103"_s, u"select Parsing from ParsingSearch"_s).value(0);
+    ASSERT_TRUE(changeLetter(files.path(u"z103.dts"_s), code));
+    EXPECT_EQ(build(u"z103"_s).state, ModuleState::Built) << "damaged";
     files.write(u"morphhb/VerseMap.xml"_s, u"<verseMap> </verseMap>"_s);
     EXPECT_EQ(build(u"z103"_s).state, ModuleState::Built);
 }
