@@ -15,7 +15,7 @@ LAYERS = {
     "text": ["canon"],
     "platform": ["text"],
     "platform/jet": ["platform", "text"],
-    "platform/registry": ["platform", "text"],
+    "platform/registry": ["platform/files"],
     "platform/files": ["platform", "text"],
     "data": PLATFORM,
     "platform/controls": ["data"],

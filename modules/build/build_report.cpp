@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/build_report.h"
 
-#include "sources/fault_texts.h"
+#include "platform/files/safe_write.h"
 
 #include <QLocale>
-#include <QSaveFile>
 
 namespace lumen {
 
@@ -85,12 +84,10 @@ QString reportText(const std::vector<ModuleOutcome>& outcomes, const QStringList
 
 Result<Done> saveReport(const QString& file, const QString& text)
 {
-    QSaveFile device(file);
-    const QByteArray bytes = text.toUtf8();
-    if (!device.open(QIODevice::WriteOnly) || device.write(bytes) != bytes.size() ||
-        !device.commit())
-        return Failure{FailureKind::NoAccess,
-                       u"보고서를 쓸 수 없습니다: %1 (%2)"_s.arg(file, faultText(device))};
+    const Result<Done> saved = writeSafely(file, text.toUtf8());
+    if (!saved)
+        return Failure{saved.failure().kind,
+                       u"보고서를 쓸 수 없습니다. "_s + saved.failure().detail};
     return Done{};
 }
 

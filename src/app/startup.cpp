@@ -6,6 +6,7 @@
 #include "app/world.h"
 #include "data/check_data.h"
 #include "data/data_store.h"
+#include "data/module_path.h"
 #include "forms/guarded.h"
 #include "platform/files/instance_lock.h"
 #include "platform/jet/jet_engine.h"
@@ -28,23 +29,33 @@ constexpr std::array<QStringView, 8> kFontFiles{
     u"OrvaneHeb.TTF", u"OrvaneHebC.TTF", u"OrvaneGrk.TTF", u"OrvaneFra.TTF",
     u"OrvaneGrm.TTF", u"OrvaneSpa.TTF",  u"OrvaneSwe.TTF", u"Mssong.TTF"};
 
+constexpr int kTrialBytes = 16384; // a small note and its journal
+
 constexpr MessageText kRunsAlready{
     u"Lumenscript", u"Lumenscript이 이미 실행되고 있습니다. 열려 있는 창을 사용하십시오.", 64};
-constexpr MessageText kNoFolder{u"Lumenscript",
-                                u"프로그램 폴더에 쓸 수 없어 시작할 수 없습니다.\r\n%1", 16};
+constexpr MessageText kNothingIsStored{
+    u"Lumenscript",
+    u"프로그램 폴더에 쓸 수 없습니다. 성경은 읽을 수 있지만 개인 주석과 책갈피는 저장되지 "
+    u"않습니다. "
+    u"폴더의 쓰기 권한과 디스크의 빈 곳을 확인하시기 바랍니다.\r\n%1",
+    48};
 
-/// Says why the program can't start in its folder; true when it can.
-bool lockFolder(InstanceLock& lock, World& world)
+void tell(World& world, const MessageText& message)
 {
-    const Result<Done> locked = lock.acquire();
-    if (locked)
-        return true;
-    const bool second = locked.failure().kind == FailureKind::InUse;
-    const MessageText& message = second ? kRunsAlready : kNoFolder;
     world.services().messages.show(
         nullptr, QString::fromUtf16(message.title),
         QString::fromUtf16(message.text).replace(u"%1"_s, world.programFolder()), message.flags);
-    return false;
+}
+
+/// Whether files can be made in the Data folder now: a full disc takes new names but no bytes.
+bool takesFiles(FileSystem& files, const QString& appPath)
+{
+    const QString trial = joinedPath(appPath, u"\\Data\\.lumenscript.trial");
+    const bool written = files.CreateFolder(joinedPath(appPath, u"\\Data")).ok() &&
+                         files.writeAll(trial, QByteArray(kTrialBytes, '\0')).ok();
+    if (files.FileExists(trial))
+        ignoreFailure(files.DeleteFile(trial), "an empty file that is left does no harm");
+    return written;
 }
 
 } // namespace
@@ -61,13 +72,19 @@ int Main(World& world)
 {
     QElapsedTimer sinceStart;
     sinceStart.start();
-    InstanceLock lock(world.programFolder());
-    if (!lockFolder(lock, world))
-        return 1;
-
     Services& services = world.services();
     AppState state;
     state.AppPath = services.drives.appPath();
+    InstanceLock lock(world.programFolder());
+    const Result<Done> locked = lock.acquire();
+    if (!locked && locked.failure().kind == FailureKind::InUse) {
+        tell(world, kRunsAlready);
+        return 1;
+    }
+    // Reading needs no place to write to: who can't store anything is told so once and reads on.
+    state.canStore = locked.ok() && takesFiles(services.files, state.AppPath);
+    if (!state.canStore)
+        tell(world, kNothingIsStored);
     state.CdDrive = FindCdDrive(services.drives);
     RegisterFonts(services.fonts);
     ignoreFailure(createUserDatabases(state.AppPath, services.files, world.drives(),

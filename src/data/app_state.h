@@ -39,6 +39,8 @@ struct AppState
     QString AppPath; ///< ends in a backslash only when it is a drive's root
     QString CdDrive; ///< such as "D:"
     InstalledFlags installed;
+    /// False when the program folder took no file at the start, which the user has been told.
+    bool canStore = true;
     FontSettings fonts = defaultFontSettings();
     /// True adds a blank line at the head of the text view.
     bool LanguageBarRunning = false;

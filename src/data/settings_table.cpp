@@ -14,6 +14,8 @@ constexpr int kMaxFontSize = 5;
 constexpr double kMinRefBarRatio = 0.336;
 constexpr double kMaxRefBarRatio = 0.59;
 constexpr int kMinLineSpacing = 100;
+constexpr int kMaxLineSpacing = 400;   // a chapter of that is twenty screens already
+constexpr double kMaxUserPoints = 200; // above, no line of a verse fits into a window
 constexpr int kDefaultTab = 1;
 constexpr RgbLong kLargestColor = 0xFFFFFF;
 
@@ -135,8 +137,8 @@ ReaderSettings readReaderSettings(RegistryStore& registry, int tabCount)
         settings.Interlinear[slot] = readNumber(registry, interlinearName(slot), 0);
     settings.TabNum =
         withinOr(readNumber(registry, u"TabNum"_s, kDefaultTab), 0, tabCount - 1, kDefaultTab);
-    settings.LineSpacing =
-        qMax(kMinLineSpacing, readNumber(registry, u"LineSpacing"_s, kMinLineSpacing));
+    settings.LineSpacing = withinOr(readNumber(registry, u"LineSpacing"_s, kMinLineSpacing),
+                                    kMinLineSpacing, kMaxLineSpacing, kMinLineSpacing);
     settings.BookToolbar = readSwitch(registry, u"BookToolbar"_s, true);
     settings.copy = copyOptionsHere(registry);
     return settings;
@@ -195,9 +197,9 @@ std::array<UserFont, kUserVersionCount> GetUserFontSize(RegistryStore& registry)
         const QString family = readText(registry, u"UserFont"_s + QString::number(slot));
         if (!family.isEmpty())
             font.font = family;
-        // A size that is no number would make the text vanish.
+        // A size that is no number would make the text vanish, a huge one would never be laid out.
         const QString size = readText(registry, u"UserSize"_s + QString::number(slot));
-        if (Val(size) > 0)
+        if (Val(size) >= 1 && Val(size) <= kMaxUserPoints)
             font.size = size;
     }
     return fonts;

@@ -11,9 +11,12 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
+constexpr int kLargestSize = 150'000; // twips: 10,000 pixels of 96 an inch
+
 int readSize(const RegistryStore& registry, const QString& name)
 {
-    return std::max(0, readNumber(registry, name, 0));
+    const int size = readNumber(registry, name, 0);
+    return size > kLargestSize ? 0 : std::max(0, size);
 }
 
 void writeSize(RegistryStore& registry, const QString& name, int twips)

@@ -82,6 +82,10 @@ TEST(InstanceLock, OnlyOneHoldsAFolderUntilItLetsGo)
 {
     const QTemporaryDir folder;
     const QTemporaryDir other;
+    QFile leftOver(folder.filePath(u".lumenscript.lock"_s));
+    ASSERT_TRUE(leftOver.open(QIODevice::WriteOnly));
+    leftOver.write("1\nlumenscript\nanother-host\n");
+    leftOver.close();
     {
         InstanceLock first(folder.path());
         ASSERT_TRUE(first.acquire());

@@ -144,6 +144,11 @@ TEST_F(QtFileSystemTest, AFullDiscLeavesTheOldFile)
     ASSERT_TRUE(files.writeAll(path(u"a"_s), "old"));
     ASSERT_TRUE(files.writeAll(path(u"large"_s), QByteArray(200'000, 'x')));
     {
+        const FileSizeLimit limit(0); // as a disc that fills up with the last flush
+        EXPECT_FALSE(files.writeAll(path(u"a"_s), "new"));
+        EXPECT_FALSE(files.CopyFile(path(u"large"_s), path(u"a"_s)));
+    }
+    {
         const FileSizeLimit limit(50'000);
         EXPECT_FALSE(files.writeAll(path(u"a"_s), QByteArray(200'000, 'y')));
         EXPECT_FALSE(files.CopyFile(path(u"large"_s), path(u"a"_s)));

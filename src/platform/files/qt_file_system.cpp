@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/files/qt_file_system.h"
 
+#include "platform/files/safe_write.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -20,18 +21,6 @@ Failure fileFailure(const QFileDevice& file)
                         file.error() == QFileDevice::WriteError;
     return {denied ? FailureKind::NoAccess : FailureKind::System,
             file.fileName() + u": "_s + file.errorString()};
-}
-
-Result<Done> copyBytes(QFile& source, QSaveFile& target)
-{
-    while (!source.atEnd()) {
-        const QByteArray block = source.read(kCopyBlock);
-        if (block.isEmpty())
-            return fileFailure(source);
-        if (target.write(block) != block.size())
-            return fileFailure(target);
-    }
-    return Done{};
 }
 
 } // namespace
@@ -100,15 +89,14 @@ Result<Done> QtFileSystem::CopyFile(const QString& from, const QString& to)
     QFile in(source);
     if (!in.open(QIODevice::ReadOnly))
         return fileFailure(in);
-    QSaveFile out(target.value());
-    if (!out.open(QIODevice::WriteOnly))
-        return fileFailure(out);
-    Result<Done> copied = copyBytes(in, out);
-    if (!copied)
-        return copied;
-    if (!out.commit())
-        return fileFailure(out);
-    return Done{};
+    SafeWrite out(target.value());
+    while (!in.atEnd()) {
+        const QByteArray block = in.read(kCopyBlock);
+        if (block.isEmpty())
+            return fileFailure(in);
+        out.write(block);
+    }
+    return out.commit();
 }
 
 Result<QByteArray> QtFileSystem::readAll(const QString& path) const
@@ -130,10 +118,7 @@ Result<Done> QtFileSystem::writeAll(const QString& path, const QByteArray& bytes
     const Result<QString> native = writable(path);
     if (!native)
         return native.failure();
-    QSaveFile file(native.value());
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return fileFailure(file);
-    return Done{};
+    return writeSafely(native.value(), bytes);
 }
 
 } // namespace lumen

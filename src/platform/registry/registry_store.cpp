@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/registry/registry_store.h"
 
+#include "platform/files/safe_write.h"
 #include "platform/log.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -127,12 +127,7 @@ Result<Done> RegistryStore::flush()
         return Failure{FailureKind::NoAccess, m_nativeFile};
     if (!QDir().mkpath(QFileInfo(m_nativeFile).path()))
         return Failure{FailureKind::NoAccess, QFileInfo(m_nativeFile).path()};
-    // Puts the bytes to disk before it renames.
-    QSaveFile file(m_nativeFile);
-    const QByteArray text = registryText(m_keys);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return Failure{FailureKind::System, m_nativeFile + u": "_s + file.errorString()};
-    return Done{};
+    return writeSafely(m_nativeFile, registryText(m_keys));
 }
 
 } // namespace lumen
