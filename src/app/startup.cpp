@@ -5,9 +5,11 @@
 #include "app/windows.h"
 #include "app/world.h"
 #include "data/check_data.h"
+#include "data/compact_and_backup.h"
 #include "data/data_store.h"
 #include "data/module_path.h"
 #include "forms/guarded.h"
+#include "forms/lost_file.h"
 #include "platform/files/instance_lock.h"
 #include "platform/jet/jet_engine.h"
 #include "platform/log.h"
@@ -40,13 +42,6 @@ constexpr MessageText kNothingIsStored{
     u"폴더의 쓰기 권한과 디스크의 빈 곳을 확인하시기 바랍니다.\r\n%1",
     48};
 
-void tell(World& world, const MessageText& message)
-{
-    world.services().messages.show(
-        nullptr, QString::fromUtf16(message.title),
-        QString::fromUtf16(message.text).replace(u"%1"_s, world.programFolder()), message.flags);
-}
-
 /// Whether files can be made in the Data folder now: a full disc takes new names but no bytes.
 bool takesFiles(FileSystem& files, const QString& appPath)
 {
@@ -78,15 +73,18 @@ int Main(World& world)
     InstanceLock lock(world.programFolder());
     const Result<Done> locked = lock.acquire();
     if (!locked && locked.failure().kind == FailureKind::InUse) {
-        tell(world, kRunsAlready);
+        services.messages.show(nullptr, kRunsAlready);
         return 1;
     }
     // Reading needs no place to write to: who can't store anything is told so once and reads on.
     state.canStore = locked.ok() && takesFiles(services.files, state.AppPath);
     if (!state.canStore)
-        tell(world, kNothingIsStored);
+        services.messages.show(nullptr, kNothingIsStored, {world.programFolder()});
     state.CdDrive = FindCdDrive(services.drives);
     RegisterFonts(services.fonts);
+    // Before a file that is gone is made anew: its backups would be lost with the next two ends.
+    for (const UserFile& file : {user_file::kNotes, user_file::kBookmarks})
+        offerBackup(services, state, file);
     ignoreFailure(createUserDatabases(state.AppPath, services.files, world.drives(),
                                       services.clock.now().date()),
                   "the windows tell what they miss when they are used");

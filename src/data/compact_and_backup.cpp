@@ -43,7 +43,8 @@ bool compact(const QString& from, const QString& to, const UserFile& file, JetEn
     }
 }
 
-void compactInPlace(const QString& appPath, const UserFile& file, JetEngine& jet, FileSystem& files)
+// True when the file was found sound on the way.
+bool compactInPlace(const QString& appPath, const UserFile& file, JetEngine& jet, FileSystem& files)
 {
     const QString original = inData(appPath, file.name);
     const QString copy = inData(appPath, file.copy);
@@ -51,35 +52,142 @@ void compactInPlace(const QString& appPath, const UserFile& file, JetEngine& jet
         ignoreFailure(files.DeleteFile(copy), kSilent);
     // A copy left over from an earlier time must not come over the user's file: only one that was
     // made now does.
-    if (compact(original, copy, file, jet))
+    const bool compacted = compact(original, copy, file, jet);
+    if (compacted)
         ignoreFailure(files.CopyFile(copy, original), kSilent);
-    ignoreFailure(files.DeleteFile(copy), kSilent);
+    if (files.FileExists(copy))
+        ignoreFailure(files.DeleteFile(copy), kSilent);
+    return compacted;
 }
 
-void backUp(const QString& appPath, const UserFile& file, FileSystem& files)
+bool isDatabase(const UserFile& file)
 {
-    const QString folder = appPath.left(2) + u"\\OrvaneBackup"_s;
-    if (!files.FolderExists(folder))
-        ignoreFailure(files.CreateFolder(folder), kSilent);
-    const QString original = inData(appPath, file.name);
+    return !file.copy.isEmpty();
+}
+
+// Bookmarks are lines of text: a power cut or a bad sector leaves NUL characters in them.
+bool isSoundText(const QString& path, const FileSystem& files)
+{
+    const Result<QByteArray> bytes = files.readAll(path);
+    return bytes && !bytes.value().contains('\0');
+}
+
+bool isSound(const QString& path, const UserFile& file, JetEngine& jet, const FileSystem& files)
+{
+    if (!isDatabase(file))
+        return isSoundText(path, files);
+    try {
+        jet.CheckDatabase(path, file.password.toString());
+        return true;
+    } catch (const JetError& error) {
+        qCWarning(dataLog) << "not sound:" << path << error.number() << error.text();
+        return false;
+    }
+}
+
+bool isEmpty(const QString& path, const FileSystem& files)
+{
+    const Result<QByteArray> bytes = files.readAll(path);
+    return bytes && bytes.value().isEmpty();
+}
+
+QString backupFolder(const QString& appPath)
+{
+    return appPath.left(2) + u"\\OrvaneBackup"_s;
+}
+
+QString failureText(const Result<Done>& result)
+{
+    return result ? QString() : result.failure().detail;
+}
+
+QString backUp(const QString& appPath, const UserFile& file, JetEngine& jet, FileSystem& files)
+{
+    const QString folder = backupFolder(appPath);
+    if (!files.FolderExists(folder)) {
+        const Result<Done> made = files.CreateFolder(folder);
+        if (!made)
+            return failureText(made);
+    }
     const QString last = folder + file.backup.toString();
-    // Without an original the last generation must not push out the one before it.
-    if (!files.FileExists(original))
-        return;
-    if (files.FileExists(last))
-        ignoreFailure(files.CopyFile(last, folder + file.formerBackup.toString()), kSilent);
-    ignoreFailure(files.CopyFile(original, last), kSilent);
+    if (files.FileExists(last) && isSound(last, file, jet, files)) {
+        const Result<Done> kept = files.CopyFile(last, folder + file.formerBackup.toString());
+        if (!kept)
+            return failureText(kept);
+    }
+    return failureText(files.CopyFile(inData(appPath, file.name), last));
+}
+
+QString freeAsideName(const QString& path, const FileSystem& files)
+{
+    const QString base = path + u".damaged"_s;
+    QString name = base;
+    for (int number = 2; files.FileExists(name); ++number)
+        name = base + u'-' + QString::number(number);
+    return name;
+}
+
+QString newestSoundBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
+                          const FileSystem& files)
+{
+    const QString folder = backupFolder(appPath);
+    for (const QStringView name : {file.backup, file.formerBackup}) {
+        const QString path = folder + name.toString();
+        if (files.FileExists(path) && !isEmpty(path, files) && isSound(path, file, jet, files))
+            return path;
+    }
+    return {};
 }
 
 } // namespace
 
-void CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
-                      FileSystem& files)
+QString CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
+                         FileSystem& files)
 {
-    if (!file.copy.isEmpty())
-        compactInPlace(appPath, file, jet, files);
-    if (!file.backup.isEmpty())
-        backUp(appPath, file, files);
+    const QString original = inData(appPath, file.name);
+    const bool compacted = isDatabase(file) && compactInPlace(appPath, file, jet, files);
+    if (file.backup.isEmpty() || !files.FileExists(original))
+        return {};
+    if (!compacted && !isSound(original, file, jet, files))
+        return {};
+    return backUp(appPath, file, jet, files);
+}
+
+std::optional<LostFile> findLostFile(const QString& appPath, const UserFile& file, JetEngine& jet,
+                                     FileSystem& files)
+{
+    const QString path = inData(appPath, file.name);
+    LostFile lost{LostFile::Fault::Damaged, path, {}, freeAsideName(path, files)};
+    const QString lastBackup = backupFolder(appPath) + file.backup.toString();
+    if (!files.FileExists(path))
+        lost.fault = LostFile::Fault::Gone;
+    else if (isEmpty(path, files)) {
+        lost.fault = LostFile::Fault::Emptied;
+        if (!isDatabase(file) && (!files.FileExists(lastBackup) || isEmpty(lastBackup, files)))
+            return std::nullopt;
+    } else if (isSound(path, file, jet, files))
+        return std::nullopt;
+    lost.backup = newestSoundBackup(appPath, file, jet, files);
+    if (lost.backup.isEmpty() && lost.fault == LostFile::Fault::Gone)
+        return std::nullopt;
+    return lost;
+}
+
+Result<Done> restoreBackup(const LostFile& lost, FileSystem& files)
+{
+    if (files.FileExists(lost.path)) {
+        Result<Done> kept = files.CopyFile(lost.path, lost.aside);
+        if (!kept)
+            return kept;
+    }
+    // What a crash left beside the damaged file must not be played into the restored one.
+    const QString journal = lost.path + u"-journal"_s;
+    if (files.FileExists(journal)) {
+        Result<Done> removed = files.DeleteFile(journal);
+        if (!removed)
+            return removed;
+    }
+    return files.CopyFile(lost.backup, lost.path);
 }
 
 } // namespace lumen

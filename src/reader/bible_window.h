@@ -130,7 +130,9 @@ private:
     void loadVersions();
 
     bool Form_Unload();
-    void compactAndBackUp();
+    /// What could not be copied into the backup.
+    QStringList compactAndBackUp();
+    void tellWhatWasNotStored();
 
     ComboBox& toolCombo(QStringView id) const { return atbar.tool(id).combo(); }
     ComboBox& versionCombo(int slot) const;
@@ -192,6 +194,7 @@ private:
     bool m_closeRefused = false;
     QStringList m_storedBookmarks;   ///< as the file holds them
     bool m_bookmarksRefused = false; ///< the user knows that they can't be stored
+    QStringList m_notStored;         // files of this end that could not be written, with the reason
     bool m_unloaded = false;
 };
 

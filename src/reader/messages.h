@@ -22,6 +22,10 @@ inline constexpr MessageText kDeleteNote{u"삭제 확인", u"현재의 개인 �
 inline constexpr MessageText kBookmarksNotSaved{
     u"책갈피 저장 실패", u"책갈피를 저장할 수 없습니다. 저장할 디스크를 확인하시기 바랍니다.", 48};
 
+/// %1 are the files with the reason.
+inline constexpr MessageText kNotStored{
+    u"저장 실패", u"다음 파일을 쓰지 못했습니다. 전에 저장된 것은 그대로 있습니다.\r\n%1", 48};
+
 /// %1 is the file.
 inline constexpr MessageText kPageMissing{u"파일 없음", u"파일을 열 수 없습니다.\r\n%1", 48};
 

@@ -23,7 +23,8 @@ bool frm성서::Form_Unload()
         m_closeRefused = true;
         return false;
     }
-    compactAndBackUp();
+    m_notStored << compactAndBackUp();
+    tellWhatWasNotStored();
     return true;
 }
 
@@ -52,17 +53,28 @@ void frm성서::SaveBibleSettings()
     m_settings.RefBarMode = panel->state();
     saveFormGeometry(m_services.registry, geometry::kBible, *this);
     saveReaderSettings(m_services.registry, m_settings, m_state.AppPath);
-    ignoreFailure(m_services.registry.flush(), "a full disc must not keep the program from ending");
+    const Result<Done> stored = m_services.registry.flush();
+    m_notStored = stored ? QStringList() : QStringList{stored.failure().detail};
 }
 
-void frm성서::compactAndBackUp()
+void frm성서::tellWhatWasNotStored()
+{
+    m_notStored.removeAll(QString());
+    // A full disc must not keep the program from ending, nor be told again to who knows of it.
+    if (!m_notStored.isEmpty() && m_state.canStore)
+        m_services.messages.show(this, messages::kNotStored, {m_notStored.join(u"\r\n"_s)});
+}
+
+QStringList frm성서::compactAndBackUp()
 {
     // What is open can't be compacted.
     m_slots.close();
     m_dacPersnote.Close();
     m_dacRefTab.Close();
-    CompactAndBackup(m_state.AppPath, user_file::kNotes, m_services.jet, m_services.files);
-    CompactAndBackup(m_state.AppPath, user_file::kBookmarks, m_services.jet, m_services.files);
+    QStringList notCopied;
+    for (const UserFile& file : {user_file::kNotes, user_file::kBookmarks})
+        notCopied << CompactAndBackup(m_state.AppPath, file, m_services.jet, m_services.files);
+    return notCopied;
 }
 
 } // namespace lumen

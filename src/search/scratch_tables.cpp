@@ -128,6 +128,7 @@ void ScratchTables::cleanUp()
         qCWarning(searchLog) << "not cleaned:" << error.number() << error.text();
         abandon();
     }
+    // It has no backup, so that nothing can fail to be copied.
     CompactAndBackup(m_appPath, user_file::kSearchScratch, m_jet, m_files);
 }
 

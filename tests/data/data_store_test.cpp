@@ -207,12 +207,75 @@ TEST_F(DataStoreTest, AFailedCompactionLeavesTheFileAsItWas)
     EXPECT_EQ(notes(path(u"myc.mdb"_s)), QStringList{u"내 주석"_s});
     EXPECT_EQ(notes(backup(u"myc.mdb"_s)), QStringList{u"내 주석"_s})
         << "the backup doesn't hang on the compaction";
+}
 
-    ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s), "damaged"));
+TEST_F(DataStoreTest, DamageNeverReachesTheBackupsHoweverOftenTheProgramEnds)
+{
+    create();
+    addNote(u"첫째"_s);
     closeProgram(user_file::kNotes);
-    EXPECT_EQ(bytes(path(u"myc.mdb"_s)), "damaged");
-    EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"내 주석"_s})
-        << "the good generation is still there";
+    addNote(u"둘째"_s);
+    closeProgram(user_file::kNotes);
+    ASSERT_TRUE(services.files.writeAll(path(u"bmk.bmf"_s), "a\r\n"));
+    closeProgram(user_file::kBookmarks);
+
+    const QByteArray sound = bytes(path(u"myc.mdb"_s));
+    QByteArray cut = sound;
+    cut.replace(100, 600, QByteArray(600, 'x')); // behind the head of the first page
+    for (const QByteArray& damaged :
+         {QByteArray("no database"), QByteArray(), cut, sound.left(3000)}) {
+        ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s), damaged));
+        ASSERT_TRUE(services.files.writeAll(path(u"bmk.bmf"_s), QByteArray(8, '\0')));
+        for (int end = 0; end < 3; ++end) {
+            closeProgram(user_file::kNotes);
+            closeProgram(user_file::kBookmarks);
+        }
+        EXPECT_EQ(bytes(path(u"myc.mdb"_s)), damaged);
+        EXPECT_EQ(notes(backup(u"myc.mdb"_s)), (QStringList{u"첫째"_s, u"둘째"_s}));
+        EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"첫째"_s});
+        EXPECT_EQ(bytes(backup(u"bmk.bmf"_s)), "a\r\n");
+    }
+
+    // A backup that was damaged itself doesn't push out the sound one before it.
+    ASSERT_TRUE(services.files.writeAll(backup(u"myc.mdb"_s), "damaged"));
+    ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s), sound));
+    closeProgram(user_file::kNotes);
+    EXPECT_EQ(notes(backup(u"myc.mdb"_s)), (QStringList{u"첫째"_s, u"둘째"_s}));
+    EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"첫째"_s});
+}
+
+TEST_F(DataStoreTest, TheNewestSoundBackupComesBackAndTheFaultyFileIsKept)
+{
+    const auto lost = [this](const UserFile& file) {
+        return findLostFile(services.state.AppPath, file, services.jet, services.files);
+    };
+    create();
+    EXPECT_FALSE(lost(user_file::kNotes));
+    EXPECT_FALSE(lost(user_file::kBookmarks)) << "never there, never backed up";
+    addNote(u"첫째"_s);
+    closeProgram(user_file::kNotes);
+    closeProgram(user_file::kNotes);
+    ASSERT_TRUE(services.files.writeAll(backup(u"myc.mdb"_s), "damaged too"));
+    ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s), "damaged"));
+    ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb-journal"_s), "of the damaged one"));
+    const auto notesLost = lost(user_file::kNotes);
+    ASSERT_TRUE(notesLost);
+    ASSERT_TRUE(restoreBackup(*notesLost, services.files));
+    EXPECT_EQ(notes(path(u"myc.mdb"_s)), QStringList{u"첫째"_s});
+    EXPECT_EQ(bytes(path(u"myc.mdb.damaged"_s)), "damaged");
+    EXPECT_FALSE(lost(user_file::kNotes));
+
+    QFile::remove(services.folders.data(u"myc.mdb"_s));
+    ASSERT_TRUE(lost(user_file::kNotes));
+    EXPECT_EQ(lost(user_file::kNotes)->fault, LostFile::Fault::Gone);
+
+    ASSERT_TRUE(services.files.writeAll(path(u"bmk.bmf"_s), "a\r\n"));
+    closeProgram(user_file::kBookmarks);
+    ASSERT_TRUE(services.files.writeAll(path(u"bmk.bmf"_s), ""));
+    ASSERT_TRUE(lost(user_file::kBookmarks));
+    EXPECT_EQ(lost(user_file::kBookmarks)->fault, LostFile::Fault::Emptied);
+    closeProgram(user_file::kBookmarks); // the user has taken the last one away
+    EXPECT_FALSE(lost(user_file::kBookmarks));
 }
 
 TEST_F(DataStoreTest, BookmarksAreBackedUpOnlyWhenThereAreAny)

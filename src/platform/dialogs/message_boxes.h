@@ -4,6 +4,7 @@
 #include "platform/message_text.h"
 
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -25,6 +26,20 @@ public:
     {
         return show(parent, QString::fromUtf16(message.title), QString::fromUtf16(message.text),
                     message.flags, message.advice ? QString::fromUtf16(message.advice) : QString());
+    }
+    /// The same with %1, %2, ... of the text taken from `arguments`, which may hold signs like
+    /// them.
+    Answer show(QWidget* parent, const MessageText& message, const QStringList& arguments)
+    {
+        QString text = QString::fromUtf16(message.text);
+        const auto mark = [](qsizetype place) {
+            return QChar(static_cast<char16_t>(0xE000 + place));
+        };
+        for (qsizetype place = arguments.size(); place > 0; --place)
+            text.replace(u'%' + QString::number(place), mark(place));
+        for (qsizetype place = 1; place <= arguments.size(); ++place)
+            text.replace(mark(place), arguments[place - 1]);
+        return show(parent, QString::fromUtf16(message.title), text, message.flags);
     }
 };
 

@@ -20,6 +20,26 @@ namespace {
 
 constexpr int kBusyMs = 2000;
 
+// A store that is opened to be read as a whole: for writing where possible, so that what a crash
+// left half-written is undone first.
+class WholeStore : public SqliteHandle
+{
+public:
+    explicit WholeStore(const QString& store) : SqliteHandle(store, modeFor(store))
+    {
+        sqlite3_busy_timeout(get(), kBusyMs);
+        registerJetFunctions(get());
+    }
+
+private:
+    static int modeFor(const QString& store)
+    {
+        const int mode =
+            QFileInfo(store).isWritable() ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
+        return mode | SQLITE_OPEN_NOMUTEX;
+    }
+};
+
 void checkIntegrity(const SqliteHandle& handle)
 {
     SqliteStatement statement(handle.get(), "PRAGMA integrity_check(1)");
@@ -42,18 +62,20 @@ void setPassword(const QString& store, const QString& password)
 
 } // namespace
 
+void checkStore(const QString& store)
+{
+    const WholeStore handle(store);
+    checkIntegrity(handle);
+}
+
 void compactStore(const QString& store, const QString& destination,
                   const std::optional<QString>& newPassword)
 {
     if (QFileInfo::exists(destination))
         throw jetError(ErrorNumber::kDestinationExists, destination);
-    // Opened for writing where possible, so that what a crash left half-written is undone first.
-    const int mode = QFileInfo(store).isWritable() ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
     PendingFile copy(destination);
     {
-        const SqliteHandle handle(store, mode | SQLITE_OPEN_NOMUTEX);
-        sqlite3_busy_timeout(handle.get(), kBusyMs);
-        registerJetFunctions(handle.get());
+        const WholeStore handle(store);
         checkIntegrity(handle);
         SqliteStatement vacuum(handle.get(), "VACUUM INTO ?");
         vacuum.bind(1, QVariant(copy.path()));

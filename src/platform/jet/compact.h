@@ -13,4 +13,7 @@ namespace lumen {
 void compactStore(const QString& store, const QString& destination,
                   const std::optional<QString>& newPassword);
 
+/// Throws 3049 or 3343 when a store (native path) is damaged.
+void checkStore(const QString& store);
+
 } // namespace lumen

@@ -10,6 +10,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace lumen {
 
 JetEngine::JetEngine(const PathResolver& paths, JetEngineOptions options)
@@ -86,6 +88,13 @@ void JetEngine::CompactDatabase(const QString& src, const QString& dst, const QS
     if (!Connection({native, store}, {}).takesPassword(given))
         throw jetError(ErrorNumber::kWrongPassword, src);
     compactStore(store, destination, passwordOf(locale));
+}
+
+void JetEngine::CheckDatabase(const QString& path, const QString& password)
+{
+    commitPending(existingFile(path));
+    const auto connection = connect(path, password.isEmpty() ? QString() : u";pwd="_s + password);
+    checkStore(storeOf(existingFile(path), password));
 }
 
 void JetEngine::commitAll()
