@@ -61,7 +61,7 @@ public:
         : world(folder.drives()), windows(world.services(), prepared(state, world)),
           reader(world.services(), state, windows)
     {
-        windows.setReader(&reader);
+        windows.setReader(reader);
         NoSplash splash;
         loaded = reader.Form_Load(splash);
         reader.resize(1200, 800);

@@ -93,8 +93,7 @@ int Main(World& world)
     frm성서 reader(services, state, windows);
     services.jet.setCommitFailed(
         [&](const JetError& error) { handleEngineError(services, &reader, error); });
-    windows.setReader(&reader);
-    reader.closeToolWindows = [&windows] { return windows.closeAll(); };
+    windows.setReader(reader);
     {
         frmAbout splash;
         if (!reader.Form_Load(splash))

@@ -2,8 +2,8 @@
 #include "app/windows.h"
 
 #include "forms/guarded.h"
-#include "forms/reader_place.h"
 #include "platform/dialogs/modal.h"
+#include "reader/bible_window.h"
 #include "search/search_window.h"
 #include "search/strong_list_window.h"
 #include "tools/about_window.h"
@@ -29,6 +29,12 @@ void raiseWindow(QWidget& window)
 Windows::Windows(Services& services, AppState& state) : m_services(services), m_state(state) {}
 
 Windows::~Windows() = default;
+
+void Windows::setReader(frm성서& reader)
+{
+    m_reader = &reader;
+    reader.closeToolWindows = [this] { return closeAll(); };
+}
 
 void Windows::open(WindowId window)
 {

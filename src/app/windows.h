@@ -9,7 +9,7 @@
 
 namespace lumen {
 
-class ReaderPlace;
+class frm성서;
 class frm성서검색;
 class frm스트롱관주목록;
 struct AppState;
@@ -23,8 +23,9 @@ public:
     Windows(Services& services, AppState& state);
     ~Windows() override;
 
-    /// The reader that the windows call back into; set once, before anything is opened.
-    void setReader(ReaderPlace* reader) { m_reader = reader; }
+    /// The reader that the windows call back into, and that takes them down with it; set once,
+    /// before anything is opened.
+    void setReader(frm성서& reader);
     void open(WindowId window) override;
     void openStrongList(const QString& language, const QString& number) override;
     /// Closes the tool windows; false when one refuses.
@@ -33,7 +34,7 @@ public:
 private:
     Services& m_services;
     AppState& m_state;
-    ReaderPlace* m_reader = nullptr;
+    frm성서* m_reader = nullptr;
     std::unique_ptr<frm성서검색> m_search;
     std::unique_ptr<frm스트롱관주목록> m_strongList;
 };
