@@ -136,14 +136,6 @@ TEST_F(CheckDataTest, UserVersionsAreNamedByTheirFirstTable)
     EXPECT_EQ(installed.firstVersion, u"나의 역본 [1]"_s);
 }
 
-TEST_F(CheckDataTest, ASecondCheckForgetsTheFirst)
-{
-    inProgram(u"101.dts"_s);
-    check();
-    QFile::remove(services.folders.data(u"101.dts"_s));
-    EXPECT_EQ(check().versionCount, 0);
-}
-
 TEST_F(CheckDataTest, AModuleIsOpenedBesideTheProgramFirst)
 {
     onDisc(u"101.dts"_s);

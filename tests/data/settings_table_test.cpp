@@ -32,24 +32,6 @@ protected:
     RegistryStore registry{QString()};
 };
 
-TEST_F(SettingsTableTest, NothingStoredGivesTheDefaults)
-{
-    const ReaderSettings settings = read();
-    EXPECT_EQ(settings.FontSize, 3);
-    EXPECT_EQ(settings.ViewMode, ViewMode::Text);
-    EXPECT_DOUBLE_EQ(settings.RefBarRatio, 0.59);
-    EXPECT_EQ(settings.RefBarMode, PanelState::Collapsed);
-    EXPECT_TRUE(settings.ShowMiniTitle);
-    EXPECT_EQ(settings.MainFont, u"굴림"_s);
-    EXPECT_EQ(settings.colors.verColors[0], 136U + 33U * 256U + 28U * 65536U);
-    EXPECT_EQ(settings.colors.AltColor, 0xF5F5F5U);
-    EXPECT_EQ(settings.TabNum, 1);
-    EXPECT_EQ(settings.LineSpacing, 100);
-    EXPECT_TRUE(settings.BookToolbar);
-    EXPECT_TRUE(settings.copy.addIndex && settings.copy.addVersion && settings.copy.parenthesis);
-    EXPECT_FALSE(settings.copy.fullName || settings.copy.formalSep || settings.copy.crLf);
-}
-
 TEST_F(SettingsTableTest, ValuesOutsideTheirLimitsFallBack)
 {
     const auto fontSize = [](const ReaderSettings& s) { return double(s.FontSize); };
@@ -153,8 +135,8 @@ TEST_F(SettingsTableTest, WhatTheReaderSavesItReadsBack)
     EXPECT_EQ(again.RefBarMode, PanelState::Expanded);
     EXPECT_FALSE(again.ShowMiniTitle);
     EXPECT_EQ(again.MainFont, u"바탕체"_s);
-    EXPECT_EQ(again.colors, settings.colors);
-    EXPECT_EQ(again.colors.verColors[0], RGB(4, 5, 6));
+    EXPECT_EQ(again.colors,
+              (ReaderColors{RGB(1, 2, 3), {RGB(4, 5, 6), 7, 8}, 9, RGB(255, 254, 253)}));
     EXPECT_EQ(again.BookNum, 42);
     EXPECT_EQ(again.ChapNum, 20);
     EXPECT_EQ(again.DefVerNum, 8);

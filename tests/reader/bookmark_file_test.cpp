@@ -65,13 +65,6 @@ TEST_F(BookmarkFileTest, EachBookmarkIsALineOfCodePage949)
     EXPECT_EQ(load(), (QStringList{u"요3:16"_s, u"창1:1"_s}));
 }
 
-TEST_F(BookmarkFileTest, AnEmptyListLeavesAnEmptyFile)
-{
-    ASSERT_TRUE(file.save({}));
-    EXPECT_EQ(files.bytes, QByteArray(""));
-    EXPECT_EQ(load(), QStringList());
-}
-
 TEST_F(BookmarkFileTest, LinesOfOtherProgramsAreTakenAsTheyStand)
 {
     files.bytes = QByteArray("\xBF\xE4"

@@ -99,6 +99,8 @@ TEST_F(BookmarkPaneTest, WorksByKeysAlone)
     EXPECT_EQ(pane.references(), (QStringList{u"출2:2"_s, u"창1:1"_s}));
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_EQ(moves, QStringList{u"창1:1"_s});
+    QTest::keyClick(&list, Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(pane.references(), (QStringList{u"창1:1"_s, u"출2:2"_s}));
     QTest::keyClick(&list, Qt::Key_Delete);
     EXPECT_EQ(pane.references(), QStringList{u"출2:2"_s});
 }

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "reader/bookmark_list.h"
 #include "reader/move_history.h"
 #include "reader/note_list.h"
 
@@ -21,56 +20,6 @@ TEST(MoveHistoryTest, TheNewestThirtyPlacesStandOnceEach)
     EXPECT_EQ(history.entries().size(), 30);
     EXPECT_EQ(history.entries().first(), u"시119:31"_s);
     EXPECT_EQ(history.entries().last(), u"시119:2"_s);
-}
-
-TEST(BookmarkListTest, ANewBookmarkStandsAboveTheOthersAndIsSelected)
-{
-    BookmarkList list;
-    list.add(u"창1:1"_s);
-    list.add(u"출2:3"_s);
-    EXPECT_EQ(list.references(), (QStringList{u"출2:3"_s, u"창1:1"_s}));
-    EXPECT_EQ(list.selected(), 0);
-}
-
-TEST(BookmarkListTest, AVerseThatIsMarkedAlreadyChangesNothing)
-{
-    BookmarkList list({u"출2:3"_s, u"창1:1 "_s});
-    list.select(0);
-    list.add(u"창1:1"_s);
-    EXPECT_EQ(list.references(), (QStringList{u"출2:3"_s, u"창1:1 "_s}));
-    EXPECT_EQ(list.selected(), 0);
-}
-
-TEST(BookmarkListTest, RemovingSelectsWhatTookThePlaceOrTheNewLast)
-{
-    BookmarkList list({u"a"_s, u"b"_s, u"c"_s});
-    list.remove();
-    EXPECT_EQ(list.references().size(), 3) << "nothing was selected";
-    list.select(1);
-    list.remove();
-    EXPECT_EQ(list.references(), (QStringList{u"a"_s, u"c"_s}));
-    EXPECT_EQ(list.selected(), 1);
-    list.remove();
-    EXPECT_EQ(list.selected(), 0);
-    list.remove();
-    EXPECT_EQ(list.selected(), -1);
-    list.remove();
-    EXPECT_TRUE(list.references().isEmpty());
-}
-
-TEST(BookmarkListTest, MovingKeepsTheSelectionAndStopsAtTheEnds)
-{
-    BookmarkList list({u"a"_s, u"b"_s, u"c"_s});
-    list.select(1);
-    list.moveUp();
-    list.moveUp();
-    EXPECT_EQ(list.references(), (QStringList{u"b"_s, u"a"_s, u"c"_s}));
-    EXPECT_EQ(list.selected(), 0);
-    list.moveDown();
-    list.moveDown();
-    list.moveDown();
-    EXPECT_EQ(list.references(), (QStringList{u"a"_s, u"c"_s, u"b"_s}));
-    EXPECT_EQ(list.selected(), 2);
 }
 
 std::vector<Note> threeNotes()
