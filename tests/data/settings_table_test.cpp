@@ -76,6 +76,7 @@ TEST_F(SettingsTableTest, ValuesOutsideTheirLimitsFallBack)
         {u"TabNum"_s, u"11"_s, tab, 1},
         {u"LineSpacing"_s, u"150"_s, spacing, 150},
         {u"LineSpacing"_s, u"99"_s, spacing, 100},
+        {u"LineSpacing"_s, u"1000000"_s, spacing, 100}, // would never be laid out
         {u"ViewMode"_s, u"0"_s, view, 0},
         {u"ViewMode"_s, u"1"_s, view, 1},
         {u"RefBarMode"_s, u"1"_s, bar, 1},
@@ -159,6 +160,7 @@ TEST_F(SettingsTableTest, UserFontsHaveTheirDefaultsBySlot)
     set(u"UserFont7"_s, u"Courier"_s);
     set(u"UserSize7"_s, u"72"_s);
     set(u"UserSize8"_s, u"large"_s);
+    set(u"UserSize9"_s, u"1000000"_s);
     const auto fonts = GetUserFontSize(registry);
     EXPECT_EQ(fonts[4].font, u"굴림"_s);
     EXPECT_EQ(fonts[4].size, u"10"_s);
@@ -167,6 +169,7 @@ TEST_F(SettingsTableTest, UserFontsHaveTheirDefaultsBySlot)
     EXPECT_EQ(fonts[6].font, u"Courier"_s);
     EXPECT_EQ(fonts[6].size, u"72"_s);
     EXPECT_EQ(fonts[7].size, u"9"_s) << "a size that is no number would hide the text";
+    EXPECT_EQ(fonts[8].size, u"9"_s) << "a huge one would never be laid out";
 
     saveUserFonts(registry, fonts);
     EXPECT_EQ(get(u"UserFont15"_s), u"Arial"_s);
