@@ -11,6 +11,10 @@
 #include "text/rtf_composer.h"
 #include "text/rtf_tables.h"
 
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
 #include <array>
 #include <span>
 
@@ -73,6 +77,15 @@ std::vector<std::optional<QString>> wordsOf(Recordset& rows)
     return words;
 }
 
+/// A wrapped word would fall apart: the codes of its letters hold signs at which lines may break,
+/// and its head would come below its end. The grammar behind it wraps.
+void keepHeadTogether(QTextDocument& parsing)
+{
+    QTextBlockFormat unbroken;
+    unbroken.setNonBreakableLines(true);
+    QTextCursor(parsing.firstBlock()).mergeBlockFormat(unbroken);
+}
+
 } // namespace
 
 VerseWords::VerseWords(Recordset& rows)
@@ -116,9 +129,6 @@ QString composeParsing(const QString& head, const std::optional<QString>& code, 
 WordAnalysis::WordAnalysis(Services& services, const AppState& state, WordAnalysisHost host)
     : m_services(services), m_host(std::move(host)), m_entry(services, state, m_host.dictionary)
 {
-    // A wrapped word would fall apart: the codes of its letters hold signs at which lines may
-    // break, and its head would come below its end.
-    m_host.txParsing.setLineWrapMode(QTextEdit::NoWrap);
     FlexGrid& grid = m_host.grid;
     grid.setFixedRows(0);
     grid.setRows(0);
@@ -250,6 +260,7 @@ void WordAnalysis::ProcShowParsing()
     const int word = old ? m_host.grid.Cols() - m_column : m_column;
     const QString rtf = composeParsing(head, m_words.value(u'p', word), m_testament);
     m_host.txParsing.LoadRtf(toRtfBytes(rtf));
+    keepHeadTogether(*m_host.txParsing.document());
 }
 
 } // namespace lumen

@@ -61,15 +61,12 @@ void WordAnalysisTab::layOut()
     number->addWidget(updnCode);
     number->addWidget(cmd원어관주);
     number->addStretch();
-    auto* dictionary = new QVBoxLayout;
-    dictionary->addLayout(number);
-    dictionary->addWidget(tx스트롱, 1);
-    auto* texts = new QHBoxLayout;
-    texts->addWidget(txParsing, 1);
-    texts->addLayout(dictionary, 2);
+    // One below the other: the panel is high, and beside the dictionary the word would be cut.
     auto* layout = new QVBoxLayout(m_page);
-    layout->addWidget(flex원전분해, 1);
-    layout->addLayout(texts, 1);
+    layout->addWidget(flex원전분해, 3);
+    layout->addWidget(txParsing, 2);
+    layout->addLayout(number);
+    layout->addWidget(tx스트롱, 2);
 }
 
 void WordAnalysisTab::wire()
@@ -81,6 +78,11 @@ void WordAnalysisTab::wire()
     QObject::connect(cmd원어관주, &QPushButton::clicked, m_page, [this] { openList(); });
     QObject::connect(txCodeNum, &QLineEdit::returnPressed, m_page,
                      [this] { lookUp(static_cast<int>(Val(txCodeNum->text()))); });
+    // The arrows go on from what the box holds, also before Enter.
+    QObject::connect(txCodeNum, &QLineEdit::textEdited, m_page, [this](const QString& typed) {
+        const QSignalBlocker quiet(updnCode);
+        updnCode->setNumber(ValInt(typed));
+    });
     updnCode->onChange = [this] { lookUp(updnCode->Value()); };
     const auto step = [this](Qt::Key key, int steps) {
         auto* shortcut = new QShortcut(key, txCodeNum, nullptr, nullptr, Qt::WidgetShortcut);

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -156,15 +157,20 @@ TEST_F(WordAnalysisTabTest, HebrewReadsFromTheRight)
               u"select * from 원전분해 where chap = '창01' and verse = 1"_s);
 }
 
-TEST_F(WordAnalysisTabTest, AWordStaysOnOneLineInANarrowPanel)
+TEST_F(WordAnalysisTabTest, InANarrowPanelTheWordStaysOnOneLineAndAllIsInView)
 {
-    panel.resize(260, 400);
     goTo(kGenesis, 1);
+    for (const int width : {340, 70}) {
+        SCOPED_TRACE(width);
+        panel.resize(width, 500);
+        QCoreApplication::processEvents();
+        const QTextDocument& shown = *tab->txParsing->document();
+        ASSERT_FALSE(tab->txParsing->Text().isEmpty());
+        EXPECT_EQ(shown.begin().layout()->lineCount(), 1);
+    }
+    panel.resize(340, 500);
     QCoreApplication::processEvents();
-    const QTextDocument& shown = *tab->txParsing->document();
-    ASSERT_FALSE(tab->txParsing->Text().isEmpty());
-    for (QTextBlock block = shown.begin(); block.isValid(); block = block.next())
-        EXPECT_LE(block.layout()->lineCount(), 1) << block.text().toStdString();
+    EXPECT_EQ(tab->txParsing->horizontalScrollBar()->maximum(), 0) << "nothing is cut";
 }
 
 TEST_F(WordAnalysisTabTest, GreekReadsFromTheLeftAndHasNoPieces)
@@ -263,6 +269,12 @@ TEST_F(WordAnalysisTabTest, NumberBoxAndArrowsLookNumbersUp)
     EXPECT_EQ(tab->txCodeNum->text(), QString());
     QTest::keyClick(tab->txCodeNum, Qt::Key_Up);
     EXPECT_EQ(tab->txCodeNum->text(), u"8853"_s);
+
+    // The arrows take what was typed, also before Enter.
+    tab->txCodeNum->selectAll();
+    QTest::keyClicks(tab->txCodeNum, u"2"_s);
+    QTest::mouseClick(tab->updnCode, Qt::LeftButton, {}, upper);
+    EXPECT_EQ(tab->updnCode->Value(), 3);
 
     tab->txCodeNum->clear();
     QTest::keyClicks(tab->txCodeNum, u"1.9"_s);
