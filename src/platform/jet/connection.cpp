@@ -71,7 +71,8 @@ Connection::~Connection()
 
 void Connection::configure()
 {
-    constexpr int kBusyMs = 2000;
+    // The window waits as long: a handler that meets a locked file several times stays below 1 s.
+    constexpr int kBusyMs = 200;
     sqlite3* const db = handle();
     sqlite3_busy_timeout(db, kBusyMs);
     // With these on, an unknown column in double quotes silently becomes a text literal.
