@@ -163,10 +163,7 @@ void frm성서::wirePanes()
         return reference;
     };
 
-    auto notes = std::make_unique<PersonalNotesTab>(m_services, m_state, *this, m_dacPersnote);
-    m_notesTab = notes.get();
-    m_notesTab->windowIsMinimized = [this] { return m_isMinimized; };
-    panel->addTab(std::move(notes));
+    panel->addTab(std::make_unique<PersonalNotesTab>(m_services, m_state, *this, m_dacPersnote));
     panel->addTab(std::make_unique<CrossReferences>(
         m_services, m_state, *this, m_dacRefTab, [this] { return m_slots.dacBasis().Database(); }));
     auto words = std::make_unique<WordAnalysisTab>(m_services, m_state, *this, m_dacRefTab);
@@ -201,8 +198,8 @@ void frm성서::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange)
         return;
-    // The notes are saved before the window counts as minimised: from then on nothing is saved.
-    if (isMinimized() && !m_isMinimized)
+    // At minimising, and once more when the window comes back if that has failed.
+    if (isMinimized() != m_isMinimized)
         guarded(m_services, this, [this] { panel->leave(); });
     m_isMinimized = isMinimized();
 }

@@ -29,7 +29,6 @@
 namespace lumen {
 
 class HotMoveWindow;
-class PersonalNotesTab;
 class StartupProgress;
 class WindowOpener;
 
@@ -103,6 +102,8 @@ protected:
 private:
     /// Holds fills back while several combos change; one fill runs at its end if any was asked for.
     class FillHold;
+    /// The panel is asked once at its end, however often the place has changed meanwhile.
+    class PlaceHold;
 
     /// What the last fill has put on show.
     struct ShownChapter
@@ -183,15 +184,15 @@ private:
     ToolDispatch m_combos;
     Splitter* m_split = named<Splitter>(u"RefBarSplit");
     QWidget* m_sidePane = named<QWidget>(u"SidePane");
-    PersonalNotesTab* m_notesTab = nullptr; ///< owned by the panel
 
     bool m_loading = false;
     int m_fillHolds = 0;
     bool m_fillWanted = false;
+    int m_placeHolds = 0;
+    bool m_placeWanted = false;
     ShownChapter m_shown;
     bool m_shownOnce = false;
-    bool m_isMinimized = false; ///< follows the window's state once the notes are saved
-    bool m_closeRefused = false;
+    bool m_isMinimized = false;
     QStringList m_storedBookmarks;   ///< as the file holds them
     bool m_bookmarksRefused = false; ///< the user knows that they can't be stored
     QStringList m_notStored;         // files of this end that could not be written, with the reason

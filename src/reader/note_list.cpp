@@ -2,6 +2,7 @@
 #include "reader/note_list.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace lumen {
 
@@ -72,9 +73,10 @@ void NoteList::swapWith(int row)
 
 std::vector<Note> storableNotes(const std::vector<Note>& notes)
 {
-    const auto firstEmpty = std::find_if(notes.cbegin(), notes.cend(),
-                                         [](const Note& note) { return note.text.isEmpty(); });
-    return {notes.cbegin(), firstEmpty};
+    std::vector<Note> storable;
+    std::copy_if(notes.cbegin(), notes.cend(), std::back_inserter(storable),
+                 [](const Note& note) { return !note.text.isEmpty(); });
+    return storable;
 }
 
 } // namespace lumen

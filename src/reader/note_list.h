@@ -47,8 +47,7 @@ private:
     int m_editedRow = -1;
 };
 
-/// The notes that a save stores: those before the first one without text. That one and all behind
-/// it are dropped, also those with text; this is meant.
+/// The notes that a save stores, in their order: all but those without text.
 std::vector<Note> storableNotes(const std::vector<Note>& notes);
 
 } // namespace lumen

@@ -26,7 +26,7 @@ public:
     /// The notes of a chapter in their order.
     std::vector<Note> load(const QString& chapter);
     /// Puts `notes` in the place of all notes of the chapter, in one step on disk: after a failure
-    /// or a crash the old ones are there. Notes from the first without text on aren't stored.
+    /// or a crash the old ones are there. Notes without text aren't stored.
     void save(const QString& chapter, const std::vector<Note>& notes);
 
 private:

@@ -14,6 +14,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <initializer_list>
+
 namespace lumen {
 
 using namespace Qt::StringLiterals;
@@ -112,14 +114,42 @@ void PersonalNotesTab::wire()
 void PersonalNotesTab::enter()
 {
     setStatus(QString());
-    m_page->setEnabled(m_state.installed.myc);
-    Proc개인주석저장();
-    Proc개인주석표시();
+    enableControls(m_state.installed.myc);
+    m_told.clear();
+    showPlace();
+}
+
+void PersonalNotesTab::showPlace()
+{
+    try {
+        Proc개인주석표시();
+        m_told.clear();
+    } catch (const JetError& error) {
+        // The same cause at every step through the text is told once.
+        if (error.text() == m_told)
+            return;
+        m_told = error.text();
+        throw;
+    }
+}
+
+void PersonalNotesTab::enableControls(bool enabled)
+{
+    // The button that adds stays: it tells what is wrong.
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{tx개인주석절범위, flex개인주석목록, cmd개인주석삭제,
+                                         cmd개인주석위로, cmd개인주석아래로})
+        control->setEnabled(enabled);
+}
+
+bool PersonalNotesTab::showsReadersChapter() const
+{
+    return m_chapter == noteChapter(m_reader.book(), m_reader.chapter());
 }
 
 void PersonalNotesTab::showSelection()
 {
-    if (m_chapter == noteChapter(m_reader.book(), m_reader.chapter()))
+    if (showsReadersChapter())
         tx개인주석절범위->setText(m_reader.GetCurVerseRange());
 }
 
@@ -128,24 +158,27 @@ void PersonalNotesTab::Proc개인주석표시()
     if (!m_state.installed.myc)
         return;
     const QString chapter = noteChapter(m_reader.book(), m_reader.chapter());
-    // Before the labels change: a save that fails leaves notes and labels of the former chapter.
-    if (chapter != m_chapter)
+    if (chapter != m_chapter || !m_notes.isOpen()) {
+        // Before the labels change: what fails leaves notes and labels of the former chapter.
         Proc개인주석저장();
-    lbl개인주석책장->setText(chapter);
+        m_stored = m_notes.load(chapter);
+        m_list.fill(m_stored);
+        m_chapter = chapter;
+        lbl개인주석책장->setText(chapter);
+        fillGrid();
+        rowChanged();
+    }
     tx개인주석절범위->setText(m_reader.GetCurVerseRange());
-    if (chapter == m_chapter && m_notes.isOpen())
-        return;
-
-    m_stored = m_notes.load(chapter);
-    m_list.fill(m_stored);
-    m_chapter = chapter;
-    fillGrid();
-    rowChanged();
 }
 
 void PersonalNotesTab::Proc개인주석추가()
 {
-    if (m_chapter.isEmpty())
+    if (!m_state.installed.myc) {
+        m_services.messages.show(m_page, messages::kNotesAbsent);
+        return;
+    }
+    // Notes that could not be read are tried again, and what is wrong is told again.
+    if (!showsReadersChapter() && !guarded(m_services, m_page, [this] { Proc개인주석표시(); }))
         return;
     const QString place =
         Trim(lbl개인주석책장->text()).toString() + Trim(tx개인주석절범위->text()).toString();
@@ -162,10 +195,9 @@ void PersonalNotesTab::Proc개인주석추가()
 
 void PersonalNotesTab::Proc개인주석저장()
 {
-    if (windowIsMinimized && windowIsMinimized())
-        return;
     const std::vector<Note> notes = storableNotes(m_list.notes());
-    if (m_chapter.isEmpty() || notes == m_stored)
+    // A list that nobody touched stays as it is on disk, also one that holds a note without text.
+    if (m_chapter.isEmpty() || notes == m_stored || m_list.notes() == m_stored)
         return;
     m_notes.save(m_chapter, notes);
     m_stored = notes;
@@ -213,10 +245,8 @@ void PersonalNotesTab::textChanged()
 
 void PersonalNotesTab::saveInBetween()
 {
-    // A power cut may take what was typed last, no more. While a note is empty its saving rule
-    // would drop those behind it, so that nothing is saved until it has a text or the tab is left.
-    if (storableNotes(m_list.notes()).size() == m_list.notes().size())
-        guarded(m_services, m_page, [this] { Proc개인주석저장(); });
+    // A power cut may take what was typed last, no more.
+    guarded(m_services, m_page, [this] { Proc개인주석저장(); });
 }
 
 void PersonalNotesTab::cmd개인주석삭제_Click()

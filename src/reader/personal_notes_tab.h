@@ -28,20 +28,18 @@ public:
     QStringView caption() const override { return panel_caption::kPersonalNotes; }
     QWidget* page() override { return m_page; }
     void enter() override;
-    void showPlace() override { Proc개인주석표시(); }
+    void showPlace() override;
     void showSelection() override;
     void leave() override { Proc개인주석저장(); }
 
     /// Shows the notes of the reader's chapter; those of a chapter shown before are saved first.
+    /// What fails leaves all as it was, under the former chapter's label.
     void Proc개인주석표시();
     /// Adds a note at the place that label and range box tell.
     void Proc개인주석추가();
     /// Saves the notes for the chapter that the list was filled with, unless the table holds the
-    /// same already. Nothing while the window counts as minimised.
+    /// same already or nobody has touched them.
     void Proc개인주석저장();
-
-    /// Whether the reader's window counts as minimised; unset it never does.
-    std::function<bool()> windowIsMinimized;
 
 private:
     QWidget* m_page; // before the controls, which it takes over
@@ -59,6 +57,8 @@ public:
 private:
     void layOut();
     void wire();
+    void enableControls(bool enabled);
+    bool showsReadersChapter() const;
     void fillGrid();
     void showGridRow(int row);
     void rowChanged();
@@ -74,6 +74,7 @@ private:
     NoteList m_list;
     std::vector<Note> m_stored; ///< what the table holds for m_chapter
     QString m_chapter;          ///< that the list was filled with, "" before the first fill
+    QString m_told;             ///< why the last place could not be shown, "" when it could
     bool m_showing = false;
     QTimer* m_typingPause = nullptr; ///< owned by the page
 };

@@ -13,16 +13,13 @@ namespace lumen {
 
 bool frm성서::Form_Unload()
 {
+    // A note that can't be saved keeps the window open, so that its text can be taken elsewhere.
+    if (!guarded(m_services, this, [this] { panel->leave(); }))
+        return false;
     if (closeToolWindows && !closeToolWindows())
         return false;
     Save책갈피();
     SaveBibleSettings();
-    // A note that can't be saved keeps the window open once, so that its text can be taken
-    // elsewhere; the user's second try ends the program.
-    if (!guarded(m_services, this, [this] { panel->leave(); }) && !m_closeRefused) {
-        m_closeRefused = true;
-        return false;
-    }
     m_notStored << compactAndBackUp();
     tellWhatWasNotStored();
     return true;

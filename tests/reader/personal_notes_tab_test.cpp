@@ -2,7 +2,10 @@
 #include "data/check_data.h"
 #include "data/data_store.h"
 #include "panel/reference_panel.h"
+#include "platform/controls/typing_watch.h"
 #include "platform/jet/data_control.h"
+#include "platform/jet/jet_engine.h"
+#include "platform/jet/jet_error.h"
 #include "reader/personal_notes_tab.h"
 #include "support/active_window.h"
 #include "support/fake_reader.h"
@@ -10,8 +13,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QInputMethodEvent>
+#include <QTabBar>
 #include <QTest>
 
+#include <functional>
 #include <ostream>
 
 namespace lumen {
@@ -127,63 +134,6 @@ TEST_F(PersonalNotesTabTest, ANoteIsThereAgainAfterTheChapterWasLeft)
     EXPECT_EQ(tab->tx개인주석본문->toPlainText(), u"love\n둘째 줄"_s);
 }
 
-TEST_F(PersonalNotesTabTest, APauseInTypingSavesUnlessThatWouldDropNotes)
-{
-    const auto pause = [this] {
-        auto* const timer = tab->page()->findChild<QTimer*>(u"TypingPause"_s);
-        ASSERT_NE(timer, nullptr);
-        ASSERT_TRUE(timer->isActive());
-        timer->start(0);
-        QCoreApplication::processEvents();
-    };
-    openAt(kJohn, 3);
-    addNote(u"1"_s, u"one"_s);
-    pause();
-    EXPECT_EQ(stored(u"요3:"_s), QStringList{u"요3:1=one"_s});
-    addNote(u"2"_s, u"two"_s);
-    pause();
-    tab->flex개인주석목록->setRow(0);
-    tab->flex개인주석목록->onSelChange();
-    tab->tx개인주석본문->clear();
-    pause();
-    EXPECT_EQ(stored(u"요3:"_s), (QStringList{u"요3:1=one"_s, u"요3:2=two"_s}))
-        << "an empty note would drop the second one";
-}
-
-TEST_F(PersonalNotesTabTest, NotesAreSavedOnEveryWayOut)
-{
-    openAt(kJohn, 3);
-    addNote(u"1"_s, u"탭"_s);
-    panel.sst관주사전->selectCaption(u"찬송가"_s);
-    EXPECT_EQ(stored(u"요3:"_s), QStringList{u"요3:1=탭"_s}) << "another tab";
-
-    panel.sst관주사전->selectCaption(u"개인주석"_s);
-    addNote(u"2"_s, u"접기"_s);
-    panel.toggle();
-    EXPECT_EQ(stored(u"요3:"_s).size(), 2) << "collapsed";
-
-    expand();
-    addNote(u"3"_s, u"작게"_s);
-    bool minimized = false;
-    tab->windowIsMinimized = [&minimized] { return minimized; };
-    panel.leave();
-    minimized = true;
-    EXPECT_EQ(stored(u"요3:"_s).size(), 3) << "before it counts as minimised";
-}
-
-TEST_F(PersonalNotesTabTest, NothingIsSavedWhileMinimised)
-{
-    openAt(kJohn, 3);
-    addNote(u"1"_s, u"글"_s);
-    bool minimized = true;
-    tab->windowIsMinimized = [&minimized] { return minimized; };
-    panel.leave();
-    EXPECT_EQ(stored(u"요3:"_s), QStringList());
-    minimized = false;
-    panel.leave();
-    EXPECT_EQ(stored(u"요3:"_s), QStringList{u"요3:1=글"_s});
-}
-
 TEST_F(PersonalNotesTabTest, APlaceTakesOneNote)
 {
     openAt(kJohn, 3, u"16"_s);
@@ -236,16 +186,6 @@ TEST_F(PersonalNotesTabTest, MovingANoteIsTheOrderOfTheNextSave)
     EXPECT_EQ(stored(u"요3:"_s), (QStringList{u"요3:3=글3"_s, u"요3:1=글1"_s, u"요3:2=글2"_s}));
 }
 
-TEST_F(PersonalNotesTabTest, ANoteWithoutTextDropsThoseBehindIt)
-{
-    openAt(kJohn, 3);
-    addNote(u"1"_s, u"하나"_s);
-    addNote(u"2"_s, QString());
-    addNote(u"3"_s, u"셋"_s);
-    goTo(kJohn, 4);
-    EXPECT_EQ(stored(u"요3:"_s), QStringList{u"요3:1=하나"_s});
-}
-
 TEST_F(PersonalNotesTabTest, TheSameChapterKeepsWhatIsBeingWritten)
 {
     openAt(kJohn, 3, u"1"_s);
@@ -268,12 +208,122 @@ TEST_F(PersonalNotesTabTest, ASelectionDuringAFillLeavesTheLabelsAlone)
     EXPECT_EQ(tab->tx개인주석절범위->text(), u"16"_s);
 }
 
-TEST_F(PersonalNotesTabTest, WithoutTheDatabaseTheTabIsDead)
+TEST_F(PersonalNotesTabTest, APauseInTypingSavesTheNotesWithText)
+{
+    openAt(kJohn, 3);
+    addNote(u"1"_s, u"하나"_s);
+    addNote(u"2"_s, QString());
+    addNote(u"3"_s, u"셋"_s);
+    auto* const timer = tab->page()->findChild<QTimer*>(u"TypingPause"_s);
+    ASSERT_NE(timer, nullptr);
+    ASSERT_TRUE(timer->isActive());
+    timer->start(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(stored(u"요3:"_s), (QStringList{u"요3:1=하나"_s, u"요3:3=셋"_s}));
+    EXPECT_EQ(shown().size(), 3) << "the empty one can still be written";
+}
+
+TEST_F(PersonalNotesTabTest, AChapterThatIsOnlyLookedAtStaysAsItIs)
+{
+    // As older versions of the program have left them.
+    {
+        const auto database = world.jet.OpenDatabase(kDatabase);
+        const auto rows = database->OpenRecordset(u"select * from myc"_s);
+        int sequence = 0;
+        for (const Note& note : {Note{u"요3:1"_s, u""_s}, Note{u"요3:2"_s, u"둘"_s}}) {
+            rows->AddNew();
+            rows->Fields(u"seq").setValue(sequence++);
+            rows->Fields(u"Index").setValue(note.place);
+            rows->Fields(u"note").setValue(note.text);
+            rows->Update();
+        }
+    }
+    openAt(kJohn, 3);
+    goTo(kJohn, 4);
+    EXPECT_EQ(stored(u"요3:"_s), (QStringList{u"요3:1="_s, u"요3:2=둘"_s}));
+}
+
+TEST_F(PersonalNotesTabTest, TheSyllableUnderCompositionIsSavedOnEveryWayOut)
+{
+    const TypingWatch typing(*QCoreApplication::instance());
+    const struct
+    {
+        const char* way;
+        std::function<void()> leave;
+    } ways[] = {
+        {"another tab",
+         [this] {
+             QTabBar* const headers = panel.sst관주사전->tabBar();
+             QTest::mouseClick(headers, Qt::LeftButton, {}, headers->tabRect(0).center());
+         }},
+        {"collapsed",
+         [this] {
+             QTabBar* const headers = panel.sst관주사전->tabBar();
+             QTest::mouseClick(headers, Qt::LeftButton, {},
+                               headers->tabRect(headers->currentIndex()).center());
+         }},
+        {"a box beside it",
+         [this] {
+             tab->tx개인주석절범위->setFocus();
+             panel.leave();
+         }},
+        {"the window hides",
+         [this] {
+             panel.hide();
+             panel.leave();
+             panel.show();
+         }},
+    };
+    int chapter = 0;
+    for (const auto& [way, leave] : ways) {
+        SCOPED_TRACE(way);
+        panel.sst관주사전->selectCaption(u"개인주석"_s);
+        if (panel.state() == PanelState::Collapsed)
+            expand();
+        goTo(kJohn, ++chapter);
+        addNote(u"1"_s, u"사라"_s);
+        QInputMethodEvent syllable(u"ㅇ"_s, {});
+        QCoreApplication::sendEvent(tab->tx개인주석본문, &syllable);
+        QInputMethodEvent longer(u"앙"_s, {});
+        QCoreApplication::sendEvent(tab->tx개인주석본문, &longer);
+        leave();
+        EXPECT_EQ(stored(u"요%1:"_s.arg(chapter)), QStringList{u"요%1:1=사라앙"_s.arg(chapter)});
+    }
+}
+
+TEST_F(PersonalNotesTabTest, NotesThatCannotBeReadAreToldOnceAndLeaveTheFormerChapterWhole)
+{
+    openAt(kJohn, 3, u"16"_s);
+    addNote(u"16"_s, u"글"_s);
+    panel.leave();
+    dacPersnote.Close();
+    QFile file(world.folders.data(u"myc.mdb"_s));
+    ASSERT_TRUE(file.rename(file.fileName() + u".away"_s));
+    EXPECT_THROW(goTo(kJohn, 4), JetError);
+    goTo(kJohn, 5); // the same cause
+    EXPECT_EQ(tab->lbl개인주석책장->text(), u"요3:"_s);
+    EXPECT_EQ(shown(), QStringList{u"요3:16=글"_s});
+    EXPECT_EQ(tab->tx개인주석본문->toPlainText(), u"글"_s);
+    world.messages.expect(u"Lumenscript"_s,
+                          u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + kDatabase, 16);
+    click(tab->cmd개인주석추가);
+
+    ASSERT_TRUE(file.rename(world.folders.data(u"myc.mdb"_s)));
+    click(tab->cmd개인주석추가);
+    EXPECT_EQ(shown(), QStringList{u"요5:1="_s}) << "in the chapter that is read";
+}
+
+TEST_F(PersonalNotesTabTest, WithoutTheDatabaseAddingTellsWhatIsWrong)
 {
     world.state.installed.myc = false;
     openAt(kJohn, 3);
-    EXPECT_FALSE(tab->cmd개인주석추가->isEnabled());
-    EXPECT_EQ(tab->lbl개인주석책장->text(), QString());
+    EXPECT_FALSE(tab->tx개인주석본문->isEnabled());
+    world.messages.expect(
+        u"추가 불능"_s,
+        u"개인 주석 파일 Data\\myc.mdb가 없어 주석을 저장할 수 없습니다. Data 폴더에 쓸 "
+        u"수 있는지 확인한 뒤 프로그램을 다시 시작하시기 바랍니다."_s,
+        48);
+    click(tab->cmd개인주석추가);
 }
 
 } // namespace

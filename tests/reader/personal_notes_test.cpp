@@ -90,12 +90,6 @@ TEST_F(PersonalNotesTest, OtherChaptersStay)
     EXPECT_EQ(load(u"창10:"_s), (Notes{{u"창10:1"_s, u"열째 장"_s}}));
 }
 
-TEST_F(PersonalNotesTest, TheFirstNoteWithoutTextEndsTheSaving)
-{
-    save(u"요3:"_s, {{u"요3:1"_s, u"하나"_s}, {u"요3:2"_s, u""_s}, {u"요3:3"_s, u"셋"_s}});
-    EXPECT_EQ(load(u"요3:"_s), (Notes{{u"요3:1"_s, u"하나"_s}}));
-}
-
 TEST_F(PersonalNotesTest, AFailedSaveLeavesTheOldNotes)
 {
     const Notes old{{u"요3:1"_s, u"하나"_s}, {u"요3:2"_s, u"둘"_s}};
