@@ -115,6 +115,8 @@ void frm성서::Proc이동(QString& reference)
         return;
     }
     reference = typed->reference;
+    // The chapter comes with its first verse, then the wanted one is marked.
+    const PlaceHold once(*this);
     {
         const FillHold hold(*this);
         m_fillWanted = true; // also when book and chapter stay: the text is filled again
@@ -140,6 +142,7 @@ void frm성서::Proc이동(QString& reference)
 
 void frm성서::goTo(int book, int chapter, int verse)
 {
+    const PlaceHold once(*this);
     {
         const FillHold hold(*this);
         m_fillWanted = true;
@@ -167,6 +170,9 @@ void frm성서::Proc현재위치표시()
 
 void frm성서::placeChanged()
 {
+    m_placeWanted = m_placeHolds > 0;
+    if (m_placeWanted)
+        return;
     guarded(m_services, this, [this] { panel->showPlace(); });
     Proc현재위치표시();
 }

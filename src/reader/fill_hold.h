@@ -21,4 +21,20 @@ private:
     frm성서& m_window;
 };
 
+class frm성서::PlaceHold
+{
+public:
+    explicit PlaceHold(frm성서& window) : m_window(window) { ++m_window.m_placeHolds; }
+    ~PlaceHold()
+    {
+        if (--m_window.m_placeHolds == 0 && m_window.m_placeWanted)
+            m_window.placeChanged();
+    }
+    PlaceHold(const PlaceHold&) = delete;
+    PlaceHold& operator=(const PlaceHold&) = delete;
+
+private:
+    frm성서& m_window;
+};
+
 } // namespace lumen

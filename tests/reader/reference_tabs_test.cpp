@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/verse_index.h"
+#include "data/module_path.h"
 #include "platform/controls/flat_spin.h"
 #include "reader/reader_fixture.h"
 #include "support/module_files.h"
 #include "support/original_modules.h"
 #include "text/field_scramble.h"
+
+#include <QFile>
+#include <QPlainTextEdit>
 
 namespace lumen {
 namespace {
@@ -117,6 +121,40 @@ TEST_F(ReferenceTabsTest, AReferenceShowsItsTextAndLeadsTheReaderInBothViews)
         EXPECT_EQ(list.List(0), u"관주 없음"_s);
         EXPECT_TRUE(reader->atbar.tool(view).checked());
     }
+}
+
+TEST_F(ReferenceTabsTest, AJumpToAnotherChapterAsksTheOpenTabOnce)
+{
+    ASSERT_TRUE(QFile::remove(services.folders.data(u"z101.dts"_s)));
+    const QString missing = u"데이터베이스 파일을 찾을 수 없습니다.\n"_s +
+                            modulePath(services.files, services.state, u"\\Data\\z101.dts");
+    services.messages.expect(u"Lumenscript"_s, missing, 16);
+    open(u"원전분해");
+    services.messages.verify();
+    services.messages.expect(u"Lumenscript"_s, missing, 16);
+    quickMove(u"요 3:16"_s);
+    services.messages.verify();
+    services.messages.expect(u"Lumenscript"_s, missing, 16);
+    reader->goTo(kGenesis, 1, 2);
+}
+
+TEST_F(ReferenceTabsTest, ANoteThatCannotBeStoredKeepsTheWindowOpenUntilItCan)
+{
+    open(u"개인주석");
+    control<QPushButton>(u"cmd개인주석추가"_s).click();
+    control<QPlainTextEdit>(u"tx개인주석본문"_s).insertPlainText(u"글"_s);
+    const auto notes = services.jet.OpenDatabase(services.state.AppPath + u"\\Data\\myc.mdb"_s);
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        notes->BeginTrans(); // another one holds the file
+        services.messages.expect(u"Lumenscript"_s, u"인수가 올바르지 않습니다.\nBeginTrans"_s, 16);
+        EXPECT_FALSE(reader->close());
+        EXPECT_TRUE(reader->isVisible());
+        services.messages.verify();
+    }
+    EXPECT_EQ(notes->OpenRecordset(u"select * from myc"_s)->RecordCount(), 0);
+    EXPECT_TRUE(reader->close());
+    const auto stored = services.jet.OpenDatabase(services.state.AppPath + u"\\Data\\myc.mdb"_s);
+    EXPECT_EQ(stored->OpenRecordset(u"select * from myc"_s)->RecordCount(), 1);
 }
 
 TEST_F(ReferenceTabsTest, TheEndFreesTheModulesOfTheTabs)
