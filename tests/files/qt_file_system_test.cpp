@@ -60,7 +60,7 @@ TEST_F(QtFileSystemTest, FilesAreWrittenReadCopiedAndDeletedInAnyCase)
     EXPECT_TRUE(files.FileExists(path(u"bmk.BMF"_s)));
     EXPECT_EQ(content(u"BMK.bmf"_s), bytes);
     ASSERT_TRUE(files.writeAll(path(u"bmk.bmf"_s), "second"));
-    EXPECT_EQ(QDir(native(u""_s)).entryList(QDir::Files), QStringList{u"Bmk.bmf"_s})
+    EXPECT_EQ(QDir(native(u""_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"Bmk.bmf"_s})
         << "one file, and no temporary one";
 
     ASSERT_TRUE(files.writeAll(path(u"target"_s), "former"));
@@ -154,7 +154,8 @@ TEST_F(QtFileSystemTest, AFullDiscLeavesTheOldFile)
         EXPECT_FALSE(files.CopyFile(path(u"large"_s), path(u"a"_s)));
     }
     EXPECT_EQ(content(u"a"_s), "old");
-    EXPECT_EQ(QDir(native(u""_s)).entryList(QDir::Files), (QStringList{u"a"_s, u"large"_s}))
+    EXPECT_EQ(QDir(native(u""_s)).entryList(QDir::Files | QDir::Hidden),
+              (QStringList{u"a"_s, u"large"_s}))
         << "no temporary file is left";
     EXPECT_FALSE(files.writeAll(path(u"none\\a"_s), "x")) << "its folder is missing";
 }

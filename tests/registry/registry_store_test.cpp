@@ -84,7 +84,8 @@ TEST_F(RegistryStoreTest, EveryTextSurvivesTheFile)
     }
     EXPECT_EQ(value(store, u"[name"_s), u"bracket"_s);
     EXPECT_EQ(value(store, u";name"_s), u"semicolon"_s);
-    EXPECT_EQ(QDir(folder.filePath(u"below"_s)).entryList(QDir::Files), QStringList{u"settings"_s});
+    EXPECT_EQ(QDir(folder.filePath(u"below"_s)).entryList(QDir::Files | QDir::Hidden),
+              QStringList{u"settings"_s});
 }
 
 TEST_F(RegistryStoreTest, TheWalkGivesEachValueOfOneKeyOnce)
