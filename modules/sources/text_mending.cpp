@@ -127,6 +127,103 @@ bool moveDouayPsalm(VerseText& verse)
 
 constexpr QStringView kDouayFiller = u"dummy verses inserted by amos";
 
+struct VerseMove
+{
+    int book = 0;
+    int chapter = 0;
+    int firstVerse = 0;
+    int lastVerse = 0;
+    int toVerse = 0;
+};
+
+// Where misread numbers in the source's copy have pushed verses away from their own, and where
+// those belong. Numbers that nothing is moved to are verses that the copy has lost.
+constexpr std::array kDouayMoves{
+    VerseMove{0, 17, 27, 28, 26},  VerseMove{0, 18, 3, 34, 2},    VerseMove{0, 20, 16, 16, 15},
+    VerseMove{0, 20, 18, 19, 17},  VerseMove{0, 27, 23, 23, 24},  VerseMove{0, 38, 16, 16, 15},
+    VerseMove{0, 38, 18, 25, 17},  VerseMove{0, 38, 27, 27, 25},  VerseMove{0, 38, 29, 32, 27},
+    VerseMove{0, 39, 8, 8, 6},     VerseMove{0, 39, 10, 16, 8},   VerseMove{0, 39, 18, 18, 15},
+    VerseMove{0, 39, 20, 27, 16},  VerseMove{0, 40, 16, 16, 15},  VerseMove{0, 40, 18, 25, 16},
+    VerseMove{0, 41, 6, 6, 5},     VerseMove{0, 41, 8, 59, 6},    VerseMove{0, 49, 16, 16, 15},
+    VerseMove{0, 49, 18, 26, 16},  VerseMove{0, 49, 28, 28, 25},  VerseMove{0, 49, 30, 36, 26},
+    VerseMove{1, 9, 21, 22, 22},   VerseMove{1, 28, 44, 44, 43},  VerseMove{3, 7, 6, 6, 31},
+    VerseMove{3, 7, 7, 33, 4},     VerseMove{3, 7, 35, 92, 32},   VerseMove{4, 1, 6, 6, 41},
+    VerseMove{4, 1, 7, 42, 5},     VerseMove{4, 1, 44, 48, 42},   VerseMove{4, 11, 8, 32, 7},
+    VerseMove{4, 26, 9, 20, 8},    VerseMove{5, 2, 11, 26, 9},    VerseMove{5, 18, 4, 21, 3},
+    VerseMove{5, 18, 23, 29, 22},  VerseMove{6, 2, 29, 29, 23},   VerseMove{6, 6, 3, 10, 2},
+    VerseMove{6, 6, 12, 41, 11},   VerseMove{9, 5, 3, 10, 2},     VerseMove{9, 5, 12, 26, 11},
+    VerseMove{10, 6, 26, 26, 25},  VerseMove{10, 6, 28, 40, 26},  VerseMove{13, 4, 3, 23, 2},
+    VerseMove{13, 30, 3, 28, 2},   VerseMove{22, 22, 26, 26, 25}, VerseMove{23, 21, 14, 15, 13},
+    VerseMove{23, 31, 33, 33, 32}, VerseMove{23, 31, 35, 42, 33}, VerseMove{25, 43, 10, 28, 9},
+    VerseMove{32, 6, 6, 6, 5},     VerseMove{32, 6, 8, 18, 6},
+};
+
+bool isMovedDouayChapter(const VerseText& verse)
+{
+    return std::ranges::any_of(kDouayMoves, [&verse](const VerseMove& move) {
+        return move.book == verse.book && move.chapter == verse.chapter;
+    });
+}
+
+bool moveDouayVerse(VerseText& verse)
+{
+    for (const VerseMove& move : kDouayMoves) {
+        if (move.book != verse.book || move.chapter != verse.chapter ||
+            verse.verse < move.firstVerse || verse.verse > move.lastVerse)
+            continue;
+        verse.verse += move.toVerse - move.firstVerse;
+        return true;
+    }
+    return false;
+}
+
+// A number misread as 1, "10" for the most part, leaves fillers from 2 up to the true one.
+int giveBackFirstVerses(VersionText& version)
+{
+    int moved = 0;
+    auto& verses = version.verses;
+    for (std::size_t first = 0; first < verses.size(); ++first) {
+        if (verses[first].verse != 1)
+            continue;
+        std::size_t last = first;
+        while (last + 1 < verses.size() && verses[last + 1].text == kDouayFiller &&
+               verses[last + 1].chapter == verses[first].chapter &&
+               verses[last + 1].verse == verses[last].verse + 1)
+            ++last;
+        if (last == first)
+            continue;
+        std::swap(verses[first].text, verses[last].text);
+        ++moved;
+    }
+    return moved;
+}
+
+// The two halves of Joshua 2:10 stand at 12 and 10, the first behind the second.
+void orderHalves(VersionText& version)
+{
+    const auto half = [&version](int number) {
+        return std::ranges::find_if(version.verses, [number](const VerseText& verse) {
+            return verse.book == 5 && verse.chapter == 2 && verse.verse == number;
+        });
+    };
+    const auto second = half(10);
+    const auto first = half(12);
+    if (second != version.verses.end() && first != version.verses.end())
+        std::swap(second->text, first->text);
+}
+
+int mendDouayNumbers(VersionText& version)
+{
+    std::erase_if(version.verses, [](const VerseText& verse) {
+        return verse.text == kDouayFiller && isMovedDouayChapter(verse);
+    });
+    int moved = giveBackFirstVerses(version);
+    orderHalves(version);
+    for (VerseText& verse : version.verses)
+        moved += moveDouayVerse(verse) ? 1 : 0;
+    return moved;
+}
+
 int mendDouayPsalms(VersionText& version)
 {
     // Fillers in chapters that are moved would come to lie upon verses that exist.
@@ -243,7 +340,9 @@ void darby(VersionText& version)
 void douay(VersionText& version)
 {
     remark(version, u"시편의 장 번호를 바로잡았습니다"_s, mendDouayPsalms(version));
+    remark(version, u"잘못 읽힌 절 번호를 바로잡았습니다"_s, mendDouayNumbers(version));
     static const QRegularExpression lineEnd(uR"(\s*\\$)"_s);
+    static const QRegularExpression noteLetter(uR"(^[a-z]\s+(?=[A-Z]))"_s);
     QStringList stray;
     const int changed = changeTexts(version, [&stray](VerseText& verse) {
         if (*verse.text == kDouayFiller) {
@@ -251,6 +350,7 @@ void douay(VersionText& version)
             return;
         }
         verse.text->remove(lineEnd);
+        verse.text->remove(noteLetter);
         static const QRegularExpression odd(uR"([/<>\\|])"_s);
         if (verse.text->contains(odd))
             stray << shortReference(verse);

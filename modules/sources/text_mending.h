@@ -31,7 +31,7 @@ void darby(VersionText& version);
 
 /// Filler verses become no words; a backslash that ends a line is dropped. The Psalms, some of
 /// which the source has mixed up or moved beyond 150, get the chapters of the Hebrew text; within a
-/// chapter the title counts as a verse.
+/// chapter the title counts as a verse. In some other chapters verses come back to their numbers.
 void douay(VersionText& version);
 
 /// Part of the text is numbered as in Hebrew and says so: "\6:1\" tells chapter and verse of what
