@@ -146,6 +146,7 @@ public:
 
 private:
     const Consonant* consonantAt(qsizetype at) const;
+    bool opensWithLiquid(QStringView sound) const;
     void takeVowel(const Vowel& vowel, bool softened, int onset);
     void takeConsonant(const Consonant& consonant);
     void takeY();
@@ -167,6 +168,14 @@ const Consonant* HangulSpeller::consonantAt(qsizetype at) const
         return QStringView(m_sounds).mid(at).startsWith(consonant.sound);
     });
     return found == kConsonants.end() ? nullptr : &*found;
+}
+
+// In Greek a stop and the liquid behind it open the next syllable together: pe-tros.
+bool HangulSpeller::opensWithLiquid(QStringView sound) const
+{
+    static constexpr QStringView kStops = u"bgdpktc";
+    return !m_isHebrew && kStops.contains(sound[0]) && m_at < m_sounds.size() &&
+           (m_sounds[m_at] == u'l' || m_sounds[m_at] == u'r');
 }
 
 void HangulSpeller::add(const Syllable& syllable)
@@ -252,7 +261,7 @@ void HangulSpeller::takeConsonant(const Consonant& consonant)
     }
     if (sound == u"h")
         return; // silent at the end of a syllable
-    if (consonant.coda != kNone && hasOpenSyllable()) {
+    if (consonant.coda != kNone && !isHebrewCh && !opensWithLiquid(sound) && hasOpenSyllable()) {
         m_syllables.back().coda = consonant.coda;
         return;
     }
