@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QChar kOpen{u'-'};
+// Stands where "-" would say that a verb lacks something which the source doesn't tell.
+constexpr QChar kUntold{u'.'};
 
 struct Letters
 {
@@ -183,6 +185,7 @@ private:
     QString particleCode(QChar kind, const Tail& tail);
     QString verbCode(const QString& piece, const Tail& tail);
     QString finiteOrNot(const QString& piece, QChar type) const;
+    static QChar shortened(QChar type);
     QChar lengthened(QChar type) const;
 
     bool m_isAramaic;
@@ -337,6 +340,14 @@ QString HebrewWordParser::finiteOrNot(const QString& piece, QChar type) const
            numberOf(letterAt(piece, 5)) + kOpen;
 }
 
+// Jussives are told. Other imperfects and imperatives may have a short form, the rest has none.
+QChar HebrewWordParser::shortened(QChar type)
+{
+    if (type == u'j')
+        return u'm';
+    return QStringView(u"iuwv").contains(type) ? kUntold : kOpen;
+}
+
 // A cohortative that shows its ending is lengthened in form and meaning, else in meaning only.
 QChar HebrewWordParser::lengthened(QChar type) const
 {
@@ -355,9 +366,8 @@ QString HebrewWordParser::verbCode(const QString& piece, const Tail& tail)
     if (type == u's') // only the passive participle of the simple stem has a letter
         aspect = sourceStem == u'q' ? u's' : u'P';
     m_result.isComplete = m_result.isComplete && stem != kOpen && aspect != kOpen;
-    const QChar shortened = type == u'j' ? QChar(u'm') : kOpen;
     return u"v"_s + stem + aspect + finiteOrNot(piece, type) + u"S"_s + tail.suffix + u"J"_s +
-           shortened + u"C"_s + lengthened(type) + u"A-"_s + tail.endCode();
+           shortened(type) + u"C"_s + lengthened(type) + u"A"_s + kUntold + tail.endCode();
 }
 
 } // namespace

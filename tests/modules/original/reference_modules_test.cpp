@@ -68,7 +68,7 @@ TEST_F(ReferenceModules, AnalysisHasARowForEachKind)
                            u"-|-|-|-|-"_s,
                            u"ba/;5b|d15g|b4a|-|-"_s,
                            u"b4a|d45g|b4a|-|-"_s,
-                           u"@ncfsaS---E-H-R-|@vqp3ms-S---J-C-A-E-H-R-|@ncfsaS---E-H-R-|"
+                           u"@ncfsaS---E-H-R-|@vqp3ms-S---J-C-A.E-H-R-|@ncfsaS---E-H-R-|"
                            "@xxxxxx|-"_s,
                            u"8|7|-|-|-"_s,
                            u"dg|g15d|-|-|-"_s,
@@ -113,7 +113,7 @@ TEST_F(ReferenceModules, SearchedCodesBeginWithThePrefixes)
     ASSERT_EQ(build(u"z103"_s).state, ModuleState::Built);
     EXPECT_EQ(
         rows(u"z103"_s, u"select Parsing from ParsingSearch"_s),
-        QStringList({u"@PpS---E-H-R-;@ncfsaS---E-H-R-;@vqp3ms-S---J-C-A-E-H-R-;"
+        QStringList({u"@PpS---E-H-R-;@ncfsaS---E-H-R-;@vqp3ms-S---J-C-A.E-H-R-;"
                      "@ncfsaS---E-H-R-;@xxxxxx;"_s,
                      u"@ncmsaS---E-H-Rk;@ncmsaS---E-H-Rq;"_s, u"($nnms);($qo);($q);($c);"_s}));
 }

@@ -86,8 +86,12 @@ QString faultOf(const QString& code)
         if (position.position > code.size())
             continue;
         const QChar value = code[position.position - 1];
-        if (value != u'-' && std::ranges::find(position.table, value.unicode(),
-                                               &ParsingValue::character) == position.table.end())
+        // Shortening and lost endings are not told of every form.
+        const bool mayBeUntold =
+            code[1] == u'v' && (position.position == 14 || position.position == 18);
+        if (value != u'-' && !(mayBeUntold && value == u'.') &&
+            std::ranges::find(position.table, value.unicode(), &ParsingValue::character) ==
+                position.table.end())
             return u"position %1"_s.arg(position.position);
     }
     return {};
