@@ -239,8 +239,10 @@ ChapterStyle frm성서::chapterStyle()
     style.fonts = m_state.fonts;
     style.showMiniTitle = m_settings.ShowMiniTitle;
     style.languageBar = m_state.LanguageBarRunning;
-    style.divideHebrew = [this](const QString& stored, const QString& font, int halfPoints) {
-        return divideHebrew(stored, {font, halfPoints, txCont->textWidth()}, true);
+    style.divideHebrew = [this, rtf = style.rtf](const QString& stored, const QString& font,
+                                                 int halfPoints, const VerseHead& head) {
+        const int taken = headWidth(head, rtf, font, halfPoints);
+        return divideHebrew(stored, {font, halfPoints, txCont->textWidth(), taken}, true);
     };
     return style;
 }
@@ -270,9 +272,11 @@ void frm성서::fillTableView(const std::vector<ChapterSource>& sources)
     style.showMiniTitle = m_settings.ShowMiniTitle;
     style.colors = m_settings.colors;
     style.fonts = m_state.fonts;
-    style.divideHebrew = [this](const QString& stored, const QString& font, int halfPoints,
-                                int width) {
-        return divideHebrew(stored, {font, halfPoints, width}, false);
+    style.divideHebrew = [this, rtf = chapterStyle().rtf](const QString& stored,
+                                                          const QString& font, int halfPoints,
+                                                          int width, const QString& part) {
+        const int taken = headWidth({{}, {}, part}, rtf, font, halfPoints);
+        return divideHebrew(stored, {font, halfPoints, width, taken}, false);
     };
     QStringList headers;
     for (const ChapterSource& source : sources)

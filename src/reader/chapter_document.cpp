@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "reader/chapter_document.h"
 
+#include "platform/controls/twips.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +42,8 @@ private:
 
     Face face(int code) const;
     void heading(const Face& face, const QString& title);
-    void verseText(const ChapterSource& source, const QString& stored, int halfPoints);
+    void verseText(const ChapterSource& source, const QString& stored, int halfPoints,
+                   const VerseHead& head);
     void text(const QString& plain);
 
     const ChapterStyle& m_style;
@@ -74,7 +82,8 @@ void Composer::heading(const Face& face, const QString& title)
     m_position += 1 + 2 + 2; // the tab, the marks, two paragraph ends
 }
 
-void Composer::verseText(const ChapterSource& source, const QString& stored, int halfPoints)
+void Composer::verseText(const ChapterSource& source, const QString& stored, int halfPoints,
+                         const VerseHead& head)
 {
     if (!isHebrewVersion(source.code)) {
         text(stored);
@@ -82,7 +91,8 @@ void Composer::verseText(const ChapterSource& source, const QString& stored, int
     }
     // The order is unscramble, divide, escape; the divider's own "\par" must not be escaped.
     const QString font = GetVersionFont(source.code, m_style.fonts).font;
-    const QStringList lines = m_style.divideHebrew(stored, font, halfPoints).split(u"\\par "_s);
+    const QStringList lines =
+        m_style.divideHebrew(stored, font, halfPoints, head).split(u"\\par "_s);
     for (qsizetype line = 0; line < lines.size(); ++line) {
         if (line > 0) {
             m_rtf += u"\\par "_s;
@@ -114,7 +124,8 @@ void Composer::row(const ChapterSource& source, const ChapterVerse& verse)
         shown.text.prepend(verse.part);
         text(verse.part);
     }
-    verseText(source, verse.cont, look.halfPoints);
+    verseText(source, verse.cont, look.halfPoints,
+              {number, separator, decorated ? verse.part : QString()});
     shown.textEnd = m_position;
     m_rows.push_back(shown);
     m_rtf += u"\\par "_s;
@@ -122,6 +133,25 @@ void Composer::row(const ChapterSource& source, const ChapterVerse& verse)
 }
 
 } // namespace
+
+int headWidth(const VerseHead& head, const RtfSettings& settings, const QString& fontName,
+              int halfPoints)
+{
+    const RtfSizes sizes = rtfSizes(settings.fontSize);
+    const auto width = [](const QString& text, const QString& family, int size) {
+        QFont font(family);
+        font.setPointSizeF(size / 2.0);
+        return QFontMetricsF(font).horizontalAdvance(text);
+    };
+    // Which font draws the separator hangs on what the machine has in place of the document's first
+    // one: the widest of those that stand near counts.
+    const double separator = std::max({width(head.separator, u"MS Sans Serif"_s, sizes.text),
+                                       width(head.separator, settings.mainFont, sizes.text),
+                                       width(head.separator, fontName, halfPoints)});
+    const double pixels = width(head.number, u"굴림체"_s, sizes.verseNumber) + separator +
+                          width(head.part, fontName, halfPoints);
+    return toTwips(static_cast<int>(std::ceil(pixels)) + 1);
+}
 
 ComposedChapter composeChapter(const std::vector<ChapterSource>& sources, const ChapterStyle& style)
 {

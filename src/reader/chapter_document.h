@@ -30,9 +30,17 @@ struct ChapterSource
     std::vector<ChapterVerse> verses;
 };
 
+/// What stands in front of a verse in its first line: number and separator, then the part.
+struct VerseHead
+{
+    QString number;
+    QString separator;
+    QString part;
+};
+
 /// Breaks a stored Hebrew verse into display lines, "\par " between them. Size in half points.
-using HebrewDivider =
-    std::function<QString(const QString& stored, const QString& fontName, int halfPoints)>;
+using HebrewDivider = std::function<QString(const QString& stored, const QString& fontName,
+                                            int halfPoints, const VerseHead& head)>;
 
 /// Reader: the document of the text view. Preview: that of the preview control, whose headings
 /// stand in square brackets.
@@ -55,6 +63,11 @@ struct ComposedChapter
     VersePositions positions;
     std::vector<ComposedRow> rows; ///< in text order
 };
+
+/// The room in twips that a head takes in the document's fonts; the part is drawn in the verse's
+/// own font and size (half points).
+int headWidth(const VerseHead& head, const RtfSettings& settings, const QString& fontName,
+              int halfPoints);
 
 /// Composes a chapter. The sources are walked in step: row i of each stands behind row i of the
 /// base, without any comparison of verse numbers; rows beyond the base's last are not shown.

@@ -77,12 +77,12 @@ void TableView::setUpColumns(const std::vector<ChapterSource>& sources, const QS
 QString TableView::cellText(const ChapterSource& source, const ChapterVerse& verse, int col,
                             const TableStyle& style) const
 {
-    QString text = verse.cont;
-    if (isHebrewVersion(source.code)) {
-        const QString font = GetVersionFont(source.code, style.fonts).font;
-        text = style.divideHebrew(text, font, textSize(style, source.code), m_grid.ColWidth(col));
-    }
-    return source.slot == 0 && style.showMiniTitle ? verse.part + text : text;
+    const QString part = source.slot == 0 && style.showMiniTitle ? verse.part : QString();
+    if (!isHebrewVersion(source.code))
+        return part + verse.cont;
+    const QString font = GetVersionFont(source.code, style.fonts).font;
+    return part + style.divideHebrew(verse.cont, font, textSize(style, source.code),
+                                     m_grid.ColWidth(col), part);
 }
 
 void TableView::addHeading(const ChapterVerse& verse, const TableStyle& style)

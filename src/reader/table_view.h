@@ -20,9 +20,10 @@ struct TableStyle
     bool showMiniTitle = true;
     ReaderColors colors = kDefaultColors;
     FontSettings fonts;
-    /// Breaks a stored Hebrew verse into lines parted by "\r\n"; width in twips.
-    std::function<QString(const QString& stored, const QString& fontName, int halfPoints,
-                          int width)>
+    /// Breaks a stored Hebrew verse into lines parted by "\r\n"; width in twips, `part` stands in
+    /// front of its first line.
+    std::function<QString(const QString& stored, const QString& fontName, int halfPoints, int width,
+                          const QString& part)>
         divideHebrew;
 };
 

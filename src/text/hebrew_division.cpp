@@ -2,6 +2,7 @@
 #include "text/hebrew_division.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTextLayout>
@@ -34,10 +35,10 @@ FontLineBreaker::FontLineBreaker(double pixelsPerTwip)
 }
 
 std::vector<qsizetype> FontLineBreaker::lineLengths(const QString& text, const QString& fontName,
-                                                    double pointSize, int width)
+                                                    double pointSize, int width, int taken)
 {
     const QString key = fontName + u'\n' + QString::number(pointSize) + u'\n' +
-                        QString::number(width) + u'\n' + text;
+                        QString::number(width) + u'\n' + QString::number(taken) + u'\n' + text;
     if (const auto* known = m_cache.object(key))
         return *known;
     QFont font(fontName);
@@ -47,11 +48,15 @@ std::vector<qsizetype> FontLineBreaker::lineLengths(const QString& text, const Q
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(Qt::LeftToRight);
     layout.setTextOption(option);
+    // The blank at a cut ends the line here and takes no room; in display order it begins the line.
+    const double blank = QFontMetricsF(font).horizontalAdvance(u' ');
+    double room = (width - taken) * m_pixelsPerTwip - blank;
     std::vector<qsizetype> lengths;
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(std::max(1.0, width * m_pixelsPerTwip));
+        line.setLineWidth(std::max(1.0, room));
         lengths.push_back(line.textLength());
+        room = width * m_pixelsPerTwip - blank;
     }
     layout.endLayout();
     m_cache.insert(key, new std::vector<qsizetype>(lengths));
@@ -66,7 +71,7 @@ QStringList hebrewLines(const QString& text, const HebrewTarget& target, LineBre
     std::reverse(reversed.begin(), reversed.end());
     // The ruler's size is a point above the target's.
     const std::vector<qsizetype> lengths = breaker.lineLengths(
-        reversed, target.fontName, target.fontSize / 2.0 + 1, target.width - kMargin);
+        reversed, target.fontName, target.fontSize / 2.0 + 1, target.width - kMargin, target.taken);
     // A verse is cut from its end; what is left in front is the line that is read last.
     QStringList lines;
     qsizetype end = text.size();

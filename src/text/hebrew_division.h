@@ -15,6 +15,8 @@ struct HebrewTarget
     QString fontName;
     int fontSize = 0; ///< half points, as RTF counts
     int width = 0;    ///< twips; lines keep 100 below it
+    /// Twips at the head of the first line that something else takes: a verse number, a title.
+    int taken = 0;
     /// Whether the window shows the target; lines of a hidden one can't be measured.
     bool isVisible = true;
 };
@@ -26,9 +28,10 @@ public:
     virtual ~LineBreaker() = default;
 
     /// The lengths of the display lines of a text, with the blanks that end them, so that they add
-    /// up to the text's length. Size in points, width in twips.
+    /// up to the text's length. Each line has room for such a blank, too. Size in points, width in
+    /// twips, of which `taken` are not free in the first line.
     virtual std::vector<qsizetype> lineLengths(const QString& text, const QString& fontName,
-                                               double pointSize, int width) = 0;
+                                               double pointSize, int width, int taken) = 0;
 };
 
 /// Measures with the real font. Keeps what it measured, since a chapter is composed anew with each
@@ -40,7 +43,7 @@ public:
     explicit FontLineBreaker(double pixelsPerTwip = 0);
 
     std::vector<qsizetype> lineLengths(const QString& text, const QString& fontName,
-                                       double pointSize, int width) override;
+                                       double pointSize, int width, int taken) override;
 
 private:
     double m_pixelsPerTwip;

@@ -16,7 +16,9 @@ ChapterStyle plainStyle()
     ChapterStyle style;
     style.fonts = defaultFontSettings();
     style.rtf.mainFont = u"굴림"_s;
-    style.divideHebrew = [](const QString& stored, const QString&, int) { return stored; };
+    style.divideHebrew = [](const QString& stored, const QString&, int, const VerseHead&) {
+        return stored;
+    };
     return style;
 }
 
@@ -54,7 +56,7 @@ TEST(ChapterDocument, HebrewRowsRunFromTheRightInDividedLines)
     style.rtf.fontSize = 5;
     QString font;
     int halfPoints = 0;
-    style.divideHebrew = [&](const QString&, const QString& name, int size) {
+    style.divideHebrew = [&](const QString&, const QString& name, int size, const VerseHead&) {
         font = name;
         halfPoints = size;
         return u"tail\\par head"_s;
@@ -95,7 +97,9 @@ TEST(ChapterDocument, PositionsAreThoseOfTheShownText)
 {
     ChapterStyle style = plainStyle();
     style.languageBar = true;
-    style.divideHebrew = [](const QString&, const QString&, int) { return u"ba\\par dc"_s; };
+    style.divideHebrew = [](const QString&, const QString&, int, const VerseHead&) {
+        return u"ba\\par dc"_s;
+    };
     std::vector<ChapterSource> sources{{0, 101, {}}, {1, 301, {}}, {2, 224, {}}};
     for (int verse = 1; verse <= 12; ++verse) {
         const QString title = verse % 4 == 1 ? u"제목 \\ {가}"_s : QString();

@@ -18,9 +18,9 @@ public:
     explicit FixedBreaker(std::vector<qsizetype> lengths) : m_lengths(std::move(lengths)) {}
 
     std::vector<qsizetype> lineLengths(const QString& text, const QString& fontName,
-                                       double pointSize, int width) override
+                                       double pointSize, int width, int taken) override
     {
-        asked = u"%1|%2|%3|%4"_s.arg(text, fontName).arg(pointSize).arg(width);
+        asked = u"%1|%2|%3|%4"_s.arg(text, fontName).arg(pointSize).arg(width - taken);
         return m_lengths;
     }
 
@@ -73,7 +73,7 @@ protected:
 
 TEST_F(FontLineBreakerTest, LinesCoverTheTextAndEndBehindBlanks)
 {
-    const auto lengths = m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, 16, 2500);
+    const auto lengths = m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, 16, 2500, 0);
     ASSERT_GT(lengths.size(), 2U);
     EXPECT_EQ(std::accumulate(lengths.begin(), lengths.end(), qsizetype(0)), m_text.size());
     qsizetype at = 0;
@@ -82,19 +82,19 @@ TEST_F(FontLineBreakerTest, LinesCoverTheTextAndEndBehindBlanks)
         const QChar last = m_text[at - 1];
         EXPECT_TRUE(last == u' ' || last == u'-') << at;
     }
-    EXPECT_EQ(m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, 16, 2500), lengths);
+    EXPECT_EQ(m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, 16, 2500, 0), lengths);
 }
 
 TEST_F(FontLineBreakerTest, WidthAndSizeDecideAboutTheLines)
 {
     const auto lines = [this](double size, int width) {
-        return m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, size, width).size();
+        return m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, size, width, 0).size();
     };
     EXPECT_EQ(lines(16, 30000), 1U);
     EXPECT_GT(lines(16, 2500), lines(16, 5000));
     EXPECT_GT(lines(24, 5000), lines(12, 5000));
     // A target without room still gives every character a place.
-    const auto narrow = m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, 16, -100);
+    const auto narrow = m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, 16, -100, 0);
     EXPECT_EQ(std::accumulate(narrow.begin(), narrow.end(), qsizetype(0)), m_text.size());
 }
 
