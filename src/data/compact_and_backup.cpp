@@ -72,17 +72,26 @@ bool isSoundText(const QString& path, const FileSystem& files)
     return bytes && !bytes.value().contains('\0');
 }
 
-bool isSound(const QString& path, const UserFile& file, JetEngine& jet, const FileSystem& files)
+enum class Soundness { Sound, Damaged, InUse };
+
+Soundness soundnessOf(const QString& path, const UserFile& file, JetEngine& jet,
+                      const FileSystem& files)
 {
     if (!isDatabase(file))
-        return isSoundText(path, files);
+        return isSoundText(path, files) ? Soundness::Sound : Soundness::Damaged;
     try {
         jet.CheckDatabase(path, file.password.toString());
-        return true;
+        return Soundness::Sound;
     } catch (const JetError& error) {
         qCWarning(dataLog) << "not sound:" << path << error.number() << error.text();
-        return false;
+        const bool inUse = error.number() == ErrorNumber::kAlreadyInUse;
+        return inUse ? Soundness::InUse : Soundness::Damaged;
     }
+}
+
+bool isSound(const QString& path, const UserFile& file, JetEngine& jet, const FileSystem& files)
+{
+    return soundnessOf(path, file, jet, files) == Soundness::Sound;
 }
 
 bool isEmpty(const QString& path, const FileSystem& files)
@@ -165,7 +174,7 @@ std::optional<LostFile> findLostFile(const QString& appPath, const UserFile& fil
         lost.fault = LostFile::Fault::Emptied;
         if (!isDatabase(file) && (!files.FileExists(lastBackup) || isEmpty(lastBackup, files)))
             return std::nullopt;
-    } else if (isSound(path, file, jet, files))
+    } else if (soundnessOf(path, file, jet, files) != Soundness::Damaged)
         return std::nullopt;
     lost.backup = newestSoundBackup(appPath, file, jet, files);
     if (lost.backup.isEmpty() && lost.fault == LostFile::Fault::Gone)

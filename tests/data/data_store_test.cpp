@@ -11,6 +11,7 @@
 #include <QFile>
 
 using namespace Qt::StringLiterals;
+#include <sqlite3.h>
 
 namespace lumen {
 namespace {
@@ -242,6 +243,20 @@ TEST_F(DataStoreTest, DamageNeverReachesTheBackupsHoweverOftenTheProgramEnds)
     closeProgram(user_file::kNotes);
     EXPECT_EQ(notes(backup(u"myc.mdb"_s)), (QStringList{u"첫째"_s, u"둘째"_s}));
     EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"첫째"_s});
+}
+
+TEST_F(DataStoreTest, AFileThatAnotherProgramHoldsIsNotLost)
+{
+    create();
+    addNote(u"첫째"_s);
+    closeProgram(user_file::kNotes);
+    sqlite3* other = nullptr;
+    const QByteArray file = services.folders.data(u"myc.mdb"_s).toUtf8();
+    ASSERT_EQ(sqlite3_open(file.constData(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_FALSE(
+        findLostFile(services.state.AppPath, user_file::kNotes, services.jet, services.files));
+    sqlite3_close(other);
 }
 
 TEST_F(DataStoreTest, TheNewestSoundBackupComesBackAndTheFaultyFileIsKept)

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kBusyMs = 2000;
+constexpr int kBusyMs = 200; // the start and the end of the program wait as long
 
 // A store that is opened to be read as a whole: for writing where possible, so that what a crash
 // left half-written is undone first.
