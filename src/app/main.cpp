@@ -2,7 +2,6 @@
 #include "app/startup.h"
 #include "app/world.h"
 #include "forms/tool_icons.h"
-#include "platform/controls/typing_watch.h"
 #include "platform/log.h"
 
 #include <QApplication>
@@ -18,7 +17,6 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(u"lumenscript"_s);
     QApplication::setWindowIcon(lumen::programIcon());
     lumen::setUpLogging();
-    const lumen::TypingWatch typing(app);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(u"성경 연구 작업대"_s);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "forms/window_opener.h"
+#include "platform/controls/typing_watch.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <memory>
@@ -34,6 +36,7 @@ public:
 private:
     Services& m_services;
     AppState& m_state;
+    TypingWatch m_typing{*QCoreApplication::instance()}; ///< for the boxes of all windows
     frm성서* m_reader = nullptr;
     std::unique_ptr<frm성서검색> m_search;
     std::unique_ptr<frm스트롱관주목록> m_strongList;

@@ -4,12 +4,15 @@
 #include "forms/startup_progress.h"
 #include "platform/controls/twips.h"
 #include "reader/bible_window.h"
+#include "support/active_window.h"
 #include "support/test_services.h"
 #include "support/tiny_data.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QInputMethodEvent>
+#include <QToolBar>
 
 namespace lumen {
 namespace {
@@ -91,6 +94,23 @@ TEST_F(WindowsTest, EachToolRunsItsOwnDialog)
         click(row.tool);
         EXPECT_EQ(services.modal.shown, QStringList{row.dialog});
     }
+    reader.close();
+}
+
+TEST_F(WindowsTest, ASyllableUnderCompositionStaysInItsBoxBehindATool)
+{
+    showActive(reader);
+    QLineEdit* const box = reader.quickMove->tx즉석이동;
+    box->setFocus();
+    QInputMethodEvent syllable(u"창"_s, {});
+    QCoreApplication::sendEvent(box, &syllable);
+    QToolBar* const bar = reader.findChild<QToolBar*>();
+    ASSERT_NE(bar, nullptr);
+    QWidget* const next = bar->widgetForAction(reader.atbar.tool(u"ID_다음장").action());
+    ASSERT_NE(next, nullptr);
+    QTest::mouseClick(next, Qt::LeftButton);
+    EXPECT_EQ(reader.chapter(), 2);
+    EXPECT_EQ(box->text(), u"창"_s);
     reader.close();
 }
 
