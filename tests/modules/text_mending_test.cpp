@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
+#include "sources/psalm_titles.h"
 #include "sources/text_mending.h"
 
 #include <gtest/gtest.h>
@@ -76,6 +77,49 @@ TEST(Mending, DarbyTitlesAndLettersLeaveTheText)
     EXPECT_EQ(verseAt(version, 18, 119, 9)->miniTitle, u"BETH"_s);
     EXPECT_EQ(wordsAt(version, 18, 120, 1), u"AB. one"_s);
     EXPECT_EQ(wordsAt(version, 22, 38, 9), u"{x} one"_s);
+}
+
+TEST(PsalmTitles, StandApartFromTheVerse)
+{
+    const struct
+    {
+        void (*mend)(VersionText&);
+        int chapter;
+        QString text, part, heading, left;
+    } rows[] = {
+        {PsalmTitles::english,
+         3,
+         u"A Psalm of X, when he fled. One? Two."_s,
+         u"A Psalm of X, when he fled."_s,
+         {},
+         u"One? Two."_s},
+        {PsalmTitles::english,
+         18,
+         u"To the Overseer. -- By a servant, and he saith: -- One."_s,
+         u"To the Overseer. -- By a servant, and he saith:"_s,
+         {},
+         u"One."_s},
+        {PsalmTitles::english, 33, u"A Psalm of one. Two."_s, {}, {}, u"A Psalm of one. Two."_s},
+        {PsalmTitles::english, 98, u"One. A Psalm."_s, {}, {}, u"One. A Psalm."_s},
+        {PsalmTitles::english, 119, u"[Aleph.] One."_s, {}, u"Aleph"_s, u"One."_s},
+        {PsalmTitles::english, 119, u"ALEPH. One."_s, {}, u"ALEPH"_s, u"One."_s},
+        {PsalmTitles::spanish,
+         3,
+         u"Salmo de X. ¡OH uno! dos."_s,
+         u"Salmo de X."_s,
+         {},
+         u"¡OH uno! dos."_s},
+        {PsalmTitles::spanish, 111, u"Aleluya. UNO dos."_s, {}, {}, u"Aleluya. UNO dos."_s},
+        {PsalmTitles::spanish, 119, u"BETH ¿Uno?"_s, {}, u"BETH"_s, u"¿Uno?"_s},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text.toStdString());
+        VersionText version{{verse(18, row.chapter, 1, row.text)}, {}};
+        row.mend(version);
+        EXPECT_EQ(wordsAt(version, 18, row.chapter, 1), row.left);
+        EXPECT_EQ(verseAt(version, 18, row.chapter, 1)->part.value_or(QString()), row.part);
+        EXPECT_EQ(verseAt(version, 18, row.chapter, 1)->miniTitle, row.heading);
+    }
 }
 
 TEST(Mending, WebsterFollowsTheNumbersInItsText)
