@@ -104,6 +104,20 @@ QString hintOf(const Recipe& recipe)
     return u"데비안 패키지 %1이 없습니다."_s.arg(recipe.package);
 }
 
+// The King James text of the SWORD package has words cut in two that the tagged copy has whole.
+void setWitness(ModuleTask& task, const SourceFolders& folders)
+{
+    const ModuleSource witness{SourceFormat::Osis, {folders.bibledit + u"/sources/kjv.xml"_s}, {}};
+    task.reader = [source = task.source, witness] {
+        VersionResult text = readSource(source);
+        if (!text || !sourceIsThere(witness))
+            return text;
+        if (const auto whole = readSource(witness))
+            Mending::joinCutWords(text.value(), whole.value());
+        return text;
+    };
+}
+
 void setRenumbering(ModuleTask& task, const SourceFolders& folders)
 {
     QString own;
@@ -152,6 +166,8 @@ std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering
         task.licence = recipe.licence.toString();
         task.hint = hintOf(recipe);
         task.isWhole = true;
+        if (task.code == 201)
+            setWitness(task, folders);
         if (renumbering == Renumbering::English)
             setRenumbering(task, folders);
         if (recipe.mend == Mending::douay) // which gives them the chapters of the Hebrew text

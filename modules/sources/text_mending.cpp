@@ -5,6 +5,7 @@
 #include "sources/psalm_titles.h"
 #include "sources/text_cleaning.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -238,6 +239,33 @@ int mendDouayPsalms(VersionText& version)
     return moved;
 }
 
+// The words of a text in small letters, each as often as it comes.
+QHash<QString, int> countedWords(const QString& text)
+{
+    static const QRegularExpression word(u"[A-Za-z]+"_s);
+    QHash<QString, int> counts;
+    for (const auto& match : word.globalMatch(text))
+        ++counts[match.captured().toLower()];
+    return counts;
+}
+
+void joinAsIn(QString& text, const QString& whole)
+{
+    static const QRegularExpression pair(u"\\b([A-Za-z]+) (?=([a-z]+)\\b)"_s);
+    const QHash<QString, int> own = countedWords(text);
+    const QHash<QString, int> wanted = countedWords(whole);
+    qsizetype at = 0;
+    for (;;) {
+        const auto match = pair.match(text, at);
+        if (!match.hasMatch())
+            return;
+        const QString joined = (match.captured(1) + match.captured(2)).toLower();
+        at = match.capturedEnd();
+        if (wanted.value(joined) > own.value(joined))
+            text.remove(--at, 1);
+    }
+}
+
 template <typename Change>
 int changeTexts(VersionText& version, Change change)
 {
@@ -311,6 +339,18 @@ void kjvWithNumbers(VersionText& version)
             verse.part->replace(dash, u"-"_s);
     });
     remark(version, u"잘못 바뀐 낱말과 이름의 줄표를 바로잡았습니다"_s, changed);
+}
+
+void joinCutWords(VersionText& version, const VersionText& witness)
+{
+    QHash<QString, QString> wholeTexts;
+    for (const VerseText& verse : witness.verses)
+        if (verse.text)
+            wholeTexts.insert(shortReference(verse), *verse.text);
+    const int changed = changeTexts(version, [&wholeTexts](VerseText& verse) {
+        joinAsIn(*verse.text, wholeTexts.value(shortReference(verse)));
+    });
+    remark(version, u"갈라진 낱말을 이었습니다"_s, changed);
 }
 
 void darby(VersionText& version)

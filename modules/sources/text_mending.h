@@ -25,6 +25,10 @@ void asv(VersionText& version);
 /// in names ("Beth–el") where the other text has hyphens.
 void kjvWithNumbers(VersionText& version);
 
+/// Joins words that a copy has cut ("bold ly") where `witness`, another copy of the same text, has
+/// them whole in the same verse.
+void joinCutWords(VersionText& version, const VersionText& witness);
+
 /// Titles of Psalms in braces become parts, the letters of Psalm 119 headings, and asterisks around
 /// stressed words are dropped.
 void darby(VersionText& version);

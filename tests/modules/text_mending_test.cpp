@@ -79,6 +79,17 @@ TEST(Mending, DarbyTitlesAndLettersLeaveTheText)
     EXPECT_EQ(wordsAt(version, 22, 38, 9), u"{x} one"_s);
 }
 
+TEST(Mending, CutWordsAreJoinedAsTheOtherCopyHasThem)
+{
+    VersionText version{{verse(0, 1, 1, u"Bold ly he can not. There in the"_s),
+                         verse(0, 1, 2, u"who soever, where in"_s)},
+                        {}};
+    const VersionText witness{{verse(0, 1, 1, u"Boldly<1> he cannot<2>. There in the"_s)}, {}};
+    Mending::joinCutWords(version, witness);
+    EXPECT_EQ(wordsAt(version, 0, 1, 1), u"Boldly he cannot. There in the"_s);
+    EXPECT_EQ(wordsAt(version, 0, 1, 2), u"who soever, where in"_s);
+}
+
 TEST(PsalmTitles, StandApartFromTheVerse)
 {
     const struct
