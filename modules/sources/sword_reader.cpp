@@ -12,6 +12,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -136,6 +137,16 @@ Result<SwordConf> readConf(const sword::SWModule& module, const QString& confFil
     conf.layout.blockLetter = *block;
     conf.layout.enciphered = !moduleValue(module, "CipherKey").isEmpty();
     return conf;
+}
+
+// The library's plain text keeps notes in brackets amid the words. GBF tells its signs apart by
+// large and small letters.
+QByteArray withoutNotes(const QByteArray& entry)
+{
+    static const QRegularExpression note(
+        uR"((?i:<note\b(?:[^>]*/>|[^>]*>.*?</note\s*>))|<RF[^>]*>.*?<Rf>|<RX[^>]*>.*?<Rx>)"_s,
+        QRegularExpression::DotMatchesEverythingOption);
+    return QString::fromUtf8(entry).remove(note).toUtf8();
 }
 
 // Walks over a module from its first entry to its last and makes verses of them.
@@ -334,7 +345,8 @@ void SwordWalk::visitVerse(const sword::VerseKey& key, const QByteArray& entry)
             scanMarkup(QString::fromUtf8(entry), m_collector);
         m_collector.takeVerse(verse);
     } else if (!linked) {
-        verse.text = textOrNothing(QString::fromUtf8(m_module.stripText()));
+        const QByteArray words = m_conf.markup == Markup::Other ? withoutNotes(entry) : entry;
+        verse.text = textOrNothing(QString::fromUtf8(m_module.stripText(words.constData())));
     }
     if (verse.text)
         m_chaptersWithText.insert({verse.book, verse.chapter});

@@ -118,14 +118,27 @@ TEST_F(SwordReaderTest, ReadsTextTitlesAndLinks)
     EXPECT_EQ(wordsAt(version.value(), 0, 1, 1), u"<no row>"_s);
 }
 
-TEST_F(SwordReaderTest, TakesThePlainTextOfOtherMarkup)
+TEST_F(SwordReaderTest, TakesTheWordsOfOtherMarkupWithoutNotes)
 {
-    const SwordModule source = make(u"Thml"_s, "SourceType=ThML\n");
-    set("John 3:16", "<font color=\"red\">one</font> <b>two</b> &amp; three");
-    module.reset();
-    const auto version = readSwordModule(source);
-    ASSERT_TRUE(version.ok());
-    EXPECT_EQ(wordsAt(version.value(), 42, 3, 16), u"one two & three"_s);
+    const struct
+    {
+        QString name;
+        QByteArray conf, entry;
+    } rows[] = {
+        {u"Thml"_s, "SourceType=ThML\n",
+         "<font color=\"red\">one</font><note place=\"foot\">or\nten</note> <b>two</b> &amp; "
+         "three"},
+        {u"Gbf"_s, "SourceType=GBF\n", "one<RF>or ten<Rf> <FI>two<Fi><RX 1.1.1>a<Rx> & three"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name.toStdString());
+        const SwordModule source = make(row.name, row.conf);
+        set("John 3:16", row.entry.constData());
+        module.reset();
+        const auto version = readSwordModule(source);
+        ASSERT_TRUE(version.ok()) << version.failure().detail.toStdString();
+        EXPECT_EQ(wordsAt(version.value(), 42, 3, 16), u"one two & three"_s);
+    }
 }
 
 TEST_F(SwordReaderTest, TellsAbsentLockedAndEmptyModulesApart)
