@@ -42,6 +42,14 @@ QVariant text(const QString& value)
     return value.isNull() ? QVariant(u""_s) : QVariant(value);
 }
 
+// Windows set the piece before a verse directly in front of its words.
+QVariant partOf(const VerseText& verse)
+{
+    if (!verse.part)
+        return {};
+    return verse.part->endsWith(u' ') ? *verse.part : *verse.part + u' ';
+}
+
 QVariant orNull(const QString& value)
 {
     return value.isEmpty() ? QVariant() : QVariant(value);
@@ -53,7 +61,7 @@ QVariantList versionRow(const VerseText& verse)
             BibleCode::GetChapKey(verse.book, verse.chapter),
             verse.verse,
             verse.text ? QVariant(DES::ScrambleField(*verse.text)) : QVariant(),
-            verse.part ? QVariant(*verse.part) : QVariant(),
+            partOf(verse),
             text(verse.miniTitle),
             testament(verse.book),
             orNull(bookGroup(verse.book))};

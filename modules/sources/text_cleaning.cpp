@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "sources/text_cleaning.h"
 
+#include <algorithm>
+#include <array>
+
 namespace lumen {
 
 using namespace Qt::StringLiterals;
@@ -84,6 +87,25 @@ std::optional<QString> textOrNothing(QStringView text)
 {
     QString tidy = tidyText(text);
     return tidy.isEmpty() ? std::nullopt : std::optional<QString>(std::move(tidy));
+}
+
+bool isNoBibleText(QStringView text)
+{
+    static constexpr std::array<QStringView, 7> kPlaceholders{
+        u"not available", u"n a",     u"verse not available", u"text not available",
+        u"no text",       u"omitted", u"verse omitted"};
+    // Longer ones are the words of a verse.
+    constexpr qsizetype kLongest = 24;
+    QString words;
+    bool hasLetter = false;
+    for (const QChar c : text) {
+        hasLetter = hasLetter || c.isLetterOrNumber() || c.isSurrogate();
+        if (hasLetter && text.size() > kLongest)
+            return false;
+        words += c.isLetterOrNumber() ? c.toLower() : u' ';
+    }
+    const QString plain = words.simplified();
+    return !hasLetter || std::ranges::find(kPlaceholders, plain) != kPlaceholders.end();
 }
 
 QString divineCapitals(const QString& name)

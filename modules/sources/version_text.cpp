@@ -2,6 +2,7 @@
 #include "sources/version_text.h"
 
 #include "canon/canon_table.h"
+#include "sources/text_cleaning.h"
 
 #include <QFileInfo>
 
@@ -49,6 +50,22 @@ void settleVerseZero(VersionText& version)
                   [](const VerseText& verse) { return verse.verse == 0 && verse.chapter > 0; });
     if (!dropped.isEmpty())
         version.remarks << u"장의 머리말(0절)을 뺐습니다: %1"_s.arg(dropped.join(u' '));
+}
+
+// The row stays: the verse is one that the version counts.
+void dropPlaceholders(VersionText& version)
+{
+    QStringList places;
+    for (VerseText& verse : version.verses) {
+        if (!verse.text || !isNoBibleText(*verse.text))
+            continue;
+        verse.text.reset();
+        places
+            << u"%1%2:%3"_s.arg(bookAbbreviation(verse.book)).arg(verse.chapter).arg(verse.verse);
+    }
+    if (!places.isEmpty())
+        version.remarks << u"본문이 아닌 말을 뺐습니다 (%1절): %2"_s.arg(places.size())
+                               .arg(places.mid(0, kShownPlaces).join(u' '));
 }
 
 bool inCanon(const VerseText& verse)
@@ -134,6 +151,7 @@ void arrangeVerses(VersionText& version)
 {
     settleVerseZero(version);
     dropOutsideCanon(version);
+    dropPlaceholders(version);
     auto& verses = version.verses;
     std::stable_sort(verses.begin(), verses.end(), [](const VerseText& a, const VerseText& b) {
         return placeOf(a) < placeOf(b);

@@ -102,7 +102,7 @@ TEST(DebianSources, HaveTheirVersesTitlesAndLetters)
         {201, 31102, 116, 22, u"<>{}\\¶|_="},
         {202, 31102, 116, 22, u"{}\\¶|_=–"},
         {213, 31098, 116, 22, u"<>{}\\¶|_="},
-        {223, 31084, 0, 0, u"<>{}\\¶|_="},
+        {223, 31084, 116, 22, u"<>{}\\¶|_="},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.code);
@@ -209,7 +209,7 @@ TEST(NpmSources, HaveTheirVersesAfterMending)
     };
     const Row rows[] = {
         {205, 31102, 31102, 0, u"<>{}\\|[]"}, {209, 31102, 31102, 0, u"<>{}\\|`"},
-        {210, 31102, 31102, 6, u"<>{}\\|*`"}, {212, 31098, 31098, 4, u"<>{}\\|+`"},
+        {210, 31102, 31099, 6, u"<>{}\\|*`"}, {212, 31098, 31098, 4, u"<>{}\\|+`"},
         {216, 31139, 31086, 65, u"<{}\\|`"},
     };
     if (!sourceIsThere(installed(205).task.source) || !sourceIsThere(installed(216).task.source))

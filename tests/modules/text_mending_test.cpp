@@ -212,6 +212,18 @@ TEST(Mending, RomansDoxologyMovesToItsKeys)
     EXPECT_EQ(wordsAt(version, 45, 14, 24), u"d"_s);
 }
 
+TEST(ArrangeVerses, PlaceholdersAreNoText)
+{
+    VersionText version{{verse(0, 1, 1, u"Not available"_s), verse(0, 1, 2, u"[-]"_s),
+                         verse(0, 1, 3, u"Not available to him."_s), verse(0, 1, 4, u"\u5B50"_s)},
+                        {}};
+    arrangeVerses(version);
+    EXPECT_EQ(wordsAt(version, 0, 1, 1), u"<no words>"_s);
+    EXPECT_EQ(wordsAt(version, 0, 1, 2), u"<no words>"_s);
+    EXPECT_EQ(wordsAt(version, 0, 1, 3), u"Not available to him."_s);
+    EXPECT_EQ(wordsAt(version, 0, 1, 4), u"\u5B50"_s);
+}
+
 TEST(ArrangeVerses, SortsJoinsAndDropsWhatTheCanonDoesNotKnow)
 {
     VersionText version{{verse(0, 2, 1, u"c"_s), verse(0, 1, 1, u"a"_s), verse(26, 13, 1, u"x"_s),

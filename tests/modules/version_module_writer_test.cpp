@@ -34,7 +34,7 @@ TEST(VersionModuleWriter, FillsEveryColumn)
               "from [나의 역본]"_s);
     ASSERT_EQ(rows.size(), 3U);
     // The words are scrambled, what stands before and above them is not.
-    EXPECT_EQ(rows[0], (QVariantList{u"01창:001:001"_s, u"창01"_s, 1, u"\"# 치푸"_s, u"앞글"_s,
+    EXPECT_EQ(rows[0], (QVariantList{u"01창:001:001"_s, u"창01"_s, 1, u"\"# 치푸"_s, u"앞글 "_s,
                                      u"소제목"_s, u"구"_s, u"모"_s, 1}));
     EXPECT_EQ(rows[1], (QVariantList{u"19시:119:105"_s, u"시119"_s, 105, QVariant(), QVariant(),
                                      u""_s, u"구"_s, u"시"_s, 2}));

@@ -80,7 +80,7 @@ TEST_F(ReferenceModules, AnalysisHasARowForEachKind)
                            u"3056|2532|-|-|-"_s,
                            u"logoj|kai|-|-|-"_s,
                            u"word|And|-|-|-"_s,
-                           u"-|그리고|-|-|-"_s,
+                           u"말씀|그리고|-|-|-"_s,
                            u"lo3goj|-|-|-|-"_s,
                            u"$nnms|$qo|-|-|-"_s}));
 }
@@ -129,7 +129,7 @@ TEST_F(ReferenceModules, DictionariesTakeWhatTheSourcesTell)
                            u"d45g|gad|가드|동사(아람어)|from H9;|-|run.|-|-"_s,
                            u"b4a|ab|압|남성명사 / 여성명사|-|4a, 5|-|-|a one"_s}));
     EXPECT_EQ(rows(u"StrongDicG"_s, columns.arg(u"TDNT"_s)),
-              QStringList{u"lo3goj|log|로고스|남성명사|from G3004;|-|word.|-|a saying"_s});
+              QStringList{u"lo3goj|log|로고스|남성명사|from G3004;|-|word.|말씀, 말|a saying"_s});
 }
 
 TEST_F(ReferenceModules, AreLeftAloneUntilASourceChanges)
