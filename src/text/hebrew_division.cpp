@@ -2,7 +2,6 @@
 #include "text/hebrew_division.h"
 
 #include <QFont>
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTextLayout>
@@ -24,6 +23,33 @@ double screenPixelsPerTwip()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return (screen ? screen->logicalDotsPerInchX() : kUsualDpi) / kTwipsPerInch;
+}
+
+// As a layout counts it: a sign that hangs over its place belongs to it.
+double drawnWidth(const QString& text, const QFont& font)
+{
+    constexpr double kEndless = 1e6;
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(kEndless);
+    layout.endLayout();
+    return line.naturalTextWidth();
+}
+
+// Lays one line out so that it fits the room as it will be drawn: turned round, where the blank at
+// the cut begins the line and takes room, and where neighbouring signs may stand wider.
+void fitLine(QTextLine& line, const QString& text, const QFont& font, double room)
+{
+    double width = room;
+    for (;;) {
+        line.setLineWidth(std::max(1.0, width));
+        QString drawn = text.sliced(line.textStart(), line.textLength());
+        std::reverse(drawn.begin(), drawn.end());
+        if (drawn.size() <= 1 || width <= 1 || drawnWidth(drawn, font) <= room)
+            return;
+        width = std::min(width, line.naturalTextWidth()) - 1;
+    }
 }
 
 } // namespace
@@ -48,15 +74,13 @@ std::vector<qsizetype> FontLineBreaker::lineLengths(const QString& text, const Q
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(Qt::LeftToRight);
     layout.setTextOption(option);
-    // The blank at a cut ends the line here and takes no room; in display order it begins the line.
-    const double blank = QFontMetricsF(font).horizontalAdvance(u' ');
-    double room = (width - taken) * m_pixelsPerTwip - blank;
+    double room = (width - taken) * m_pixelsPerTwip;
     std::vector<qsizetype> lengths;
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(std::max(1.0, room));
+        fitLine(line, text, font, room);
         lengths.push_back(line.textLength());
-        room = width * m_pixelsPerTwip - blank;
+        room = width * m_pixelsPerTwip;
     }
     layout.endLayout();
     m_cache.insert(key, new std::vector<qsizetype>(lengths));
