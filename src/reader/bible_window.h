@@ -160,6 +160,8 @@ private:
     void runEdit(EditCommand command);
 
     void fillChapter();
+    void clearChapter();
+    void tellUnreadVersions();
     int verseToKeep() const;
     void keepVerse(int verse);
     ChapterStyle chapterStyle();
@@ -190,6 +192,7 @@ private:
     bool m_fillWanted = false;
     int m_placeHolds = 0;
     bool m_placeWanted = false;
+    QStringList m_unreadTold; // what the user knows of versions that can't be read
     ShownChapter m_shown;
     bool m_shownOnce = false;
     bool m_isMinimized = false;

@@ -184,8 +184,34 @@ void frm성서::FillBibleText()
         return;
     }
     m_fillWanted = false;
-    if (guarded(m_services, this, [this] { fillChapter(); }))
-        placeChanged();
+    if (!guarded(m_services, this, [this] { fillChapter(); }))
+        clearChapter();
+    placeChanged();
+    tellUnreadVersions();
+}
+
+void frm성서::clearChapter()
+{
+    // A text that stays from before would stand under another place.
+    m_chapter.clear();
+    m_shown = {};
+    m_textView.show({});
+    m_tableView.clear();
+}
+
+void frm성서::tellUnreadVersions()
+{
+    QStringList unread;
+    QStringList problems;
+    for (const ChapterSource& source : m_chapter) {
+        if (source.problem.isEmpty())
+            continue;
+        unread << m_slots(source.slot).table;
+        problems << unread.last() + u": "_s + source.problem;
+    }
+    // Once for as long as the same modules fail, not with each chapter.
+    if (std::exchange(m_unreadTold, unread) != unread && !unread.isEmpty())
+        m_services.messages.show(this, messages::kVersionUnread, {problems.join(u"\r\n"_s)});
 }
 
 void frm성서::fillChapter()

@@ -28,6 +28,8 @@ struct ChapterSource
     int slot = 0;
     int code = 0;
     std::vector<ChapterVerse> verses;
+    /// Why the module could not be read, "" when it could; there are no verses then.
+    QString problem = {};
 };
 
 /// What stands in front of a verse in its first line: number and separator, then the part.

@@ -27,6 +27,13 @@ inline constexpr MessageText kDeleteNote{u"삭제 확인", u"현재의 개인 �
 inline constexpr MessageText kBookmarksNotSaved{
     u"책갈피 저장 실패", u"책갈피를 저장할 수 없습니다. 저장할 디스크를 확인하시기 바랍니다.", 48};
 
+/// %1 are the versions with the reason, a line each.
+inline constexpr MessageText kVersionUnread{
+    u"역본 읽기 실패",
+    u"다음 역본은 읽을 수 없어 비워 둡니다. 모듈 파일을 다시 만들거나 설치하시기 "
+    u"바랍니다.\r\n%1",
+    48};
+
 /// %1 are the files with the reason.
 inline constexpr MessageText kNotStored{
     u"저장 실패", u"다음 파일을 쓰지 못했습니다. 전에 저장된 것은 그대로 있습니다.\r\n%1", 48};

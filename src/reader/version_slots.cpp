@@ -4,6 +4,7 @@
 #include "data/chapter_reader.h"
 #include "data/data_store.h"
 #include "forms/services.h"
+#include "platform/jet/jet_error.h"
 
 #include <algorithm>
 
@@ -74,13 +75,24 @@ std::vector<ChapterSource> VersionSlots::readChapter(int book, int chapter, Docu
         VersionSlot& slot = (*this)(number);
         if (!slot.isOpen())
             continue;
-        const QList<VerseRow> rows = readVerses(slot.control, slot.control.DatabaseName,
-                                                query(slot.table, book, chapter, number));
-        sources.push_back(plainSource(number, slot.code, rows));
-        if (number == 0 && rows.isEmpty())
+        sources.push_back(readSource(slot, number, query(slot.table, book, chapter, number)));
+        if (number == 0 && sources.back().verses.empty())
             break;
     }
     return sources;
+}
+
+ChapterSource VersionSlots::readSource(VersionSlot& slot, int number, const QString& query)
+{
+    try {
+        const QList<VerseRow> rows = readVerses(slot.control, slot.control.DatabaseName, query);
+        return plainSource(number, slot.code, rows);
+    } catch (const JetError& error) {
+        // One damaged module must not take the others from the reader, nor leave its former chapter
+        // standing under the new place.
+        slot.control.Close();
+        return {number, slot.code, {}, error.text()};
+    }
 }
 
 int VersionSlots::baseRecordCount() const

@@ -60,6 +60,8 @@ public:
     void close();
 
 private:
+    static ChapterSource readSource(VersionSlot& slot, int number, const QString& query);
+
     Services& m_services;
     const AppState& m_state;
     std::array<std::unique_ptr<VersionSlot>, kSlotCount> m_slots;

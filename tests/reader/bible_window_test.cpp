@@ -213,6 +213,43 @@ TEST_F(BibleWindowTest, ABaseVersionWithoutTheBookEmptiesTheViews)
     EXPECT_EQ(reader->hflex본문->Rows(), 6);
 }
 
+TEST_F(BibleWindowTest, AVersionThatCannotBeReadIsEmptyWithItsReasonBesideTheOthers)
+{
+    start();
+    pickVersion(u"ID_cb대역본1", 201);
+    click(u"ID_테이블형식");
+    const QString module = services.folders.data(u"201.dts"_s);
+    const auto damage = [&module] {
+        // As a disc that gives other bytes back at the next start.
+        QFile file(module);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.write(QByteArray(static_cast<qsizetype>(file.size()), 'x'));
+    };
+    const auto expectUnread = [this, &module] {
+        services.messages.expect(
+            u"역본 읽기 실패"_s,
+            u"다음 역본은 읽을 수 없어 비워 둡니다. 모듈 파일을 다시 만들거나 "
+            "설치하시기 바랍니다.\r\nKJV: 알 수 없는 형식이거나 손상된 데이터베이스입니다.\n"_s +
+                module,
+            48);
+    };
+    close();
+    damage();
+    expectUnread();
+    start();
+    FlexGrid& grid = *reader->hflex본문;
+    quickMove(u"요 3:2"_s); // told once
+    EXPECT_EQ(place(), u"요한복음 3장 2절"_s);
+    EXPECT_EQ(grid.TextMatrix(2, 2), TinyData::text(101, 42, 3, 2));
+    EXPECT_EQ(grid.TextMatrix(2, 3), QString()) << "not the verse of the chapter before";
+    pickVersion(u"ID_cb대역본1", 0);
+    expectUnread();
+    pickVersion(u"ID_cb기본버전", 201);
+    EXPECT_EQ(grid.Rows(), 1);
+    pickVersion(u"ID_cb기본버전", 101);
+    EXPECT_EQ(grid.TextMatrix(1, 2), TinyData::text(101, 42, 3, 1));
+}
+
 TEST_F(BibleWindowTest, HebrewLinesAppearOnceTheWindowIsShown)
 {
     start();
