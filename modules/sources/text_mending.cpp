@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -154,10 +155,10 @@ constexpr std::array kDouayMoves{
     VerseMove{4, 26, 9, 20, 8},    VerseMove{5, 2, 11, 26, 9},    VerseMove{5, 18, 4, 21, 3},
     VerseMove{5, 18, 23, 29, 22},  VerseMove{6, 2, 29, 29, 23},   VerseMove{6, 6, 3, 10, 2},
     VerseMove{6, 6, 12, 41, 11},   VerseMove{9, 5, 3, 10, 2},     VerseMove{9, 5, 12, 26, 11},
-    VerseMove{10, 6, 26, 26, 25},  VerseMove{10, 6, 28, 40, 26},  VerseMove{13, 4, 3, 23, 2},
-    VerseMove{13, 30, 3, 28, 2},   VerseMove{22, 22, 26, 26, 25}, VerseMove{23, 21, 14, 15, 13},
-    VerseMove{23, 31, 33, 33, 32}, VerseMove{23, 31, 35, 42, 33}, VerseMove{25, 43, 10, 28, 9},
-    VerseMove{32, 6, 6, 6, 5},     VerseMove{32, 6, 8, 18, 6},
+    VerseMove{10, 6, 26, 26, 25},  VerseMove{10, 6, 28, 40, 26},  VerseMove{12, 21, 10, 31, 9},
+    VerseMove{13, 4, 3, 23, 2},    VerseMove{13, 30, 3, 28, 2},   VerseMove{22, 22, 26, 26, 25},
+    VerseMove{23, 21, 14, 15, 13}, VerseMove{23, 31, 33, 33, 32}, VerseMove{23, 31, 35, 42, 33},
+    VerseMove{25, 43, 10, 28, 9},  VerseMove{32, 6, 6, 6, 5},     VerseMove{32, 6, 8, 18, 6},
 };
 
 bool isMovedDouayChapter(const VerseText& verse)
@@ -263,6 +264,36 @@ void joinAsIn(QString& text, const QString& whole)
         at = match.capturedEnd();
         if (wanted.value(joined) > own.value(joined))
             text.remove(--at, 1);
+    }
+}
+
+QSet<QString> wordsOf(const VersionText& version)
+{
+    static const QRegularExpression word(u"[A-Za-z]+(?:-[A-Za-z]+)*"_s);
+    QSet<QString> words;
+    for (const VerseText& verse : version.verses)
+        for (const auto& match : word.globalMatch(verse.text.value_or(QString())))
+            words.insert(match.captured().toLower());
+    return words;
+}
+
+// A hyphen and a blank are left of a word that a printed line divided; that it is one shows where
+// the text has it whole, without the hyphen or with it.
+void joinDividedWords(QString& text, const QSet<QString>& words)
+{
+    static const QRegularExpression divided(u"\\b([A-Za-z]+)- ([a-z]+)\\b"_s);
+    qsizetype at = 0;
+    for (;;) {
+        const auto match = divided.match(text, at);
+        if (!match.hasMatch())
+            return;
+        const QString first = match.captured(1);
+        const QString second = match.captured(2);
+        at = match.capturedStart(2);
+        if (words.contains((first + second).toLower()))
+            text.remove(at - 2, 2);
+        else if (words.contains((first + u'-' + second).toLower()))
+            text.remove(at - 1, 1);
     }
 }
 
@@ -385,13 +416,15 @@ void douay(VersionText& version)
     static const QRegularExpression lineEnd(uR"(\s*\\$)"_s);
     static const QRegularExpression noteLetter(uR"(^[a-z]\s+(?=[A-Z]))"_s);
     QStringList stray;
-    const int changed = changeTexts(version, [&stray](VerseText& verse) {
+    const QSet<QString> words = wordsOf(version);
+    const int changed = changeTexts(version, [&stray, &words](VerseText& verse) {
         if (*verse.text == kDouayFiller) {
             verse.text.reset();
             return;
         }
         verse.text->remove(lineEnd);
         verse.text->remove(noteLetter);
+        joinDividedWords(*verse.text, words);
         static const QRegularExpression odd(uR"([/<>\\|])"_s);
         if (verse.text->contains(odd))
             stray << shortReference(verse);
