@@ -121,11 +121,16 @@ void PersonalNotesTab::enter()
 
 void PersonalNotesTab::showPlace()
 {
+    tellingOnce([this] { Proc개인주석표시(); });
+}
+
+void PersonalNotesTab::tellingOnce(const std::function<void()>& work)
+{
     try {
-        Proc개인주석표시();
+        work();
         m_told.clear();
     } catch (const JetError& error) {
-        // The same cause at every step through the text is told once.
+        // The same cause at every step through the text, or pause in typing, is told once.
         if (error.text() == m_told)
             return;
         m_told = error.text();
@@ -246,7 +251,7 @@ void PersonalNotesTab::textChanged()
 void PersonalNotesTab::saveInBetween()
 {
     // A power cut may take what was typed last, no more.
-    guarded(m_services, m_page, [this] { Proc개인주석저장(); });
+    guarded(m_services, m_page, [this] { tellingOnce([this] { Proc개인주석저장(); }); });
 }
 
 void PersonalNotesTab::cmd개인주석삭제_Click()

@@ -59,6 +59,7 @@ private:
     void wire();
     void enableControls(bool enabled);
     bool showsReadersChapter() const;
+    void tellingOnce(const std::function<void()>& work);
     void fillGrid();
     void showGridRow(int row);
     void rowChanged();
@@ -74,7 +75,8 @@ private:
     NoteList m_list;
     std::vector<Note> m_stored; ///< what the table holds for m_chapter
     QString m_chapter;          ///< that the list was filled with, "" before the first fill
-    QString m_told;             ///< why the last place could not be shown, "" when it could
+    QString
+        m_told; ///< why the last place was not shown, or notes not stored; "" when all went well
     bool m_showing = false;
     QTimer* m_typingPause = nullptr; ///< owned by the page
 };

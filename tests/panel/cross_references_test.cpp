@@ -182,13 +182,6 @@ TEST_F(CrossReferencesTest, TheSameVerseIsNotReadAgain)
     EXPECT_EQ(dacRefTab.RecordSource, u"another tab was here"_s);
 }
 
-TEST_F(CrossReferencesTest, CollapsedNothingIsRead)
-{
-    goTo(1);
-    EXPECT_EQ(shown(), QStringList());
-    EXPECT_EQ(dacRefTab.Recordset(), nullptr);
-}
-
 TEST_F(CrossReferencesTest, HebrewIsDividedToTheWidthOfTheBoxAndStandsAtTheRight)
 {
     stand(301, u"BHS"_s);

@@ -86,17 +86,6 @@ protected:
     ReferencePanel panel{world.services};
 };
 
-TEST_F(ReferencePanelTest, TabsStandInTheirOrder)
-{
-    QStringList captions;
-    for (int tab = 0; tab < panel.sst관주사전->count(); ++tab)
-        captions << panel.sst관주사전->tabText(tab);
-    EXPECT_EQ(captions.join(u' '),
-              u"관주 성경사전 성구사전 영한영사전 메튜헨리주석 웨슬리주석 개인주석 "
-              "원전분해 유틸리티 찬송가"_s);
-    EXPECT_EQ(panel.sst관주사전->objectName(), u"sst관주사전"_s);
-}
-
 TEST_F(ReferencePanelTest, CollapsedATabClickLoadsNothing)
 {
     clickHeader(u"개인주석");

@@ -138,20 +138,35 @@ TEST_F(ReferenceTabsTest, AJumpToAnotherChapterAsksTheOpenTabOnce)
     reader->goTo(kGenesis, 1, 2);
 }
 
-TEST_F(ReferenceTabsTest, ANoteThatCannotBeStoredKeepsTheWindowOpenUntilItCan)
+TEST_F(ReferenceTabsTest, ANoteIsStoredAtMinimisingElseLaterAndKeepsTheWindowOpenUntilItIs)
 {
     open(u"개인주석");
     control<QPushButton>(u"cmd개인주석추가"_s).click();
     control<QPlainTextEdit>(u"tx개인주석본문"_s).insertPlainText(u"글"_s);
     const auto notes = services.jet.OpenDatabase(services.state.AppPath + u"\\Data\\myc.mdb"_s);
-    for (int attempt = 0; attempt < 2; ++attempt) {
-        notes->BeginTrans(); // another one holds the file
+    const auto count = [&] { return notes->OpenRecordset(u"select * from myc"_s)->RecordCount(); };
+    const auto failToSave = [&] {
+        notes->BeginTrans(); // the save can't begin its own
         services.messages.expect(u"Lumenscript"_s, u"인수가 올바르지 않습니다.\nBeginTrans"_s, 16);
+    };
+    failToSave();
+    reader->setWindowState(Qt::WindowMinimized);
+    services.messages.verify();
+    EXPECT_EQ(count(), 0);
+    reader->setWindowState(Qt::WindowNoState);
+    EXPECT_EQ(count(), 1);
+
+    control<QPlainTextEdit>(u"tx개인주석본문"_s).clear();
+    reader->setWindowState(Qt::WindowMinimized);
+    EXPECT_EQ(count(), 0);
+    control<QPlainTextEdit>(u"tx개인주석본문"_s).insertPlainText(u"글"_s);
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        failToSave();
         EXPECT_FALSE(reader->close());
         EXPECT_TRUE(reader->isVisible());
         services.messages.verify();
     }
-    EXPECT_EQ(notes->OpenRecordset(u"select * from myc"_s)->RecordCount(), 0);
+    EXPECT_EQ(count(), 0);
     EXPECT_TRUE(reader->close());
     const auto stored = services.jet.OpenDatabase(services.state.AppPath + u"\\Data\\myc.mdb"_s);
     EXPECT_EQ(stored->OpenRecordset(u"select * from myc"_s)->RecordCount(), 1);
