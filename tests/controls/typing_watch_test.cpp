@@ -3,6 +3,7 @@
 #include "support/active_window.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -18,6 +19,26 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Tells when it is about to close or has become another state.
+class EndingWindow : public QWidget
+{
+public:
+    std::function<void()> onEnd;
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        onEnd();
+        QWidget::closeEvent(event);
+    }
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::WindowStateChange && isMinimized())
+            onEnd();
+        QWidget::changeEvent(event);
+    }
+};
+
 /// A window with boxes for a line and for a text, and a button that doesn't take the focus, as
 /// those of the tool bars. "사" is written, "랑" is being composed.
 class TypingWatchTest : public testing::Test
@@ -29,6 +50,7 @@ protected:
         for (QWidget* widget : std::initializer_list<QWidget*>{&line, &text, &button, &other})
             layout->addWidget(widget);
         button.setFocusPolicy(Qt::NoFocus);
+        window.onEnd = [this] { saved = written(); };
         showActive(window);
     }
     ~TypingWatchTest() override
@@ -43,7 +65,10 @@ protected:
         QCoreApplication::sendEvent(&box, &event);
     }
 
-    QWidget window;
+    QString written() const { return line.text() + text.toPlainText(); }
+
+    EndingWindow window;
+    QString saved; ///< what a window would save when it ends
     QLineEdit line;
     QPlainTextEdit text;
     QPushButton button;
@@ -90,10 +115,12 @@ TEST_F(TypingWatchTest, WhateverComesFindsTheSyllableInItsBox)
             QCoreApplication::sendEvent(box, &done);
             compose(*box, u"라"_s);
             compose(*box, u"랑"_s);
+            saved = u"사랑"_s;
             act();
-            EXPECT_EQ(line.text() + text.toPlainText(), u"사랑"_s);
+            EXPECT_EQ(saved, u"사랑"_s);
+            EXPECT_EQ(written(), u"사랑"_s);
             QTest::mouseClick(&other, Qt::LeftButton);
-            EXPECT_EQ(line.text() + text.toPlainText(), u"사랑"_s) << "once";
+            EXPECT_EQ(written(), u"사랑"_s) << "once";
         }
     EXPECT_EQ(other.text(), QString());
 }

@@ -194,6 +194,10 @@ TEST_F(CrossReferencesTest, HebrewIsDividedToTheWidthOfTheBoxAndStandsAtTheRight
     EXPECT_TRUE(whole.trimmed().endsWith(lines.first().trimmed()));
     EXPECT_EQ(tab->tx관주본문->document()->defaultTextOption().alignment(), Qt::AlignRight);
     EXPECT_EQ(tab->tx관주본문->font().family(), u"OrvaneHeb"_s);
+    tab->tx관주본문->setFixedWidth(80);
+    QCoreApplication::processEvents();
+    tab->tx관주본문->onResizeEnded();
+    EXPECT_GT(text().split(u'\n').size(), lines.size());
     stand(101, u"개역한글"_s);
     clickItem(0);
     EXPECT_EQ(tab->tx관주본문->document()->defaultTextOption().alignment(), Qt::AlignLeft);

@@ -47,10 +47,8 @@ protected:
     }
 
     static void click(QWidget* button) { QTest::mouseClick(button, Qt::LeftButton); }
-    /// As the reader does it: notes first, then the place.
     void goTo(int book, int chapter, const QString& range = u"1"_s)
     {
-        panel.leave();
         reader.bookNumber = book;
         reader.chapterNumber = chapter;
         reader.range = range;
