@@ -82,12 +82,16 @@ TEST(Mending, DarbyTitlesAndLettersLeaveTheText)
 TEST(Mending, CutWordsAreJoinedAsTheOtherCopyHasThem)
 {
     VersionText version{{verse(0, 1, 1, u"Bold ly he can not. There in the"_s),
-                         verse(0, 1, 2, u"who soever, where in"_s)},
+                         verse(0, 1, 2, u"who soever, where in"_s),
+                         verse(0, 1, 3, u"in all, inall"_s)},
                         {}};
-    const VersionText witness{{verse(0, 1, 1, u"Boldly<1> he cannot<2>. There in the"_s)}, {}};
+    const VersionText witness{{verse(0, 1, 1, u"Boldly<1> he cannot<2>. There in the"_s),
+                               verse(0, 1, 3, u"in all, inall"_s)},
+                              {}};
     Mending::joinCutWords(version, witness);
     EXPECT_EQ(wordsAt(version, 0, 1, 1), u"Boldly he cannot. There in the"_s);
     EXPECT_EQ(wordsAt(version, 0, 1, 2), u"who soever, where in"_s);
+    EXPECT_EQ(wordsAt(version, 0, 1, 3), u"in all, inall"_s);
 }
 
 TEST(PsalmTitles, StandApartFromTheVerse)
@@ -126,7 +130,9 @@ TEST(PsalmTitles, StandApartFromTheVerse)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text.toStdString());
         VersionText version{{verse(18, row.chapter, 1, row.text)}, {}};
+        version.verses.push_back(verse(18, 3, 2, u"A Psalm of X. ¡OH uno!"_s));
         row.mend(version);
+        EXPECT_EQ(wordsAt(version, 18, 3, 2), u"A Psalm of X. ¡OH uno!"_s);
         EXPECT_EQ(wordsAt(version, 18, row.chapter, 1), row.left);
         EXPECT_EQ(verseAt(version, 18, row.chapter, 1)->part.value_or(QString()), row.part);
         EXPECT_EQ(verseAt(version, 18, row.chapter, 1)->miniTitle, row.heading);
@@ -184,16 +190,16 @@ TEST(Mending, DouayVersesComeBackToTheirNumbers)
 {
     const QString filler = u"dummy verses inserted by amos"_s;
     VersionText version{{verse(0, 17, 25, u"a"_s), verse(0, 17, 26, filler),
-                         verse(0, 17, 27, u"h Abc be- fore, in- all"_s),
-                         verse(0, 17, 28, u"before"_s), verse(5, 2, 10, u"halves"_s),
+                         verse(0, 17, 27, u"h Abc be- fore, in- all, forty- five"_s),
+                         verse(0, 17, 28, u"before forty-five"_s), verse(5, 2, 10, u"halves"_s),
                          verse(5, 2, 11, u"nine"_s), verse(5, 2, 12, u"two"_s),
                          verse(42, 15, 1, u"three"_s), verse(42, 15, 2, filler),
                          verse(42, 15, 3, filler), verse(42, 15, 4, u"four"_s)},
                         {}};
     Mending::douay(version);
     arrangeVerses(version);
-    EXPECT_EQ(wordsAt(version, 0, 17, 26), u"Abc before, in- all"_s);
-    EXPECT_EQ(wordsAt(version, 0, 17, 27), u"before"_s);
+    EXPECT_EQ(wordsAt(version, 0, 17, 26), u"Abc before, in- all, forty-five"_s);
+    EXPECT_EQ(wordsAt(version, 0, 17, 27), u"before forty-five"_s);
     EXPECT_EQ(wordsAt(version, 5, 2, 9), u"nine"_s);
     EXPECT_EQ(wordsAt(version, 5, 2, 10), u"two halves"_s);
     EXPECT_EQ(wordsAt(version, 42, 15, 1), u"<no words>"_s);
