@@ -12,8 +12,13 @@ namespace lumen {
 QString withoutLoneSurrogates(QString text);
 
 /// The literal between the wildcards of a search: the word as the modules store it, then quoted, so
-/// that a character that is stored as a wildcard stands for itself too.
+/// that a character that is stored as a wildcard stands for itself too. A straight quotation mark,
+/// which is all that keyboards have, fits the curved ones of printed texts as well.
 QString searchLiteral(const QString& word);
+
+/// A typed or pasted text as modules hold texts: Hangul in syllables rather than single letters, a
+/// plain blank for a tab, a line end or a wide blank and those that stand beside it.
+QString tidiedSearchText(const QString& typed);
 
 /// "(Cont like '*...*')" for one text; an empty one fits every verse.
 QString easyCriterion(const QString& text);

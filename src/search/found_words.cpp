@@ -6,6 +6,19 @@
 namespace lumen {
 namespace {
 
+// A typed straight mark finds the curved ones too; each is one character, so places stay.
+QString withStraightQuotes(QStringView text)
+{
+    QString result = text.toString();
+    for (QChar& c : result) {
+        if (c == u'\u2018' || c == u'\u2019')
+            c = u'\'';
+        else if (c == u'\u201C' || c == u'\u201D')
+            c = u'"';
+    }
+    return result;
+}
+
 QList<TextRange> joined(QList<TextRange> ranges)
 {
     std::ranges::sort(ranges, {}, &TextRange::start);
@@ -39,9 +52,12 @@ void FoundWords::add(const QStringList& words)
 QList<TextRange> FoundWords::ranges(QStringView text) const
 {
     QList<TextRange> result;
+    const QString straight = withStraightQuotes(text);
     for (const QString& word : m_words) {
+        const bool hasQuotes = word.contains(u'\'') || word.contains(u'"');
+        const QStringView searched = hasQuotes ? QStringView(straight) : text;
         // From the next character, not from behind the hit: "aa" marks all of "aaa".
-        for (qsizetype at = text.indexOf(word); at >= 0; at = text.indexOf(word, at + 1))
+        for (qsizetype at = searched.indexOf(word); at >= 0; at = searched.indexOf(word, at + 1))
             result << TextRange{static_cast<int>(at), static_cast<int>(word.size())};
     }
     return joined(result);

@@ -124,8 +124,17 @@ void frm성서검색::startSearch()
         m_original.ProcParsingSearch(m_scopes.parsingScopeTag());
 }
 
+void frm성서검색::tidy(QLineEdit& box)
+{
+    // The box shows what is searched.
+    const QString text = tidiedSearchText(box.text());
+    if (text != box.text())
+        box.setText(text);
+}
+
 void frm성서검색::cmd검색_Click()
 {
+    tidy(*easy->tx검색);
     // A text of blanks alone passes and fits every verse.
     if (easy->tx검색->text().isEmpty()) {
         m_services.messages.show(this, messages::kNoSearchText);
@@ -137,6 +146,8 @@ void frm성서검색::cmd검색_Click()
 
 void frm성서검색::cmdPSearch_Click()
 {
+    for (QLineEdit* box : power->boxes())
+        tidy(*box);
     const PowerTerms terms = power->terms();
     if (terms.first.isEmpty()) {
         m_services.messages.show(this, messages::kNoFirstSearchText);
@@ -172,7 +183,18 @@ void frm성서검색::run(SearchKind kind, const QString& criterion, const QStri
         ProcFillPageCombo();
     });
     if (!found)
-        statusPanel2->clear();
+        dropResult();
+}
+
+void frm성서검색::dropResult()
+{
+    // What was found before would stand under the new word.
+    statusPanel2->clear();
+    m_search.close();
+    m_foundWords.replace({});
+    m_results.clear();
+    m_paged = false;
+    Form_Resize();
 }
 
 void frm성서검색::ProcFillPageCombo()

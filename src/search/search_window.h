@@ -92,6 +92,8 @@ private:
     void cmd검색_Click();
     void cmdPSearch_Click();
     void run(SearchKind kind, const QString& criterion, const QStringList& words);
+    static void tidy(QLineEdit& box);
+    void dropResult();
     void ProcFillPageCombo();
     void ProcFillResultPage(int page);
     void showPage(int page);

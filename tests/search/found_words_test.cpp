@@ -24,6 +24,7 @@ TEST(FoundWords, MarksEveryPlaceOnce)
     EXPECT_EQ(rangesOf({u"in the"_s, u"the be"_s}, u"in the beginning"_s), (Ranges{{0, 9}}));
     EXPECT_EQ(rangesOf({u"ab"_s, u"cd"_s}, u"abcd cdab"_s), (Ranges{{0, 4}, {5, 4}}));
     EXPECT_EQ(rangesOf({u"b"_s, u"abc"_s}, u"abc"_s), (Ranges{{0, 3}}));
+    EXPECT_EQ(rangesOf({u"don't"_s}, u"I don\u2019t"_s), (Ranges{{2, 5}}));
 }
 
 TEST(FoundWords, NothingIsMarkedForAnEmptyTextOrAnotherCase)

@@ -28,7 +28,7 @@ TEST(EasyCriterion, ScramblesFirstAndQuotesThen)
         // And what looks like a wildcard is stored as something harmless.
         {u"[", u"(Cont like '*<*')"},
         {u"*", u"(Cont like '*h*')"},
-        {u"'", u"(Cont like '*e*')"},
+        {u"'", u"(Cont like '*[\u2018\u2019e]*')"},
         {u"a b", u"(Cont like '*B C*')"},
     };
     for (const Row& row : rows) {

@@ -5,6 +5,7 @@
 #include "platform/jet/jet_error.h"
 #include "platform/jet/like_pattern.h"
 #include "platform/jet/sqlite_statement.h"
+#include "platform/jet/stored_text.h"
 #include "text/codepage949.h"
 
 #include <memory>
@@ -65,8 +66,7 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments)
         return;
     shielded(context, [&] {
         const std::string_view text = utf8Of(arguments[0]);
-        auto compiled = std::make_unique<LikePattern>(
-            QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), Sensitivity);
+        auto compiled = std::make_unique<LikePattern>(fromUtf8(text), Sensitivity);
         sqlite3_result_int(context, compiled->matches(utf8Of(arguments[1])) ? 1 : 0);
         sqlite3_set_auxdata(context, 0, compiled.release(),
                             [](void* old) { delete static_cast<LikePattern*>(old); });

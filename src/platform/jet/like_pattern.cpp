@@ -3,6 +3,7 @@
 
 #include "platform/jet/byte_search.h"
 #include "platform/jet/jet_error.h"
+#include "platform/jet/stored_text.h"
 
 namespace lumen {
 
@@ -69,7 +70,8 @@ char32_t characterAt(std::string_view text, std::size_t at)
 
 std::string toUtf8(char32_t character)
 {
-    return QString::fromUcs4(&character, 1).toUtf8().toStdString();
+    // QString::fromUcs4 takes a leading U+FEFF for a byte order mark and drops it.
+    return fromCodePoints({&character, 1}).toUtf8().toStdString();
 }
 
 char folded(char byte)
@@ -335,7 +337,7 @@ std::optional<QString> LikePattern::exactText() const
 {
     if (m_shape != Shape::Exact)
         return std::nullopt;
-    return QString::fromStdString(m_literal);
+    return fromUtf8(m_literal);
 }
 
 QString LikePattern::literalPrefix() const
@@ -343,7 +345,7 @@ QString LikePattern::literalPrefix() const
     const Segment& first = m_segments.front();
     if (first.elements.empty() || first.elements[0].kind != Kind::Literal)
         return {};
-    return QString::fromStdString(first.elements[0].literal);
+    return fromUtf8(first.elements[0].literal);
 }
 
 std::optional<QString> endOfPrefix(const QString& prefix)
@@ -356,7 +358,7 @@ std::optional<QString> endOfPrefix(const QString& prefix)
     ++text.back();
     if (text.back() == kFirstSurrogate)
         text.back() = kBehindSurrogates;
-    return QString::fromStdU32String(text);
+    return fromCodePoints(text);
 }
 
 } // namespace lumen

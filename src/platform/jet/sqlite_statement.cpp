@@ -3,6 +3,7 @@
 
 #include "platform/jet/field_types.h"
 #include "platform/jet/jet_error.h"
+#include "platform/jet/stored_text.h"
 #include "platform/log.h"
 
 #include <limits>
@@ -212,7 +213,8 @@ QString SqliteStatement::text(int column) const
 {
     const unsigned char* data = sqlite3_column_text(m_statement, column);
     const int bytes = sqlite3_column_bytes(m_statement, column);
-    const QString text = QString::fromUtf8(reinterpret_cast<const char*>(data), bytes);
+    const QString text =
+        fromUtf8({reinterpret_cast<const char*>(data), static_cast<std::size_t>(bytes)});
     return text.isNull() ? QString(QLatin1String("")) : text;
 }
 
