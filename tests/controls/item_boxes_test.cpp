@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/controls/combo_habits.h"
 #include "platform/controls/item_boxes.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLineEdit>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -56,6 +61,48 @@ TEST_F(ComboBoxTest, AUserIsToldOfEveryPick)
     QTest::keyClick(combo.view(), Qt::Key_Return); // the current item once more
     EXPECT_EQ(combo.ListIndex(), 2);
     EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ComboBoxTest, KeysAndWheelPassItemsOverThatThePointerMayPick)
+{
+    QWidget window;
+    combo.setParent(&window);
+    QLineEdit other(&window);
+    setPassedOver(combo, 1);
+    combo.setListIndex(0);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto turn = [this](int delta) {
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&combo, &wheel);
+        return wheel.isAccepted();
+    };
+    other.setFocus();
+    EXPECT_FALSE(turn(-120)) << "what lies around may scroll";
+    EXPECT_EQ(combo.ListIndex(), 0);
+    EXPECT_EQ(QApplication::focusWidget(), &other);
+
+    combo.setFocus();
+    EXPECT_TRUE(turn(-120));
+    EXPECT_EQ(combo.ListIndex(), 2);
+    QTest::keyClick(&combo, Qt::Key_Up);
+    EXPECT_EQ(combo.ListIndex(), 0);
+    setPassedOver(combo, 2);
+    clicks = 0;
+    QTest::keyClick(&combo, Qt::Key_Down); // nothing is left below
+    QTest::keyClick(&combo, Qt::Key_End);
+    EXPECT_EQ(combo.ListIndex(), 0);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_FALSE(pickedFromList(combo));
+
+    QTest::keyClick(&combo, Qt::Key_Space);
+    QTest::keyClick(combo.view(), Qt::Key_Down);
+    QTest::keyClick(combo.view(), Qt::Key_Return);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_TRUE(pickedFromList(combo));
+    combo.setParent(nullptr);
 }
 
 TEST_F(ComboBoxTest, ItemsAreFoundByNumberAndByExactText)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/controls/item_boxes.h"
 
+#include "platform/controls/combo_habits.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
@@ -9,6 +11,7 @@ namespace lumen {
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 {
+    keepComboHabits(*this);
     connect(this, &QComboBox::activated, this, [this] {
         if (onClick)
             onClick();
