@@ -116,11 +116,14 @@ TEST_F(TextControlTest, TheClickedWordIsSelected)
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, pointOf(6));
     view.SelectClickedWord();
     EXPECT_EQ(view.SelText(), u"하나님이"_s);
+    QTest::mouseClick(view.viewport(), Qt::RightButton, {}, pointOf(6));
+    EXPECT_EQ(view.SelText(), u"하나님이"_s) << "the menu is for the selection";
     QTest::mouseClick(view.viewport(), Qt::RightButton, {}, pointOf(10));
-    EXPECT_EQ(view.SelText(), u"하나님이"_s);
+    EXPECT_EQ(view.SelStart(), 10) << "and outside it for what lies there";
+    EXPECT_EQ(view.SelLength(), 0);
     view.SelectClickedWord();
     EXPECT_EQ(view.SelText(), u"천지를"_s);
-    EXPECT_EQ(buttons, (QList{Qt::LeftButton, Qt::RightButton}));
+    EXPECT_EQ(buttons, (QList{Qt::LeftButton, Qt::RightButton, Qt::RightButton}));
 }
 
 TEST_F(TextControlTest, APlaceFarDownScrollsToTheTop)

@@ -166,7 +166,10 @@ void TextControl::setParagraphSpacing(int twips)
 void TextControl::setLineSpacing(int percent)
 {
     m_lineSpacing = percent;
+    const int top = verticalScrollBar()->value() > 0 ? firstVisiblePosition() : 0;
     applySpacing(*document());
+    if (top > 0)
+        scrollToPosition(top);
 }
 
 void TextControl::applyTabs(QTextDocument& content) const
@@ -237,6 +240,14 @@ void TextControl::mousePressEvent(QMouseEvent* event)
 {
     m_clickedPosition = positionAt(event->position().toPoint());
     QTextEdit::mousePressEvent(event);
+    // A menu acts on what lies under the pointer, or on the selection when that lies there.
+    const bool onSelection = SelLength() > 0 && m_clickedPosition >= SelStart() &&
+                             m_clickedPosition <= SelStart() + SelLength();
+    if (event->button() == Qt::RightButton && !onSelection) {
+        QTextCursor caret(document());
+        caret.setPosition(m_clickedPosition);
+        setTextCursor(caret);
+    }
 }
 
 void TextControl::mouseReleaseEvent(QMouseEvent* event)
