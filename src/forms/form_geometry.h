@@ -9,7 +9,8 @@ namespace lumen {
 
 class RegistryStore;
 
-/// Moves and sizes a window as its row of the settings says. Its size before is its design size.
+/// Moves and sizes a window as its row of the settings says, and maximises one that was closed so.
+/// Its size before is its design size.
 void Proc시동크기위치설정(RegistryStore& registry, const GeometryRow& row, QWidget& window);
 /// The same for a window of fixed size: only the position.
 void restorePosition(RegistryStore& registry, const GeometryRow& row, QWidget& window);

@@ -52,15 +52,23 @@ TEST_F(FormGeometryTest, WhatWasSavedComesBack)
     EXPECT_EQ(stored(u"Width"_s), QString::number(toTwips(500)));
 }
 
-TEST_F(FormGeometryTest, AMaximisedWindowSavesWhereItStoodBefore)
+TEST_F(FormGeometryTest, AMaximisedWindowComesBackSoAndRestoresToWhereItStood)
 {
     window.setGeometry(40, 30, 500, 450);
     window.show();
     window.showMaximized();
     ASSERT_TRUE(window.isMaximized());
     saveFormGeometry(registry, geometry::kBibleSearch, window);
-    EXPECT_EQ(stored(u"Width"_s), QString::number(toTwips(500)));
-    EXPECT_EQ(stored(u"Left"_s), QString::number(toTwips(40)));
+    QWidget next;
+    Proc시동크기위치설정(registry, geometry::kBibleSearch, next);
+    next.show();
+    EXPECT_TRUE(next.isMaximized());
+    next.showNormal();
+    EXPECT_EQ(next.geometry(), QRect(40, 30, 500, 450));
+    saveFormGeometry(registry, geometry::kBibleSearch, next);
+    QWidget third;
+    Proc시동크기위치설정(registry, geometry::kBibleSearch, third);
+    EXPECT_FALSE(third.isMaximized());
 }
 
 TEST_F(FormGeometryTest, APlaceBeyondTheScreenIsCentredAndATinySizeFallsBack)
