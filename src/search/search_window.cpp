@@ -3,6 +3,7 @@
 
 #include "forms/form_geometry.h"
 #include "forms/guarded.h"
+#include "forms/page_failure.h"
 #include "forms/reader_place.h"
 #include "forms/tool_icons.h"
 #include "forms/version_combo.h"
@@ -124,12 +125,8 @@ void frm성서검색::bindTools()
 void frm성서검색::bindHelp()
 {
     const auto help = [this](const Result<Done>& shown) {
-        if (shown)
-            return;
-        const MessageText& message = messages::kHelpMissing;
-        m_services.messages.show(this, QString::fromUtf16(message.title),
-                                 QString::fromUtf16(message.text).arg(shown.failure().detail),
-                                 message.flags);
+        if (!shown)
+            tellPageFailure(m_services, this, messages::kHelpMissing, shown.failure());
     };
     m_tools.on(u"ID_목차", [this, help] { help(m_services.help.showPage(kHelpPage.toString())); });
     m_tools.on(u"ID_색인", [this, help] { help(m_services.help.showIndex()); });

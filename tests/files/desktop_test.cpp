@@ -51,6 +51,9 @@ protected:
         return result ? FailureKind::Cancelled : result.failure().kind;
     }
 
+    DesktopShellTest() { qputenv("BROWSER", "browser"); }
+    ~DesktopShellTest() override { qunsetenv("BROWSER"); }
+
     QTemporaryDir folder;
     VirtualDrives drives{{folder.filePath(u"p"_s), {}}};
     DesktopShell shell{drives};
@@ -66,6 +69,13 @@ TEST_F(DesktopShellTest, FilesAndPagesGoToTheDesktop)
     ASSERT_EQ(receiver.urls.size(), 2);
     EXPECT_EQ(receiver.urls[0].toLocalFile(), native);
     EXPECT_EQ(receiver.urls[1], QUrl(u"https://example.org/a?b=c"_s));
+
+    qunsetenv("BROWSER");
+    const QByteArray programs = qgetenv("PATH");
+    qputenv("PATH", folder.path().toLocal8Bit()); // a desktop without any program
+    EXPECT_EQ(kindOf(u"https://example.org/a?b=c"_s), FailureKind::System);
+    qputenv("PATH", programs);
+    EXPECT_EQ(receiver.urls.size(), 2);
 }
 
 TEST_F(DesktopShellTest, WhatIsMissingOrNoPageIsNotOpened)

@@ -3,6 +3,8 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +16,22 @@ namespace {
 bool isAddress(const QString& target)
 {
     return target.contains(u"://"_s);
+}
+
+/// The opener of the desktop reports success also where it finds nothing to show a page with, so
+/// this is looked into first.
+bool hasBrowser()
+{
+    constexpr int kMostWait = 800; // milliseconds
+    if (qEnvironmentVariableIsSet("BROWSER"))
+        return true;
+    for (const QString& name : {u"x-www-browser"_s, u"firefox"_s, u"firefox-esr"_s, u"chromium"_s,
+                                u"google-chrome"_s, u"epiphany"_s, u"konqueror"_s})
+        if (!QStandardPaths::findExecutable(name).isEmpty())
+            return true;
+    QProcess query;
+    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"text/html"_s});
+    return query.waitForFinished(kMostWait) && !query.readAllStandardOutput().trimmed().isEmpty();
 }
 
 } // namespace
@@ -31,7 +49,7 @@ Result<Done> DesktopShell::open(const QString& target)
             return Failure{FailureKind::NotFound, target};
         url = QUrl::fromLocalFile(native);
     }
-    if (!QDesktopServices::openUrl(url))
+    if (!hasBrowser() || !QDesktopServices::openUrl(url))
         return Failure{FailureKind::System, url.toString()};
     return Done{};
 }
