@@ -2,6 +2,15 @@
 #include "forms/tool_icons.h"
 
 #include "platform/controls/active_tool_bars.h"
+#include "platform/controls/colors.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QPalette>
+#include <QPixmap>
+#include <QRegularExpression>
 
 #include <array>
 
@@ -18,6 +27,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTrialSize = 16;
+constexpr std::array kIconSizes{16, 24, 32, 48, 64};
 
 struct ToolIcon
 {
@@ -53,13 +63,42 @@ QIcon iconNamed(QStringView name)
     return icon.pixmap(kTrialSize).isNull() ? QIcon() : icon;
 }
 
+/// The icon with its lines in colours that can be read on a dark ground.
+QIcon iconOn(const QColor& ground, QStringView name)
+{
+    initIconResources();
+    QFile file(u":/icons/%1.svg"_s.arg(name));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QString drawing = QString::fromUtf8(file.readAll());
+    static const QRegularExpression line(u"stroke=\"(#[0-9a-f]{6})\""_s);
+    qsizetype from = 0;
+    for (auto found = line.match(drawing); found.hasMatch(); found = line.match(drawing, from)) {
+        const QString color = readableOn(ground, QColor(found.captured(1))).name();
+        drawing.replace(found.capturedStart(1), found.capturedLength(1), color);
+        from = found.capturedEnd(1);
+    }
+    QByteArray svg = drawing.toUtf8();
+    QIcon icon;
+    for (const int size : kIconSizes) {
+        QBuffer buffer(&svg);
+        QImageReader reader(&buffer, "svg");
+        reader.setScaledSize({size, size});
+        icon.addPixmap(QPixmap::fromImageReader(&reader));
+    }
+    return icon;
+}
+
 } // namespace
 
 void setToolIcons(const ActiveToolBars& bars)
 {
+    const QPalette look = QGuiApplication::palette();
+    const bool dark = isDark(look);
     for (const ToolIcon& row : kToolIcons)
         if (Tool tool = bars.tool(row.tool); tool.exists())
-            tool.setIcon(iconNamed(row.icon));
+            tool.setIcon(dark ? iconOn(look.color(QPalette::Window), row.icon)
+                              : iconNamed(row.icon));
 }
 
 QIcon programIcon()
