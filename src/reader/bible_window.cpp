@@ -9,6 +9,7 @@
 #include "forms/window_opener.h"
 #include "panel/cross_references.h"
 #include "panel/word_analysis_tab.h"
+#include "platform/controls/combo_habits.h"
 #include "platform/controls/twips.h"
 #include "reader/personal_notes_tab.h"
 #include "reader/reader_tools.h"
@@ -40,7 +41,12 @@ frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
     layOut();
     bindTools();
     atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };
-    atbar.onComboChange = [this](const QString& toolId) { atbar_event10(toolId); };
+    atbar.onComboChange = [this](const QString& toolId) {
+        atbar_event10(toolId);
+        // Whoever has picked wants to read on; the arrow keys may go on through the list.
+        if (pickedFromList(toolCombo(toolId)))
+            shownView().setFocus();
+    };
     wireTextView();
     wireTableView();
     wirePanes();
@@ -103,7 +109,10 @@ void frm성서::wireTextView()
         placeChanged();
     };
     txCont->onKeyUp = [this](int, Qt::KeyboardModifiers) { placeChanged(); };
-    txCont->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
+    txCont->onContextMenu = [this](const QPoint&) {
+        placeChanged(); // the button has moved the caret
+        atbar.popUp(u"ID_편집");
+    };
     txCont->onSelectionChange = [this] {
         guarded(m_services, this, [this] { panel->showSelection(); });
     };
@@ -118,13 +127,13 @@ void frm성서::wireTextView()
 void frm성서::wireTableView()
 {
     hflex본문->onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
+        if (const int row = hflex본문->rowAtPoint(position); row >= 1) {
+            m_tableView.markRow(row);
+            placeChanged();
+        }
+        // Behind the mark: what the menu does is done to the row under the pointer.
         if (button == Qt::RightButton)
             atbar.popUp(u"ID_편집");
-        const int row = hflex본문->rowAtPoint(position);
-        if (row < 1)
-            return;
-        m_tableView.markRow(row);
-        placeChanged();
     };
     hflex본문->onKeyUp = [this](int) {
         m_tableView.markRow(hflex본문->RowSel());
@@ -216,8 +225,7 @@ void frm성서::closeEvent(QCloseEvent* event)
 
 void frm성서::bringToFront()
 {
-    if (isMinimized())
-        showNormal();
+    setWindowState(windowState() & ~Qt::WindowMinimized); // a maximised window stays so
     show();
     raise();
     activateWindow();

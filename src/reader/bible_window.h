@@ -113,6 +113,14 @@ private:
         ViewMode mode = ViewMode::Text;
     };
 
+    /// Where the reader stands in a chapter that comes anew in another look.
+    struct KeptPlace
+    {
+        int verse = 0; ///< 0: another chapter comes
+        int top = 0;   ///< the verse at the top of the view, 0 the chapter's head
+        bool isInView = false;
+    };
+
     void layOut();
     void layOutPanel();
     void addGeneratedTools();
@@ -152,7 +160,6 @@ private:
     void applyColors();
     void setBarVisible(QStringView barTool, bool visible);
     void openPage(QStringView file);
-    void tellMissing(const QString& file);
     void copySelection(OriginalText originals);
     bool copiesVerses() const;
     void bringEditToolsUpToDate();
@@ -162,8 +169,8 @@ private:
     void fillChapter();
     void clearChapter();
     void tellUnreadVersions();
-    int verseToKeep() const;
-    void keepVerse(int verse);
+    KeptPlace placeToKeep() const;
+    void keepPlace(const KeptPlace& kept);
     ChapterStyle chapterStyle();
     void fillTextView(const std::vector<ChapterSource>& sources);
     void fillTableView(const std::vector<ChapterSource>& sources);

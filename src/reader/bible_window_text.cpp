@@ -217,30 +217,46 @@ void frm성서::tellUnreadVersions()
 void frm성서::fillChapter()
 {
     const WaitPointer wait;
-    const int kept = verseToKeep();
+    const KeptPlace kept = placeToKeep();
     m_chapter = m_slots.readChapter(book(), chapter());
     if (m_settings.ViewMode == ViewMode::Text)
         fillTextView(m_chapter);
     else
         fillTableView(m_chapter);
-    keepVerse(kept);
+    keepPlace(kept);
     m_shown = {book(), chapter(), m_settings.ViewMode};
 }
 
-int frm성서::verseToKeep() const
+frm성서::KeptPlace frm성서::placeToKeep() const
 {
     // The same chapter comes in another look: the reader stays at his verse.
     if (m_shown.book != book() || m_shown.chapter != chapter())
-        return 0;
-    return m_shown.mode == ViewMode::Text ? m_textView.currentVerse() : m_tableView.currentVerse();
+        return {};
+    const auto placeIn = [](auto& view) {
+        const int verse = view.currentVerse();
+        return KeptPlace{verse, view.topVerse(), view.isInView(verse)};
+    };
+    return m_shown.mode == ViewMode::Text ? placeIn(m_textView) : placeIn(m_tableView);
 }
 
-void frm성서::keepVerse(int verse)
+void frm성서::keepPlace(const KeptPlace& kept)
 {
-    if (m_settings.ViewMode == ViewMode::Table)
-        m_tableView.selectVerse(verse);
-    else if (verse > 1) // the first one is where the caret stands already
-        m_textView.selectVerse(verse);
+    if (kept.verse == 0)
+        return;
+    const auto keepIn = [&kept](auto& view) {
+        // Whoever has scrolled away from his verse reads on where he is.
+        view.scrollToVerse(kept.top);
+        if (kept.isInView && !view.isInView(kept.verse))
+            view.scrollToVerse(kept.verse);
+    };
+    if (m_settings.ViewMode == ViewMode::Table) {
+        m_tableView.selectVerse(kept.verse);
+        keepIn(m_tableView);
+        return;
+    }
+    if (kept.verse > 1) // the first one is where the caret stands already
+        m_textView.selectVerse(kept.verse);
+    keepIn(m_textView);
 }
 
 QString frm성서::divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf)

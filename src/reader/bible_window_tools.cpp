@@ -3,6 +3,7 @@
 #include "data/module_path.h"
 #include "forms/book_combo.h"
 #include "forms/guarded.h"
+#include "forms/page_failure.h"
 #include "forms/version_combo.h"
 #include "forms/window_opener.h"
 #include "platform/dialogs/html_help.h"
@@ -14,8 +15,12 @@
 #include "reader/messages.h"
 #include "reader/reader_tools.h"
 
+#include <QActionGroup>
 #include <QMenu>
 #include <QToolBar>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +42,51 @@ struct LineSpacingTool
 constexpr std::array kLineSpacings{LineSpacingTool{u"ID_줄간격1배", 100},
                                    LineSpacingTool{u"ID_줄간격1.5배", 150},
                                    LineSpacingTool{u"ID_줄간격2배", 200}};
+constexpr int kFontSizes = 5;    // steps of the menu
+constexpr int kWheelNotch = 120; // eighths of a degree
+
+/// Tells the notches of a wheel that is turned over a view while Ctrl is held; the view, which
+/// would enlarge its letters in a way of its own, doesn't see them.
+class SizeWheel : public QObject
+{
+public:
+    SizeWheel(QAbstractScrollArea& view, std::function<void(int notches)> onNotches)
+        : QObject(&view), m_onNotches(std::move(onNotches))
+    {
+        view.viewport()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        const auto& wheel = static_cast<QWheelEvent&>(*event);
+        if (!wheel.modifiers().testFlag(Qt::ControlModifier)) {
+            m_turned = 0;
+            return false;
+        }
+        // Smooth wheels come in parts of a notch.
+        m_turned += wheel.angleDelta().y();
+        const int notches = m_turned / kWheelNotch;
+        m_turned -= notches * kWheelNotch;
+        if (notches != 0)
+            m_onNotches(notches);
+        return true;
+    }
+
+private:
+    std::function<void(int)> m_onNotches;
+    int m_turned = 0;
+};
+
+/// Marks tools as a choice of one of them.
+void makeChoice(QObject* window, const ActiveToolBars& atbar, const QList<QStringView>& ids)
+{
+    auto* group = new QActionGroup(window);
+    for (const QStringView id : ids)
+        group->addAction(atbar.tool(id).action());
+}
 
 } // namespace
 
@@ -115,6 +165,11 @@ void frm성서::bindTools()
 
 void frm성서::bindViewTools()
 {
+    makeChoice(this, atbar, {u"ID_텍스트형식", u"ID_테이블형식"});
+    makeChoice(this, atbar, {u"ID_줄간격1배", u"ID_줄간격1.5배", u"ID_줄간격2배"});
+    makeChoice(
+        this, atbar,
+        {u"ID_글자크기1", u"ID_글자크기2", u"ID_글자크기3", u"ID_글자크기4", u"ID_글자크기5"});
     m_tools.on(u"ID_표준도구모음", [this] {
         setBarVisible(u"ID_표준도구모음", !atbar.barVisible(reader_bar::kStandard));
     });
@@ -143,6 +198,13 @@ void frm성서::bindViewTools()
     for (const LineSpacingTool& spacing : kLineSpacings)
         m_tools.on(spacing.id, [this, percent = spacing.percent] { setLineSpacing(percent); });
     m_tools.onNumbered(u"ID_글자크기", [this](int step) { setFontSize(step); });
+    const auto turned = [this](int notches) {
+        const int step = std::clamp(m_settings.FontSize + notches, 1, kFontSizes);
+        if (step != m_settings.FontSize)
+            setFontSize(step);
+    };
+    new SizeWheel(*txCont, turned);
+    new SizeWheel(*hflex본문, turned);
     m_tools.on(u"ID_소주제표시", [this] {
         m_settings.ShowMiniTitle = !m_settings.ShowMiniTitle;
         atbar.tool(u"ID_소주제표시").setChecked(m_settings.ShowMiniTitle);
@@ -188,7 +250,7 @@ void frm성서::bindWindowTools()
         m_tools.on(page.tool, [this, file = page.file] { openPage(file); });
     const auto help = [this](const Result<Done>& shown) {
         if (!shown)
-            tellMissing(shown.failure().detail);
+            tellPageFailure(m_services, this, messages::kPageMissing, shown.failure());
     };
     m_tools.on(u"ID_목차", [this, help] { help(m_services.help.showPage(u"Lumens_Intro.htm"_s)); });
     m_tools.on(u"ID_색인", [this, help] { help(m_services.help.showIndex()); });
@@ -199,15 +261,9 @@ void frm성서::openPage(QStringView file)
 {
     const QString target =
         file.startsWith(u'\\') ? joinedPath(m_state.AppPath, file) : file.toString();
-    if (!m_services.shell.open(target))
-        tellMissing(target);
-}
-
-void frm성서::tellMissing(const QString& file)
-{
-    const MessageText& message = messages::kPageMissing;
-    m_services.messages.show(this, QString::fromUtf16(message.title),
-                             QString::fromUtf16(message.text).arg(file), message.flags);
+    const Result<Done> opened = m_services.shell.open(target);
+    if (!opened)
+        tellPageFailure(m_services, this, messages::kPageMissing, {opened.failure().kind, target});
 }
 
 void frm성서::setBarVisible(QStringView barTool, bool visible)

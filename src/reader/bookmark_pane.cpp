@@ -5,6 +5,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace lumen {
 
 BookmarkPane::BookmarkPane(QWidget* parent) : QWidget(parent)
@@ -21,6 +23,8 @@ void BookmarkPane::layOut()
     buttons->addWidget(cmd책갈피위로, 1, 0);
     buttons->addWidget(cmd책갈피아래로, 1, 1);
     buttons->addWidget(cmd책갈피이동, 2, 0, 1, 2);
+    cmd책갈피이동->setToolTip(u"선택한 책갈피로 이동"_s);
+    cmd책갈피이동->setAccessibleName(cmd책갈피이동->toolTip());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(lst책갈피, 1);

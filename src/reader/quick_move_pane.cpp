@@ -12,6 +12,8 @@ using namespace Qt::StringLiterals;
 QuickMovePane::QuickMovePane(QWidget* parent) : QWidget(parent)
 {
     tx즉석이동->setPlaceholderText(u"요 3:16"_s);
+    cmd즉석이동->setToolTip(u"입력한 곳으로 이동"_s);
+    cmd즉석이동->setAccessibleName(cmd즉석이동->toolTip());
     auto* typing = new QHBoxLayout;
     typing->addWidget(tx즉석이동, 1);
     typing->addWidget(cmd즉석이동);

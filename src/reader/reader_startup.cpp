@@ -83,7 +83,7 @@ bool frm성서::Form_Load(StartupProgress& splash)
     Proc시동크기위치설정(m_services.registry, geometry::kBible, *this);
     setBarVisible(u"ID_성서이동도구모음", m_settings.BookToolbar);
     layOutPanel();
-    txCont->setFocus();
+    shownView().setFocus();
     splash.hideSplash();
     return true;
 }

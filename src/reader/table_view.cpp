@@ -5,6 +5,8 @@
 #include "reader/text_view.h"
 #include "text/rtf_tables.h"
 
+#include <QScrollBar>
+
 #include <algorithm>
 #include <array>
 
@@ -204,16 +206,43 @@ std::vector<SelectedVerse> TableView::selectedVerses(const std::vector<ChapterSo
     return selected;
 }
 
-void TableView::selectVerse(int verse)
+int TableView::rowOfVerse(int verse) const
 {
     const auto place = std::find(m_verseOfRow.begin(), m_verseOfRow.end(), verse);
-    if (verse < 1 || place == m_verseOfRow.end())
+    return verse < 1 || place == m_verseOfRow.end()
+               ? -1
+               : static_cast<int>(place - m_verseOfRow.begin());
+}
+
+void TableView::selectVerse(int verse)
+{
+    const int row = rowOfVerse(verse);
+    if (row < 0)
         return;
-    const int row = static_cast<int>(place - m_verseOfRow.begin());
     m_grid.setRow(row);
+    scrollToVerse(verse);
+    markRow(row);
+}
+
+int TableView::topVerse() const
+{
+    return m_grid.verticalScrollBar()->value() == 0 ? 0 : verseOfRow(m_grid.TopRow());
+}
+
+bool TableView::isInView(int verse) const
+{
+    const int row = rowOfVerse(verse);
+    const int last = m_grid.rowAtPoint({0, m_grid.viewport()->height() - 1});
+    return row >= m_grid.TopRow() && (last < 0 || row <= last);
+}
+
+void TableView::scrollToVerse(int verse)
+{
+    const int row = verse == 0 ? 1 : rowOfVerse(verse);
+    if (row < 0)
+        return;
     const bool hasHeading = row > 1 && m_verseOfRow[static_cast<std::size_t>(row - 1)] == 0;
     m_grid.setTopRow(hasHeading ? row - 1 : row);
-    markRow(row);
 }
 
 } // namespace lumen

@@ -51,6 +51,11 @@ public:
     /// Marks and selects a verse and scrolls to it and its heading; a verse that is not there
     /// changes nothing.
     void selectVerse(int verse);
+    /// The verse at the top of the view; 0 at the head of the chapter.
+    int topVerse() const;
+    bool isInView(int verse) const;
+    /// Brings a verse up to the top with its heading, 0 the head of the chapter; nothing is marked.
+    void scrollToVerse(int verse);
     /// Moves the mark to a row; rows outside the verses change nothing.
     void markRow(int row);
     /// The verse of a row, that of the verse below for a heading row; 0 outside.
@@ -58,6 +63,7 @@ public:
 
 private:
     int verseRowFrom(int row) const;
+    int rowOfVerse(int verse) const;
     void addHeading(const ChapterVerse& verse, const TableStyle& style);
     void addVerse(const std::vector<ChapterSource>& sources, std::size_t index,
                   const TableStyle& style);

@@ -3,6 +3,8 @@
 
 #include "platform/controls/text_control.h"
 
+#include <QScrollBar>
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -46,6 +48,30 @@ void TextView::selectVerse(int verse)
     // Selecting scrolls to the caret at its end, so the verse's start is brought up afterwards.
     m_txCont.select(place->start, place->length - 1);
     m_txCont.scrollToPosition(place->start);
+}
+
+int TextView::topVerse() const
+{
+    if (m_txCont.verticalScrollBar()->value() == 0)
+        return 0;
+    return m_positions.verseAt(m_txCont.firstVisiblePosition());
+}
+
+bool TextView::isInView(int verse) const
+{
+    const std::optional<VersePosition> place = m_positions.find(verse);
+    if (!place)
+        return false;
+    QTextCursor caret(m_txCont.document());
+    caret.setPosition(place->start);
+    return m_txCont.viewport()->rect().intersects(m_txCont.cursorRect(caret));
+}
+
+void TextView::scrollToVerse(int verse)
+{
+    const std::optional<VersePosition> place = m_positions.find(verse);
+    if (verse == 0 || place)
+        m_txCont.scrollToPosition(place ? place->start : 0);
 }
 
 std::vector<SelectedVerse> TextView::selectedVerses() const

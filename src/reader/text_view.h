@@ -22,6 +22,11 @@ public:
     QString currentRange() const;
     /// Selects a verse and scrolls to it; a verse that is not there changes nothing.
     void selectVerse(int verse);
+    /// The verse at the top of the view; 0 at the head of the chapter.
+    int topVerse() const;
+    bool isInView(int verse) const;
+    /// Brings a verse up to the top, 0 the head of the chapter; nothing is selected.
+    void scrollToVerse(int verse);
     /// What the selection holds of each verse; without a selection the current verse, whole.
     std::vector<SelectedVerse> selectedVerses() const;
 

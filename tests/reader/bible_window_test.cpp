@@ -3,11 +3,14 @@
 #include "reader/reader_tools.h"
 
 #include <QAbstractButton>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace lumen {
 namespace {
@@ -134,6 +137,35 @@ TEST_F(BibleWindowTest, AnotherLookKeepsTheVerse)
                     reader->focusWidget() == reader->hflex본문);
     }
     click(u"ID_다음장");
+    EXPECT_EQ(reader->GetCurVerse(), 1);
+}
+
+TEST_F(BibleWindowTest, AViewThatWasScrolledStaysWhereItIs)
+{
+    start();
+    click(u"ID_글자크기5");
+    reader->resize(reader->width(), 320);
+    QApplication::processEvents();
+    TextControl& text = *reader->txCont;
+    FlexGrid& grid = *reader->hflex본문;
+    const QString fourth = TinyData::text(101, 0, 1, 4);
+    const auto top = [&text] {
+        QTextCursor line(text.document());
+        line.setPosition(text.firstVisiblePosition());
+        return line.block().text();
+    };
+    text.scrollToPosition(static_cast<int>(text.Text().indexOf(fourth)));
+    ASSERT_TRUE(top().contains(fourth)) << top().toStdString();
+    for (const QStringView look : {u"ID_줄간격1.5배", u"ID_소주제표시", u"ID_글자크기4"}) {
+        click(look);
+        EXPECT_TRUE(top().contains(fourth)) << look.toString().toStdString() << top().toStdString();
+        EXPECT_EQ(reader->GetCurVerse(), 1) << "the caret has not moved";
+    }
+    click(u"ID_테이블형식");
+    QApplication::processEvents();
+    EXPECT_EQ(grid.TextMatrix(grid.TopRow(), 1), u"4"_s);
+    click(u"ID_대역본1-201");
+    EXPECT_EQ(grid.TextMatrix(grid.TopRow(), 1), u"4"_s);
     EXPECT_EQ(reader->GetCurVerse(), 1);
 }
 
@@ -406,6 +438,14 @@ TEST_F(BibleWindowTest, TheFocusGoesToTheTextWhenItsPlaceHasGone)
     QTest::keyClick(reader->quickMove->tx즉석이동, Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(reader->focusWidget(), reader->txCont);
 
+    ComboBox& chapters = combo(u"ID_cb장");
+    chapters.setFocus();
+    QTest::keyClick(&chapters, Qt::Key_Down);
+    EXPECT_EQ(reader->focusWidget(), &chapters) << "the next key may go further";
+    QTest::keyClick(&chapters, Qt::Key_Space);
+    QTest::keyClick(chapters.view(), Qt::Key_Return);
+    EXPECT_EQ(reader->focusWidget(), reader->txCont);
+
     reader->bookmarks->lst책갈피->setFocus();
     click(u"ID_SidePane");
     EXPECT_EQ(reader->focusWidget(), reader->txCont);
@@ -414,6 +454,48 @@ TEST_F(BibleWindowTest, TheFocusGoesToTheTextWhenItsPlaceHasGone)
     reader->findChild<QLineEdit*>(u"tx개인주석절범위"_s)->setFocus();
     click(u"ID_Panel");
     EXPECT_EQ(reader->focusWidget(), reader->txCont);
+    click(u"ID_테이블형식");
+    start();
+    EXPECT_EQ(reader->focusWidget(), reader->hflex본문);
+}
+
+TEST_F(BibleWindowTest, CtrlAndWheelGoThroughTheSizesOfTheMenu)
+{
+    start();
+    const auto turn = [this](QAbstractScrollArea& view, int delta) {
+        QWheelEvent wheel({20, 20}, {20, 20}, {}, {0, delta}, Qt::NoButton, Qt::ControlModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view.viewport(), &wheel);
+    };
+    turn(*reader->txCont, 120);
+    EXPECT_TRUE(reader->atbar.tool(u"ID_글자크기4").checked());
+    EXPECT_FALSE(reader->atbar.tool(u"ID_글자크기3").checked());
+    for (int notch = 0; notch < 3; ++notch)
+        turn(*reader->txCont, 60); // half a notch each
+    EXPECT_TRUE(reader->atbar.tool(u"ID_글자크기5").checked());
+    click(u"ID_테이블형식");
+    for (int notch = 0; notch < 6; ++notch)
+        turn(*reader->hflex본문, -120);
+    EXPECT_TRUE(reader->atbar.tool(u"ID_글자크기1").checked());
+    close();
+    EXPECT_EQ(stored(u"FontSize"_s), u"1"_s);
+}
+
+TEST_F(BibleWindowTest, ARightClickActsOnTheVerseUnderIt)
+{
+    start();
+    quickMove(u"창 1:1"_s);
+    const QString text = reader->txCont->Text();
+    const auto at = static_cast<int>(text.indexOf(TinyData::text(101, 0, 1, 3))) + 2;
+    QTextCursor caret(reader->txCont->document());
+    caret.setPosition(at);
+    const QPoint point = reader->txCont->cursorRect(caret).center();
+    QTest::mousePress(reader->txCont->viewport(), Qt::RightButton, {}, point);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, point,
+                           reader->txCont->viewport()->mapToGlobal(point));
+    QApplication::sendEvent(reader->txCont->viewport(), &menu);
+    EXPECT_EQ(place(), u"창세기 1장 3절"_s);
+    reader->atbar.menu(u"ID_편집")->hide();
 }
 
 TEST_F(BibleWindowTest, EditToolsComeAliveAgainBehindTheirMenu)
