@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "import/import_fixture.h"
+#include "platform/jet/import_talk.h"
+#include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_header.h"
 #include "platform/jet/jet_import.h"
 #include "support/jet_header_maker.h"
 
 #include <QFileInfo>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace lumen {
 
@@ -23,13 +28,29 @@ QByteArray headerOnly(const QString& password = {})
 class ScriptedImportTest : public ImportTest
 {
 protected:
+    void SetUp() override
+    {
+        ImportTest::SetUp();
+        makeStore(u"whole"_s, false);
+        makeStore(u"cut"_s, true);
+        options.talk = &talk;
+    }
+    void makeStore(const QString& name, bool incomplete) const
+    {
+        StoreWriter writer(rootFile(name), StoreCompare::Text);
+        writer.createTable({u"설교"_s, {{.name = u"제목"_s}}});
+        writer.addRow(u"설교"_s, {name});
+        if (incomplete)
+            writer.addOriginLine(u"읽지 못한 행"_s, u"5"_s);
+        writer.commit();
+    }
     void importRuns(const QByteArray& commands)
     {
         options.importProgram = rootFile(u"import.sh"_s);
         const QByteArray log = rootFile(u"runs"_s).toUtf8();
         writeBytes(options.importProgram,
                    "#!/bin/sh\necho \"$3:$LUMEN_IMPORT_PASSWORD\" >> '" + log + "'\n" + commands);
-        QFile::setPermissions(options.importProgram, QFile::ReadOwner | QFile::ExeOwner);
+        EXPECT_EQ(chmod(options.importProgram.toUtf8().constData(), 0755), 0);
     }
     QByteArrayList runs() const
     {
@@ -38,19 +59,89 @@ protected:
         return fileBytes(rootFile(u"runs"_s)).trimmed().split('\n');
     }
 
-    /// A store as the script makes it.
-    const QByteArray m_makeStore = "printf 'SQLite format 3\\000made' > \"$6\"\n";
-    const QByteArray m_store = QByteArray("SQLite format 3\0made", 20);
+    /// A copy of a store that is there already, as what the script makes.
+    QByteArray copies(const QString& store) const
+    {
+        return "cp '" + rootFile(store).toUtf8() + "' \"$6\"\n";
+    }
+
+    /// Answers as the test says and notes what it was asked and told.
+    class ScriptedTalk : public ImportTalk
+    {
+    public:
+        bool takesIncomplete(const QString&, const QStringList& losses) override
+        {
+            asked << losses.join(u',');
+            return answer;
+        }
+        void isReadOnly(const QString&, const QStringList& losses) override
+        {
+            told << u'[' + losses.join(u',') + u']';
+        }
+        bool goesOn(const QString&, qint64) override { return !ends; }
+        void ended() override {}
+
+        bool answer = false;
+        bool ends = false;
+        QStringList asked;
+        QStringList told;
+    };
+
+    ScriptedTalk talk;
 };
+
+/// Takes the rights of a superuser, whom no mode bits stop, away for a while.
+class WithoutPrivileges
+{
+public:
+    WithoutPrivileges() : m_dropped(geteuid() == 0)
+    {
+        constexpr uid_t kNobody = 65534;
+        if (m_dropped && setresuid(kNobody, kNobody, 0) != 0)
+            ADD_FAILURE() << "the rights stay";
+    }
+    ~WithoutPrivileges()
+    {
+        if (m_dropped && setresuid(0, 0, 0) != 0)
+            ADD_FAILURE() << "the rights don't come back";
+    }
+    WithoutPrivileges(const WithoutPrivileges&) = delete;
+    WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
+
+private:
+    bool m_dropped;
+};
+
+/// The paths of these tests are native ones.
+class NativePaths : public PathResolver
+{
+public:
+    QString nativePath(const QString& path) const override { return path; }
+};
+
+QString titleIn(Database& database)
+{
+    return Text(database.OpenRecordset(u"설교"_s)->Fields(u"제목"));
+}
+
+int errorOfWriting(Database& database)
+{
+    try {
+        database.Execute(u"delete * from 설교"_s);
+        return 0;
+    } catch (const JetError& error) {
+        return error.number();
+    }
+}
 
 TEST_F(ScriptedImportTest, AModuleIsConvertedIntoTheCacheOnceForItsContent)
 {
-    importRuns(m_makeStore);
+    importRuns(copies(u"whole"_s));
     const QString module = dataFile(u"101.dts"_s);
     writeBytes(module, headerOnly());
 
     const QString store = openableStore(module, {}, options);
-    EXPECT_EQ(fileBytes(store), m_store);
+    EXPECT_EQ(fileBytes(store), fileBytes(rootFile(u"whole"_s)));
     EXPECT_TRUE(store.startsWith(options.cacheFolder + u'/'));
     EXPECT_EQ(openableStore(module, {}, options), store);
     EXPECT_EQ(runs(), QByteArrayList{"binary:"});
@@ -65,7 +156,7 @@ TEST_F(ScriptedImportTest, AModuleIsConvertedIntoTheCacheOnceForItsContent)
 
 TEST_F(ScriptedImportTest, AUserDatabaseIsReplacedAndItsOriginalKept)
 {
-    importRuns(m_makeStore);
+    importRuns(copies(u"whole"_s));
     const QList<std::pair<QString, QByteArray>> cases{{u"설교매니저.mdb"_s, "text:"},
                                                       {u"QT.MDB"_s, "text:"},
                                                       {u"예화.dts"_s, "text:"},
@@ -75,7 +166,7 @@ TEST_F(ScriptedImportTest, AUserDatabaseIsReplacedAndItsOriginalKept)
         const QString path = dataFile(name);
         writeBytes(path, headerOnly());
         EXPECT_EQ(openableStore(path, {}, options), path);
-        EXPECT_EQ(fileBytes(path), m_store);
+        EXPECT_EQ(fileBytes(path), fileBytes(rootFile(u"whole"_s)));
         EXPECT_EQ(fileBytes(path + u".jet"_s), headerOnly());
         EXPECT_EQ(runs().last(), run);
         EXPECT_EQ(openableStore(path, {}, options), path);
@@ -86,7 +177,7 @@ TEST_F(ScriptedImportTest, AUserDatabaseIsReplacedAndItsOriginalKept)
 
 TEST_F(ScriptedImportTest, AnEarlierOriginalIsNeverOverwritten)
 {
-    importRuns(m_makeStore);
+    importRuns(copies(u"whole"_s));
     const QString path = dataFile(u"qt.mdb"_s);
     writeBytes(path, headerOnly());
     writeBytes(path + u".jet"_s, "first");
@@ -105,11 +196,11 @@ TEST_F(ScriptedImportTest, EveryBadEndOfTheProgramLeavesTheOriginalAlone)
         int error;
     };
     const QList<Case> cases{
-        {m_makeStore + "exit 3\n", ErrorNumber::kNotADatabase},
-        {m_makeStore + "exit 4\n", ErrorNumber::kWrongPassword},
-        {m_makeStore + "exit 5\n", ErrorNumber::kWriteFailed},
-        {m_makeStore + "exit 77\n", ErrorNumber::kNotADatabase},
-        {m_makeStore + "kill -SEGV $$\n", ErrorNumber::kNotADatabase},
+        {copies(u"whole"_s) + "exit 3\n", ErrorNumber::kNotADatabase},
+        {copies(u"whole"_s) + "exit 4\n", ErrorNumber::kWrongPassword},
+        {copies(u"whole"_s) + "exit 5\n", ErrorNumber::kWriteFailed},
+        {copies(u"whole"_s) + "exit 77\n", ErrorNumber::kNotADatabase},
+        {copies(u"whole"_s) + "kill -SEGV $$\n", ErrorNumber::kNotADatabase},
         {"touch \"$6-journal\" \"$(dirname \"$6\")/.half\"; exit 3\n", ErrorNumber::kNotADatabase},
         {"exit 0\n", ErrorNumber::kNotADatabase}, // all is well, it says, and has made nothing
     };
@@ -124,22 +215,15 @@ TEST_F(ScriptedImportTest, EveryBadEndOfTheProgramLeavesTheOriginalAlone)
             EXPECT_EQ(filesLeft(), QStringList{name});
             QFile::remove(options.importProgram);
         }
+        options.importProgram = rootFile(u"absent"_s);
+        EXPECT_EQ(openingError(path), ErrorNumber::kNotADatabase);
         QFile::remove(path);
     }
 }
 
-TEST_F(ScriptedImportTest, AProgramThatIsNotThereIsAnErrorWithText)
-{
-    options.importProgram = rootFile(u"absent"_s);
-    const QString path = dataFile(u"myc.mdb"_s);
-    writeBytes(path, headerOnly());
-    EXPECT_EQ(openingError(path), ErrorNumber::kNotADatabase);
-    EXPECT_EQ(filesLeft(), QStringList{u"myc.mdb"_s});
-}
-
 TEST_F(ScriptedImportTest, ThePasswordIsComparedBeforeAnythingRuns)
 {
-    importRuns(m_makeStore);
+    importRuns(copies(u"whole"_s));
     const QString path = dataFile(u"myc.mdb"_s);
     writeBytes(path, headerOnly(u"secret"_s));
     EXPECT_EQ(openingError(path), ErrorNumber::kWrongPassword);
@@ -151,18 +235,9 @@ TEST_F(ScriptedImportTest, ThePasswordIsComparedBeforeAnythingRuns)
     EXPECT_EQ(runs(), QByteArrayList{"text:secret"});
 }
 
-TEST_F(ScriptedImportTest, ACachedModuleStillAsksForItsPassword)
-{
-    importRuns(m_makeStore);
-    const QString path = dataFile(u"101.dts"_s);
-    writeBytes(path, headerOnly(u"secret"_s));
-    EXPECT_EQ(openingError(path, u"secret"_s), 0);
-    EXPECT_EQ(openingError(path, u"other"_s), ErrorNumber::kWrongPassword);
-}
-
 TEST_F(ScriptedImportTest, AFolderLeftByAKilledImportIsTakenAwayOnceItIsOld)
 {
-    importRuns(m_makeStore);
+    importRuns(copies(u"whole"_s));
     const QString path = dataFile(u"myc.mdb"_s);
     writeBytes(path, headerOnly());
     const QString stale = dataFile(u".lumen-import-old"_s);
@@ -175,6 +250,88 @@ TEST_F(ScriptedImportTest, AFolderLeftByAKilledImportIsTakenAwayOnceItIsOld)
     openableStore(path, {}, options);
     EXPECT_FALSE(QFileInfo::exists(stale));
     EXPECT_TRUE(QFileInfo::exists(fresh)) << "another program may be at work in it";
+}
+
+TEST_F(ScriptedImportTest, AFileThatMayNotBeWrittenIsTakenOverWhereItsFolderMay)
+{
+    importRuns(copies(u"whole"_s));
+    const QString path = dataFile(u"설교매니저.mdb"_s);
+    writeBytes(path, headerOnly());
+    ASSERT_EQ(chmod(path.toUtf8().constData(), 0444), 0);
+    for (const QString& folder : {rootFile(u"."_s), dataFile(u"."_s)})
+        ASSERT_EQ(chmod(folder.toUtf8().constData(), 0777), 0);
+    writeBytes(rootFile(u"runs"_s), {});
+    ASSERT_EQ(chmod(rootFile(u"runs"_s).toUtf8().constData(), 0666), 0);
+    const NativePaths paths;
+    JetEngine engine(paths, options);
+    {
+        const WithoutPrivileges dropped;
+        const auto database = engine.OpenDatabase(path);
+        EXPECT_EQ(errorOfWriting(*database), 0);
+        database->Close();
+        EXPECT_EQ(engine.OpenDatabase(path)->OpenRecordset(u"설교"_s)->RecordCount(), 0);
+    }
+    EXPECT_EQ(fileBytes(path + u".jet"_s), headerOnly());
+    EXPECT_EQ(talk.told, QStringList());
+}
+
+TEST_F(ScriptedImportTest, AUserDatabaseInAFolderThatMayNotBeWrittenIsOnlyRead)
+{
+    importRuns(copies(u"cut"_s));
+    const QString path = dataFile(u"설교매니저.mdb"_s);
+    writeBytes(path, headerOnly());
+    writeBytes(rootFile(u"runs"_s), {});
+    ASSERT_EQ(chmod(rootFile(u"runs"_s).toUtf8().constData(), 0666), 0);
+    ASSERT_TRUE(QDir().mkpath(options.cacheFolder));
+    for (const QString& folder : {rootFile(u"."_s), options.cacheFolder})
+        ASSERT_EQ(chmod(folder.toUtf8().constData(), 0777), 0);
+    ASSERT_EQ(chmod(dataFile(u"."_s).toUtf8().constData(), 0555), 0);
+    const NativePaths paths;
+    JetEngine engine(paths, options);
+    {
+        const WithoutPrivileges dropped;
+        const auto database = engine.OpenDatabase(path);
+        EXPECT_EQ(titleIn(*database), u"cut"_s);
+        EXPECT_EQ(errorOfWriting(*database), ErrorNumber::kReadOnly);
+    }
+    EXPECT_EQ(fileBytes(path), headerOnly());
+    EXPECT_EQ(talk.told, QStringList{u"[읽지 못한 행: 5]"_s});
+    ASSERT_EQ(chmod(dataFile(u"."_s).toUtf8().constData(), 0755), 0);
+}
+
+TEST_F(ScriptedImportTest, AnIncompleteUserDatabaseTakesThePlaceOnlyWhenTheUserWantsIt)
+{
+    importRuns(copies(u"cut"_s));
+    const QString path = dataFile(u"설교매니저.mdb"_s);
+    writeBytes(path, headerOnly());
+    const NativePaths paths;
+    JetEngine engine(paths, options);
+
+    const auto shown = engine.OpenDatabase(path);
+    EXPECT_EQ(titleIn(*shown), u"cut"_s);
+    EXPECT_EQ(errorOfWriting(*shown), ErrorNumber::kReadOnly);
+    shown->Close();
+    // Compacting ends in a copy over the original.
+    EXPECT_THROW(engine.CompactDatabase(path, dataFile(u"copy"_s)), JetError);
+    EXPECT_EQ(fileBytes(path), headerOnly());
+    EXPECT_FALSE(QFile::exists(path + u".jet"_s));
+
+    talk.answer = true;
+    const auto taken = engine.OpenDatabase(path);
+    EXPECT_EQ(errorOfWriting(*taken), 0);
+    EXPECT_EQ(fileBytes(path + u".jet"_s), headerOnly());
+    EXPECT_EQ(talk.asked, QStringList(3, u"읽지 못한 행: 5"_s));
+}
+
+TEST_F(ScriptedImportTest, TheUserCanEndAnImportThatNeverEnds)
+{
+    importRuns("exec sleep 1000\n");
+    const QString path = dataFile(u"myc.mdb"_s);
+    writeBytes(path, headerOnly());
+    talk.ends = true;
+    EXPECT_EQ(openingError(path), ErrorNumber::kCancelled);
+    EXPECT_EQ(fileBytes(path), headerOnly());
+    EXPECT_EQ(filesLeft(), QStringList{u"myc.mdb"_s});
 }
 
 /// The genuine import program on files that no engine wrote.

@@ -20,18 +20,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView kScratchFile = u"z199.dts";
 constexpr QStringView kModuleSuffix = u".dts";
 
-bool isScratch(const QString& nativePath)
-{
-    return QFileInfo(nativePath).fileName().compare(kScratchFile, Qt::CaseInsensitive) == 0;
-}
-
-/// Modules are never written; the scratch tables of the original-language search are.
+/// Modules are never written; the scratch tables of the original-language search are. What is
+/// written into the copy of a user database would never reach the user's file.
 bool mustBeReadOnly(const ConnectionPlace& place)
 {
     if (place.source.endsWith(kModuleSuffix, Qt::CaseInsensitive) && !isUserDatabase(place.source))
+        return true;
+    if (place.store != place.source && !isScratchDatabase(place.source))
         return true;
     const QFileInfo file(place.store);
     return !file.isWritable() || !QFileInfo(file.absolutePath()).isWritable();
@@ -86,8 +83,9 @@ void Connection::configure()
     if (m_readOnly)
         return;
     // A lost scratch database is made anew, so it may trade safety for speed.
-    m_handle.run(isScratch(m_place.source) ? "PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF"
-                                           : "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL");
+    m_handle.run(isScratchDatabase(m_place.source)
+                     ? "PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF"
+                     : "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL");
 }
 
 void Connection::readStoreTable()

@@ -5,10 +5,12 @@
 #include "platform/jet/connect_string.h"
 #include "platform/jet/connection_pool.h"
 #include "platform/jet/jet_error.h"
+#include "platform/jet/jet_import.h"
 #include "platform/jet/jet_importer.h"
 #include "platform/log.h"
 
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -40,8 +42,12 @@ QString JetEngine::existingFile(const QString& path) const
 }
 
 /// The store to open for a file, in canonical form as the pool compares it.
-QString JetEngine::storeOf(const QString& native, const QString& password) const
+QString JetEngine::storeOf(const QString& native, const QString& password)
 {
+    // While an import shows its progress, timers run: none of them may begin a second one.
+    if (m_opening)
+        throw jetError(ErrorNumber::kAlreadyInUse, native);
+    const QScopedValueRollback opening(m_opening, true);
     return ConnectionPool::canonical(openableStore(native, password, m_options));
 }
 
@@ -84,6 +90,9 @@ void JetEngine::CompactDatabase(const QString& src, const QString& dst, const QS
     const QString given =
         passwordOf(password).value_or(password.isEmpty() ? m_defaultPassword : password);
     const QString store = storeOf(native, given);
+    // The copy comes over the original: one made of what merely shows it would lose the rest.
+    if (isUserDatabase(native) && !isScratchDatabase(native) && store != native)
+        throw jetError(ErrorNumber::kReadOnly, src);
     // Opening it tells whether the password is right and undoes what a crash left.
     if (!Connection({native, store}, {}).takesPassword(given))
         throw jetError(ErrorNumber::kWrongPassword, src);

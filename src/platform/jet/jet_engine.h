@@ -13,6 +13,7 @@
 namespace lumen {
 
 class ConnectionPool;
+class ImportTalk;
 class JetError;
 
 /// Where the engine finds its import program and keeps what it converted.
@@ -21,11 +22,13 @@ struct JetEngineOptions
     /// Native path of lumen-modules; "" looks beside the program, then in the libexec folder.
     QString importProgram;
     QString cacheFolder; ///< native; "" is $XDG_CACHE_HOME/lumenscript/modules
+    /// Without one nothing incomplete takes the place of a user database, and nobody is told.
+    ImportTalk* talk = nullptr;
 };
 
 /// The database engine (the DBEngine of the program). Paths go through the resolver. A genuine
 /// Jet file is converted on opening: a module into the cache folder, a user database in place after
-/// the original was put aside as "<name>.jet".
+/// the original was put aside as "<name>.jet". A user database that can't be replaced is read only.
 class JetEngine : public OpenFiles
 {
 public:
@@ -43,6 +46,9 @@ public:
     /// Looks a whole file through: throws what OpenDatabase throws, and 3049 when the check finds a
     /// fault. A file that is open stays open.
     void CheckDatabase(const QString& path, const QString& password = {});
+
+    /// Who speaks with the user about imports; must outlive the engine's use, nullptr for nobody.
+    void setImportTalk(ImportTalk* talk) { m_options.talk = talk; }
 
     void setDefaultUser(const QString& user) { m_defaultUser = user; }
     void setDefaultPassword(const QString& password) { m_defaultPassword = password; }
@@ -69,12 +75,13 @@ public:
 
 private:
     QString existingFile(const QString& path) const;
-    QString storeOf(const QString& native, const QString& password) const;
+    QString storeOf(const QString& native, const QString& password);
 
     const PathResolver& m_paths;
     JetEngineOptions m_options;
     std::unique_ptr<ConnectionPool> m_pool;
     std::function<void(const JetError&)> m_commitFailed;
+    bool m_opening = false;
     QString m_defaultUser;
     QString m_defaultPassword;
 };

@@ -32,6 +32,7 @@ constexpr std::array kErrorTexts{
     ErrorText{ErrorNumber::kWrongPassword, u"데이터베이스의 암호가 올바르지 않습니다."},
     ErrorText{ErrorNumber::kAlreadyInUse, u"데이터베이스를 다른 곳에서 사용하고 있습니다."},
     ErrorText{ErrorNumber::kCorrupt, u"데이터베이스 파일이 손상되었습니다."},
+    ErrorText{ErrorNumber::kCancelled, u"데이터베이스 가져오기를 그만두었습니다."},
     ErrorText{ErrorNumber::kUnknownColumn, u"쿼리에 나온 필드를 찾을 수 없습니다."},
     ErrorText{ErrorNumber::kCriterionSyntax, u"쿼리 식에 구문 오류가 있습니다."},
     ErrorText{ErrorNumber::kUnknownTable, u"테이블을 찾을 수 없습니다."},

@@ -45,6 +45,7 @@ inline constexpr int kReadOnly = 3027;
 inline constexpr int kWrongPassword = 3031;
 inline constexpr int kAlreadyInUse = 3045;
 inline constexpr int kCorrupt = 3049;
+inline constexpr int kCancelled = 3059;
 inline constexpr int kUnknownColumn = 3061;
 inline constexpr int kCriterionSyntax = 3075;
 inline constexpr int kUnknownTable = 3078;

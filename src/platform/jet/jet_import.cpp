@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/jet/jet_import.h"
 
+#include "platform/jet/import_talk.h"
 #include "platform/jet/jet_error.h"
 #include "platform/jet/jet_header.h"
+#include "platform/jet/sqlite_statement.h"
+#include "platform/jet/store_layout.h"
 #include "platform/log.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 
+#include <sqlite3.h>
 #include <sys/resource.h>
 
 namespace lumen {
@@ -17,8 +22,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kWallLimitMs = 15'000;
+constexpr int kTalkEveryMs = 100;
 constexpr rlim_t kCpuLimitSeconds = 15;
+/// A sound file takes less than a tenth of it, a damaged one may never end.
+constexpr qint64 kBytesACpuSecond = 1'000'000;
 #ifndef LUMEN_SANITIZE
 constexpr rlim_t kAddressLimitBytes = 1024UL * 1024 * 1024;
 #endif
@@ -30,9 +37,9 @@ void limit(decltype(RLIMIT_CPU) resource, rlim_t value)
 }
 
 /// Runs in the child between fork and exec: system calls only.
-void limitImportProcess()
+void limitImportProcess(rlim_t cpuSeconds)
 {
-    limit(RLIMIT_CPU, kCpuLimitSeconds);
+    limit(RLIMIT_CPU, cpuSeconds);
     limit(RLIMIT_CORE, 0); // a crash on a damaged file is expected and needs no image
 #ifndef LUMEN_SANITIZE
     limit(RLIMIT_AS, kAddressLimitBytes);
@@ -44,6 +51,20 @@ QStringList importArguments(const JetConversion& conversion)
     const bool asText = conversion.compare == StoreCompare::Text;
     return {u"import"_s, u"--compare"_s,    asText ? u"text"_s : u"binary"_s,
             u"--"_s,     conversion.source, conversion.destination};
+}
+
+/// False when the user has ended it.
+bool waitForEnd(QProcess& child, const QString& source, ImportTalk* talk)
+{
+    QElapsedTimer since;
+    since.start();
+    bool wanted = true;
+    // A program that can't be started is told by its state: waiting for it ends at once.
+    while (wanted && !child.waitForFinished(kTalkEveryMs) && child.state() != QProcess::NotRunning)
+        wanted = talk == nullptr || talk->goesOn(source, since.elapsed());
+    if (talk != nullptr)
+        talk->ended();
+    return wanted;
 }
 
 [[noreturn]] void throwFailure(ImportExit exit, const QString& source)
@@ -63,7 +84,12 @@ QStringList importArguments(const JetConversion& conversion)
 bool isUserDatabase(const QString& nativePath)
 {
     const QString name = QFileInfo(nativePath).fileName().toLower();
-    return name.endsWith(u".mdb"_s) || name == u"예화.dts"_s || name == u"z199.dts"_s;
+    return name.endsWith(u".mdb"_s) || name == u"예화.dts"_s || isScratchDatabase(nativePath);
+}
+
+bool isScratchDatabase(const QString& nativePath)
+{
+    return QFileInfo(nativePath).fileName().compare(u"z199.dts", Qt::CaseInsensitive) == 0;
 }
 
 StoreCompare compareOfFile(const QString& nativePath)
@@ -84,7 +110,7 @@ QString findImportProgram()
     return {};
 }
 
-void convertJetFile(const JetConversion& conversion, const QString& importProgram)
+void convertJetFile(const JetConversion& conversion, const QString& importProgram, ImportTalk* talk)
 {
     QProcess child;
     auto environment = QProcessEnvironment::systemEnvironment();
@@ -94,14 +120,20 @@ void convertJetFile(const JetConversion& conversion, const QString& importProgra
     child.setStandardErrorFile(QProcess::nullDevice());
     child.setStandardOutputFile(QProcess::nullDevice());
     child.setStandardInputFile(QProcess::nullDevice());
-    child.setChildProcessModifier(limitImportProcess);
+    const rlim_t cpuSeconds =
+        kCpuLimitSeconds +
+        static_cast<rlim_t>(QFileInfo(conversion.source).size() / kBytesACpuSecond);
+    child.setChildProcessModifier([cpuSeconds] { limitImportProcess(cpuSeconds); });
     child.start(importProgram, importArguments(conversion));
 
-    if (!child.waitForFinished(kWallLimitMs)) {
-        qCWarning(jetLog) << "import of" << conversion.source
-                          << "did not run:" << child.errorString();
+    if (!waitForEnd(child, conversion.source, talk)) {
         child.kill();
         child.waitForFinished();
+        throw jetError(ErrorNumber::kCancelled, conversion.source);
+    }
+    if (child.error() == QProcess::FailedToStart) {
+        qCWarning(jetLog) << "import of" << conversion.source
+                          << "did not run:" << child.errorString();
         throwFailure(ImportExit::Damaged, conversion.source);
     }
     if (child.exitStatus() != QProcess::NormalExit)
@@ -110,6 +142,19 @@ void convertJetFile(const JetConversion& conversion, const QString& importProgra
         throwFailure(static_cast<ImportExit>(child.exitCode()), conversion.source);
     if (databaseKind(readDatabaseHead(conversion.destination)) != DatabaseKind::Store)
         throwFailure(ImportExit::Damaged, conversion.source);
+}
+
+QStringList lossesOf(const QString& store)
+{
+    const SqliteHandle handle(store, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX);
+    // The import notes there what it couldn't read, and nothing else.
+    SqliteStatement lines(
+        handle.get(),
+        u"SELECT key, value FROM %1 ORDER BY rowid"_s.arg(StoreLayout::kOriginTable).toUtf8());
+    QStringList losses;
+    while (lines.step())
+        losses << lines.text(0) + u": "_s + lines.text(1);
+    return losses;
 }
 
 } // namespace lumen

@@ -4,8 +4,11 @@
 #include "platform/jet/store_writer.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace lumen {
+
+class ImportTalk;
 
 /// The exit codes of `lumen-modules import`. Whatever else happens to it counts as Damaged.
 enum class ImportExit {
@@ -32,6 +35,8 @@ struct JetConversion
 
 /// True for the files that the user writes to: .mdb, 예화.dts and z199.dts. All others are modules.
 bool isUserDatabase(const QString& nativePath);
+/// True for z199.dts, the scratch tables: what is lost of them is made anew.
+bool isScratchDatabase(const QString& nativePath);
 /// How the texts of a database compare, told by its file name: as text in .mdb and 예화.dts.
 StoreCompare compareOfFile(const QString& nativePath);
 
@@ -39,10 +44,14 @@ StoreCompare compareOfFile(const QString& nativePath);
 /// "" when there is none.
 QString findImportProgram();
 
-/// Runs the import program on one file, within limits of time and memory, and waits for its end.
-/// Throws JetError: 3343 when the file is damaged or the program didn't end well, 3031, 3183 when
-/// the destination can't be written. May leave a half-made destination: give it a folder that is
-/// removed afterwards.
-void convertJetFile(const JetConversion& conversion, const QString& importProgram);
+/// Runs the import program on one file, within limits of memory and of computing time by the file's
+/// size, and waits for its end or until `talk` (which may be nullptr) ends it. Throws JetError:
+/// 3343 when the file is damaged or the program didn't end well, 3031, 3183 when the destination
+/// can't be written, 3059 when the user ended it. May leave a half-made destination: give it a
+/// folder that is removed afterwards.
+void convertJetFile(const JetConversion& conversion, const QString& importProgram,
+                    ImportTalk* talk = nullptr);
+/// What a converted store lacks of its source, a line each; empty when all came over.
+QStringList lossesOf(const QString& store);
 
 } // namespace lumen

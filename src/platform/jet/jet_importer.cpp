@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/jet/jet_importer.h"
 
+#include "platform/jet/import_talk.h"
 #include "platform/jet/jet_error.h"
 #include "platform/jet/jet_header.h"
 #include "platform/jet/jet_import.h"
@@ -56,7 +57,7 @@ void convertInto(const QString& folder, const QString& source, const QString& pa
     if (!work.isValid())
         throw jetError(ErrorNumber::kWriteFailed, folder);
     const QString made = work.filePath(u"store"_s);
-    convertJetFile({source, made, password, compareOfFile(source)}, program);
+    convertJetFile({source, made, password, compareOfFile(source)}, program, options.talk);
     place(made);
 }
 
@@ -87,10 +88,16 @@ void keepOriginal(const QString& source, const QString& name)
     }
 }
 
-void convertInPlace(const QString& source, const QString& password, const JetEngineOptions& options)
+/// False when something is missing and the user doesn't want it so: all is as before.
+bool convertInPlace(const QString& source, const QString& password, const JetEngineOptions& options)
 {
     const QString folder = QFileInfo(source).absolutePath();
-    convertInto(folder, source, password, options, [&source](const QString& made) {
+    bool taken = false;
+    convertInto(folder, source, password, options, [&](const QString& made) {
+        const QStringList losses = isScratchDatabase(source) ? QStringList() : lossesOf(made);
+        if (!losses.isEmpty() &&
+            (options.talk == nullptr || !options.talk->takesIncomplete(source, losses)))
+            return;
         const QString kept = nameForOriginal(source);
         keepOriginal(source, kept);
         try {
@@ -99,8 +106,10 @@ void convertInPlace(const QString& source, const QString& password, const JetEng
             QFile::remove(kept);
             throw;
         }
+        taken = true;
         qCInfo(jetLog) << source << "was converted, the original is" << kept;
     });
+    return taken;
 }
 
 QString cacheFolderOf(const JetEngineOptions& options)
@@ -141,9 +150,10 @@ QString cachedStore(const QString& source, const QString& password, const JetEng
     return store;
 }
 
-bool isWritableInPlace(const QString& nativePath)
+/// A file that may not be written is replaced all the same: that is the folder's affair.
+bool isReplaceable(const QString& nativePath)
 {
-    return isUserDatabase(nativePath) && QFileInfo(nativePath).isWritable() &&
+    return isUserDatabase(nativePath) &&
            QFileInfo(QFileInfo(nativePath).absolutePath()).isWritable();
 }
 
@@ -164,10 +174,12 @@ QString openableStore(const QString& nativePath, const QString& password,
         throw jetError(ErrorNumber::kWrongPassword, nativePath);
 
     const QString source = QFileInfo(nativePath).canonicalFilePath();
-    if (!isWritableInPlace(source))
-        return cachedStore(source, password, options);
-    convertInPlace(source, password, options);
-    return nativePath;
+    if (isReplaceable(source) && convertInPlace(source, password, options))
+        return nativePath;
+    const QString store = cachedStore(source, password, options);
+    if (options.talk != nullptr && isUserDatabase(source) && !isScratchDatabase(source))
+        options.talk->isReadOnly(source, lossesOf(store));
+    return store;
 }
 
 } // namespace lumen
