@@ -9,6 +9,7 @@
 #include "data/data_store.h"
 #include "data/module_path.h"
 #include "forms/guarded.h"
+#include "forms/import_messages.h"
 #include "forms/lost_file.h"
 #include "platform/files/instance_lock.h"
 #include "platform/jet/jet_engine.h"
@@ -80,6 +81,8 @@ int Main(World& world)
     state.canStore = locked.ok() && takesFiles(services.files, state.AppPath);
     if (!state.canStore)
         services.messages.show(nullptr, kNothingIsStored, {world.programFolder()});
+    ImportMessages importMessages(services.messages);
+    services.jet.setImportTalk(&importMessages);
     state.CdDrive = FindCdDrive(services.drives);
     RegisterFonts(services.fonts);
     // Before a file that is gone is made anew: its backups would be lost with the next two ends.
