@@ -50,6 +50,7 @@ void frm성서::SaveBibleSettings()
     m_settings.RefBarMode = panel->state();
     saveFormGeometry(m_services.registry, geometry::kBible, *this);
     saveReaderSettings(m_services.registry, m_settings, m_state.AppPath);
+    m_services.registry.SetValue(u"TableColumns"_s, hflex본문->StretchShares(), ValueKind::String);
     const Result<Done> stored = m_services.registry.flush();
     m_notStored = stored ? QStringList() : QStringList{stored.failure().detail};
 }

@@ -10,6 +10,7 @@
 #include "platform/dialogs/message_boxes.h"
 #include "platform/dialogs/modal.h"
 #include "platform/files/process_list.h"
+#include "platform/registry/registry_store.h"
 #include "reader/bible_window.h"
 #include "reader/reader_tools.h"
 
@@ -67,6 +68,8 @@ bool frm성서::Form_Load(StartupProgress& splash)
     splash.setProgress(kProgressColors);
     m_state.fonts.mainFont = m_settings.MainFont;
     applyColors();
+    m_services.registry.OpenKey(settingsPath(settings_key::kBible));
+    hflex본문->setStretchShares(m_services.registry.GetValue(u"TableColumns"_s, ValueKind::String));
     loadPlace();
     loadVersions();
     hflex본문->setTag(u"1"_s);

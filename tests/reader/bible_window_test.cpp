@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QContextMenuEvent>
 #include <QDir>
+#include <QHeaderView>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -167,6 +168,40 @@ TEST_F(BibleWindowTest, AViewThatWasScrolledStaysWhereItIs)
     click(u"ID_대역본1-201");
     EXPECT_EQ(grid.TextMatrix(grid.TopRow(), 1), u"4"_s);
     EXPECT_EQ(reader->GetCurVerse(), 1);
+}
+
+TEST_F(BibleWindowTest, DraggedColumnsStayOverChaptersAndStarts)
+{
+    start();
+    click(u"ID_테이블형식");
+    click(u"ID_대역본1-201");
+    QApplication::processEvents();
+    QHeaderView* const header = reader->hflex본문->horizontalHeader();
+    const int room = header->sectionSize(2) + header->sectionSize(3);
+    const auto drag = [header](int col, int by) {
+        const QPoint edge(header->sectionViewportPosition(col) + header->sectionSize(col) - 1, 5);
+        QTest::mousePress(header->viewport(), Qt::LeftButton, {}, edge);
+        QTest::mouseMove(header->viewport(), edge + QPoint(by, 0));
+        QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, edge + QPoint(by, 0));
+    };
+    drag(2, 90);
+    const int wide = header->sectionSize(2);
+    EXPECT_NEAR(wide, room / 2 + 90, 3);
+    EXPECT_EQ(wide + header->sectionSize(3), room) << "the right edge stays";
+    click(u"ID_다음장");
+    EXPECT_NEAR(header->sectionSize(2), wide, 1);
+    start();
+    QHeaderView* const next = reader->hflex본문->horizontalHeader();
+    EXPECT_NEAR(next->sectionSize(2), wide, 1);
+    click(u"ID_대역본2-201");
+    EXPECT_NEAR(next->sectionSize(2), next->sectionSize(3), 1) << "three columns are as they were";
+    click(u"ID_대역본2-없음");
+    EXPECT_NEAR(next->sectionSize(2), wide, 1);
+    const QPoint edge(next->sectionViewportPosition(2) + next->sectionSize(2) - 1, 5);
+    QTest::mousePress(next->viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(next->viewport(), {0, 5});
+    QTest::mouseRelease(next->viewport(), Qt::LeftButton, {}, {0, 5});
+    EXPECT_GT(next->sectionSize(2), 40) << "a word has room";
 }
 
 TEST_F(BibleWindowTest, AHeadingStaysInViewAboveItsVerse)

@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <numeric>
 
 namespace lumen {
 namespace {
@@ -21,6 +22,29 @@ namespace {
 // How long column widths must stand still before texts are divided anew, milliseconds.
 constexpr int kResizeRest = 150;
 constexpr int kLeastColumn = 24; // pixels
+constexpr int kWholeShare = 10000;
+constexpr QStringView kWord = u"예루살렘으로"; // no column gets narrower than such a word
+
+/// Shares `room` out by weight; nobody gets less than his least.
+std::vector<int> shareOut(int room, const std::vector<int>& weights, const std::vector<int>& least)
+{
+    std::vector<int> widths = least;
+    int spare = room - std::accumulate(least.begin(), least.end(), 0);
+    const int whole = std::max(1, std::accumulate(weights.begin(), weights.end(), 0));
+    std::vector<int> wished(weights.size());
+    for (std::size_t at = 0; at < weights.size(); ++at)
+        wished[at] = std::max(0, static_cast<int>(qint64(room) * weights[at] / whole) - least[at]);
+    const int wishes = std::max(1, std::accumulate(wished.begin(), wished.end(), 0));
+    const int given = std::max(0, spare);
+    for (std::size_t at = 0; at < widths.size(); ++at) {
+        const int more = static_cast<int>(qint64(given) * wished[at] / wishes);
+        widths[at] += more;
+        spare -= more;
+    }
+    if (!widths.empty() && spare > 0)
+        widths.back() += spare;
+    return widths;
+}
 
 } // namespace
 
@@ -51,10 +75,12 @@ void FlexGrid::wireHeader()
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(kLeastColumn);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int col) {
         // A drag of the user's tells every pixel; heights follow once it rests.
-        if (!m_fitting)
-            m_resizeTimer.start();
+        if (m_fitting)
+            return;
+        columnDragged(col);
+        m_resizeTimer.start();
     });
     connect(&m_resizeTimer, &QTimer::timeout, this, [this] {
         columnsResized();
@@ -233,27 +259,117 @@ void FlexGrid::setStretchFrom(int firstCol)
     columnsResized();
 }
 
+QList<int> FlexGrid::stretchedColumns() const
+{
+    QList<int> columns;
+    for (int col = std::max(0, m_stretchFrom); m_stretchFrom >= 0 && col < Cols(); ++col)
+        if (!isColumnHidden(col))
+            columns.append(col);
+    return columns;
+}
+
+int FlexGrid::stretchRoom() const
+{
+    int room = viewport()->width();
+    for (int col = 0; col < m_stretchFrom && col < Cols(); ++col)
+        if (!isColumnHidden(col))
+            room -= columnWidth(col);
+    return std::max(0, room);
+}
+
+std::vector<int> FlexGrid::leastWidths(const QList<int>& columns, int room) const
+{
+    std::vector<int> least;
+    for (const int col : columns) {
+        const int word = naturalCellWidth(kWord.toString(), m_model->font(FixedRows(), col));
+        const int even = room / static_cast<int>(columns.size());
+        least.push_back(std::max(kLeastColumn, std::min(word, even)));
+    }
+    return least;
+}
+
+void FlexGrid::setWidths(const QList<int>& columns, const std::vector<int>& widths)
+{
+    const bool before = std::exchange(m_fitting, true);
+    for (qsizetype at = 0; at < columns.size(); ++at)
+        setColumnWidth(columns[at], widths[static_cast<std::size_t>(at)]);
+    m_fitting = before;
+}
+
 void FlexGrid::stretchColumns()
 {
-    if (m_stretchFrom < 0)
+    const QList<int> columns = stretchedColumns();
+    if (columns.isEmpty())
         return;
-    int room = viewport()->width();
-    QList<int> stretched;
-    for (int col = 0; col < Cols(); ++col) {
-        if (isColumnHidden(col))
-            continue;
-        if (col < m_stretchFrom)
-            room -= columnWidth(col);
-        else
-            stretched.append(col);
+    const int room = stretchRoom();
+    const auto dragged = m_shares.find(columns.size());
+    const std::vector<int> weights = dragged != m_shares.end()
+                                         ? dragged->second
+                                         : std::vector<int>(std::size_t(columns.size()), 1);
+    setWidths(columns, shareOut(room, weights, leastWidths(columns, room)));
+}
+
+void FlexGrid::columnDragged(int col)
+{
+    const QList<int> columns = stretchedColumns();
+    const qsizetype at = columns.indexOf(col);
+    if (at < 0)
+        return;
+    // The columns behind make room; those in front stay, and so does the right edge.
+    const int room = stretchRoom();
+    const std::vector<int> least = leastWidths(columns, room);
+    std::vector<int> widths;
+    int before = 0;
+    for (qsizetype left = 0; left < at; ++left) {
+        widths.push_back(columnWidth(columns[left]));
+        before += widths.back();
     }
-    const bool before = std::exchange(m_fitting, true);
-    for (qsizetype left = stretched.size(); left > 0; --left) {
-        const int width = std::max(kLeastColumn, room / static_cast<int>(left));
-        setColumnWidth(stretched[stretched.size() - left], width);
-        room -= width;
+    const auto behind = least.begin() + at + 1;
+    const int most = room - before - std::accumulate(behind, least.end(), 0);
+    const int lowest = at == columns.size() - 1 ? most : least[std::size_t(at)];
+    widths.push_back(std::max(lowest, std::min(columnWidth(col), most)));
+    std::vector<int> weights;
+    for (qsizetype right = at + 1; right < columns.size(); ++right)
+        weights.push_back(columnWidth(columns[right]));
+    const std::vector<int> rest =
+        shareOut(room - before - widths.back(), weights, std::vector<int>(behind, least.end()));
+    widths.insert(widths.end(), rest.begin(), rest.end());
+    setWidths(columns, widths);
+    std::vector<int>& shares = m_shares[columns.size()];
+    shares.clear();
+    for (const int width : widths)
+        shares.push_back(qRound(double(width) * kWholeShare / std::max(1, room)));
+}
+
+QString FlexGrid::StretchShares() const
+{
+    QStringList lists;
+    for (const auto& [count, shares] : m_shares) {
+        QStringList parts;
+        for (const int share : shares)
+            parts << QString::number(share);
+        lists << QString::number(count) + u'=' + parts.join(u',');
     }
-    m_fitting = before;
+    return lists.join(u';');
+}
+
+void FlexGrid::setStretchShares(const QString& shares)
+{
+    m_shares.clear();
+    for (const QString& list : shares.split(u';')) {
+        const QStringList parts = list.section(u'=', 1).split(u',');
+        std::vector<int> weights;
+        for (const QString& part : parts)
+            weights.push_back(part.toInt());
+        const bool sound = list.section(u'=', 0, 0).toInt() == parts.size() &&
+                           std::all_of(weights.begin(), weights.end(), [](int weight) {
+                               return weight > 0 && weight <= kWholeShare;
+                           });
+        if (sound)
+            m_shares[parts.size()] = weights;
+    }
+    stretchColumns();
+    columnsResized();
 }
 
 void FlexGrid::FitColumns()

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -74,6 +75,11 @@ public:
     /// From now on the columns from `firstCol` on share the room that those before leave, evenly,
     /// also when the grid is resized; row heights follow. -1 ends it.
     void setStretchFrom(int firstCol);
+    /// The shares of the room that the user has given to stretched columns by dragging, kept for
+    /// each number of columns: "2=6000,4000;3=5000,3000,2000" in parts of ten thousand. A text that
+    /// is no such list leaves the columns even.
+    QString StretchShares() const;
+    void setStretchShares(const QString& shares);
 
     /// Makes every column as wide as its widest text needs without wrapping. Texts that come later
     /// don't change it.
@@ -167,6 +173,11 @@ private:
     };
     void scrollToCell(const ScrollTarget& target);
     void stretchColumns();
+    QList<int> stretchedColumns() const;
+    int stretchRoom() const;
+    std::vector<int> leastWidths(const QList<int>& columns, int room) const;
+    void setWidths(const QList<int>& columns, const std::vector<int>& widths);
+    void columnDragged(int col);
     void columnsResized();
 
     GridModel* m_model;
@@ -176,6 +187,7 @@ private:
     GridSelection m_mode = GridSelection::Rows;
     std::optional<ScrollTarget> m_scrollOnShow;
     int m_stretchFrom = -1;
+    std::map<qsizetype, std::vector<int>> m_shares; // by the number of stretched columns
     bool m_redraw = true;
     bool m_sized = false;
     bool m_inCode = false;
