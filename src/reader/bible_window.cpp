@@ -164,10 +164,12 @@ void frm성서::wirePanes()
         guarded(m_services, this, [this, &reference] {
             const int verse = GetCurVerse();
             Recordset* const rows = m_slots.dacBasis().Recordset();
-            if (verse < 1 || rows == nullptr || verse > rows->RecordCount())
+            if (verse < 1 || rows == nullptr)
                 return;
-            rows->setAbsolutePosition(verse - 1);
-            reference = BibleCode::IndexToRef(Text(rows->Fields(u"Index")));
+            // By its number: where the chapter has a hole, the n-th record is another verse.
+            rows->FindFirst(u"verse = %1"_s.arg(verse));
+            if (!rows->NoMatch())
+                reference = BibleCode::IndexToRef(Text(rows->Fields(u"Index")));
         });
         return reference;
     };

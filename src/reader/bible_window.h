@@ -176,6 +176,9 @@ private:
     void fillTableView(const std::vector<ChapterSource>& sources);
     QString divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf);
     void placeChanged();
+    /// The verse of the base version that a move to `wanted` ends at, after a message when that
+    /// one isn't there. The chapter has a verse.
+    int verseThereFor(int wanted);
 
     Services& m_services;
     AppState& m_state;

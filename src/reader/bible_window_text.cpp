@@ -126,18 +126,31 @@ void frm성서::Proc이동(QString& reference)
             m_services.messages.show(this, messages::kChapterTooLarge);
         selectBookAndChapter(typed->book, std::max(1, wanted.value));
     }
-    const int verses = m_slots.baseRecordCount();
-    if (verses == 0)
+    if (m_chapter.empty() || m_chapter.front().verses.empty())
         return;
-    const LimitedNumber verse = limitedTo(verses, typed->verse);
-    if (verse.wasTooLarge)
-        m_services.messages.show(this, messages::kVerseTooLarge);
-    const int shown = std::max(1, verse.value);
+    const int shown = verseThereFor(typed->verse);
     Proc절선택표시(shown);
     quickMove->remember(u"%1%2:%3"_s.arg(bookAbbreviation(book())).arg(chapter()).arg(shown));
     // Whoever has typed a place wants to read, mark and copy there.
     if (quickMove->isTyping())
         shownView().setFocus();
+}
+
+int frm성서::verseThereFor(int wanted)
+{
+    const ChapterSource& base = m_chapter.front();
+    const LimitedNumber verse = limitedTo(base.lastVerse(), std::max(1, wanted));
+    if (verse.wasTooLarge)
+        m_services.messages.show(this, messages::kVerseTooLarge);
+    if (base.find(verse.value) != nullptr)
+        return verse.value;
+    // A hole in the chapter: what stands before it is where the reader would look.
+    m_services.messages.show(this, messages::kVerseAbsent);
+    int before = base.verses.front().verse;
+    for (const ChapterVerse& row : base.verses)
+        if (row.verse < verse.value)
+            before = row.verse;
+    return before;
 }
 
 void frm성서::goTo(int book, int chapter, int verse)

@@ -134,6 +134,22 @@ void Composer::row(const ChapterSource& source, const ChapterVerse& verse)
 
 } // namespace
 
+const ChapterVerse* ChapterSource::find(int verse) const
+{
+    const auto found = std::find_if(verses.begin(), verses.end(), [verse](const ChapterVerse& row) {
+        return row.verse == verse;
+    });
+    return found == verses.end() ? nullptr : &*found;
+}
+
+int ChapterSource::lastVerse() const
+{
+    int last = 0;
+    for (const ChapterVerse& row : verses)
+        last = std::max(last, row.verse);
+    return last;
+}
+
 int headWidth(const VerseHead& head, const RtfSettings& settings, const QString& fontName,
               int halfPoints)
 {
@@ -163,13 +179,13 @@ ComposedChapter composeChapter(const std::vector<ChapterSource>& sources, const 
     Composer composer(style, chapter);
     if (style.languageBar)
         composer.languageBarLine();
-    const std::vector<ChapterVerse>& base = sources.front().verses;
-    for (size_t row = 0; row < base.size(); ++row) {
+    for (const ChapterVerse& base : sources.front().verses) {
         const int start = composer.position();
-        for (const ChapterSource& source : sources)
-            if (row < source.verses.size())
-                composer.row(source, source.verses[row]);
-        chapter.positions.add({start, composer.position() - start, base[row].verse});
+        composer.row(sources.front(), base);
+        for (size_t parallel = 1; parallel < sources.size(); ++parallel)
+            if (const ChapterVerse* const verse = sources[parallel].find(base.verse))
+                composer.row(sources[parallel], *verse);
+        chapter.positions.add({start, composer.position() - start, base.verse});
     }
     chapter.rtf += u"}"_s;
     return chapter;

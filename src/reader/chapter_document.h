@@ -30,6 +30,12 @@ struct ChapterSource
     std::vector<ChapterVerse> verses;
     /// Why the module could not be read, "" when it could; there are no verses then.
     QString problem = {};
+
+    /// The verse of that number; nullptr where the version has none.
+    const ChapterVerse* find(int verse) const;
+    /// The highest verse number, 0 without a verse. A chapter may have holes: it is not their
+    /// count.
+    int lastVerse() const;
 };
 
 /// What stands in front of a verse in its first line: number and separator, then the part.
@@ -71,8 +77,8 @@ struct ComposedChapter
 int headWidth(const VerseHead& head, const RtfSettings& settings, const QString& fontName,
               int halfPoints);
 
-/// Composes a chapter. The sources are walked in step: row i of each stands behind row i of the
-/// base, without any comparison of verse numbers; rows beyond the base's last are not shown.
+/// Composes a chapter. Behind each verse of the base stand those of the others that have the same
+/// number; verses that the base has not are not shown.
 ComposedChapter composeChapter(const std::vector<ChapterSource>& sources,
                                const ChapterStyle& style);
 

@@ -14,6 +14,8 @@ inline constexpr MessageText kChapterTooLarge{
     u"절 입력 오류", u"입력하신 장이 실제 장 수보다 큽니다. 마지막 장을 선택합니다.", 48};
 inline constexpr MessageText kVerseTooLarge{
     u"절 입력 오류", u"입력하신 절이 실제 절 수보다 큽니다. 마지막 절을 선택합니다.", 48};
+inline constexpr MessageText kVerseAbsent{
+    u"절 입력 오류", u"기본 역본에는 입력하신 절이 없습니다. 그 앞의 절을 선택합니다.", 48};
 
 inline constexpr MessageText kNotePlaceTaken{
     u"추가 불능", u"동일한 장절에 대한 개인 주석이 이미 존재합니다.", 48};

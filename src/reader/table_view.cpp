@@ -103,20 +103,19 @@ void TableView::addHeading(const ChapterVerse& verse, const TableStyle& style)
     m_verseOfRow.push_back(0);
 }
 
-void TableView::addVerse(const std::vector<ChapterSource>& sources, std::size_t index,
+void TableView::addVerse(const std::vector<ChapterSource>& sources, const ChapterVerse& base,
                          const TableStyle& style)
 {
-    const ChapterVerse& base = sources.front().verses[index];
     addHeading(base, style);
     const int row = m_grid.Rows();
     m_grid.setRows(row + 1);
     m_grid.setTextMatrix(row, kVerseColumn, QString::number(base.verse));
     for (std::size_t at = 0; at < sources.size(); ++at) {
-        if (index >= sources[at].verses.size())
+        const ChapterVerse* const verse = at == 0 ? &base : sources[at].find(base.verse);
+        if (verse == nullptr)
             continue;
         const int col = kFirstVersionColumn + static_cast<int>(at);
-        m_grid.setTextMatrix(row, col,
-                             cellText(sources[at], sources[at].verses[index], col, style));
+        m_grid.setTextMatrix(row, col, cellText(sources[at], *verse, col, style));
     }
     m_verseOfRow.push_back(base.verse);
 }
@@ -131,8 +130,8 @@ void TableView::show(const std::vector<ChapterSource>& sources, const QStringLis
     m_grid.setBackColor(static_cast<RgbLong>(style.colors.BackColor));
     m_grid.setBackColorAlternate(static_cast<RgbLong>(style.colors.AltColor));
     if (!sources.empty())
-        for (std::size_t index = 0; index < sources.front().verses.size(); ++index)
-            addVerse(sources, index, style);
+        for (const ChapterVerse& base : sources.front().verses)
+            addVerse(sources, base, style);
     m_grid.AutoSize();
     if (m_grid.Rows() > 1)
         markRow(qBound(1, m_grid.Tag().toInt(), m_grid.Rows() - 1));
@@ -187,22 +186,17 @@ std::vector<SelectedVerse> TableView::selectedVerses(const std::vector<ChapterSo
     const int anchor = m_grid.Row() > 0 ? m_grid.Row() : m_grid.Tag().toInt();
     const int end = m_grid.RowSel() > 0 ? m_grid.RowSel() : anchor;
     const int first = std::min(anchor, end);
-    const int last = std::max(anchor, end);
+    const int last = std::min(std::max(anchor, end), static_cast<int>(m_verseOfRow.size()) - 1);
     std::vector<SelectedVerse> selected;
-    std::size_t index = 0; // of the verse in its source
-    for (int row = 1; row < static_cast<int>(m_verseOfRow.size()); ++row) {
-        if (m_verseOfRow[static_cast<std::size_t>(row)] == 0)
-            continue;
-        if (row >= first && row <= last)
-            for (const ChapterSource& source : sources)
-                if (index < source.verses.size()) {
-                    const ChapterVerse& verse = source.verses[index];
-                    const bool part = withPart && source.slot == 0;
-                    selected.push_back({source.slot, source.code, verse.verse,
-                                        part ? verse.part + verse.cont : verse.cont});
-                }
-        ++index;
-    }
+    for (int row = std::max(1, first); row <= last; ++row)
+        for (const ChapterSource& source : sources)
+            // A heading row has no verse, and none has its number.
+            if (const ChapterVerse* const verse =
+                    source.find(m_verseOfRow[static_cast<std::size_t>(row)])) {
+                const bool part = withPart && source.slot == 0;
+                selected.push_back({source.slot, source.code, verse->verse,
+                                    part ? verse->part + verse->cont : verse->cont});
+            }
     return selected;
 }
 

@@ -65,7 +65,7 @@ private:
     int verseRowFrom(int row) const;
     int rowOfVerse(int verse) const;
     void addHeading(const ChapterVerse& verse, const TableStyle& style);
-    void addVerse(const std::vector<ChapterSource>& sources, std::size_t index,
+    void addVerse(const std::vector<ChapterSource>& sources, const ChapterVerse& base,
                   const TableStyle& style);
     QString cellText(const ChapterSource& source, const ChapterVerse& verse, int col,
                      const TableStyle& style) const;

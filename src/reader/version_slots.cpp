@@ -95,12 +95,6 @@ ChapterSource VersionSlots::readSource(VersionSlot& slot, int number, const QStr
     }
 }
 
-int VersionSlots::baseRecordCount() const
-{
-    const Recordset* const rows = (*this)(0).control.Recordset();
-    return rows != nullptr ? rows->RecordCount() : 0;
-}
-
 void VersionSlots::close()
 {
     for (const auto& slot : m_slots)

@@ -54,8 +54,6 @@ public:
     /// Without a row in the base version the answer has that one source, empty. Throws JetError.
     std::vector<ChapterSource> readChapter(int book, int chapter,
                                            DocumentKind kind = DocumentKind::Reader);
-    /// The rows of the base version's chapter: its number of verses.
-    int baseRecordCount() const;
     /// Frees the modules.
     void close();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "reader/reader_fixture.h"
 #include "reader/reader_tools.h"
+#include "support/module_files.h"
 
 #include <QAbstractButton>
 #include <QContextMenuEvent>
@@ -376,6 +377,47 @@ TEST_F(BibleWindowTest, TypedReferencesMoveOrTellWhatIsWrong)
     quickMove(u"창 2:9"_s);
     EXPECT_EQ(place(), u"창세기 2장 3절"_s);
     EXPECT_EQ(reader->quickMove->history().first(), u"창2:3"_s);
+}
+
+TEST_F(BibleWindowTest, AChapterWithHolesKeepsItsVerseNumbers)
+{
+    const auto write = [this](const QString& file, const QString& name, const QList<int>& numbers) {
+        QList<PlainVerse> verses;
+        for (const int verse : numbers)
+            verses << PlainVerse{42, 3, verse, u"%1 %2절"_s.arg(name).arg(verse), {}, {}};
+        writeVersion(services.folders.data(file), name, verses);
+    };
+    write(u"101.dts"_s, u"개역한글"_s, {1, 2, 4, 6});
+    write(u"201.dts"_s, u"KJV"_s, {1, 3, 4, 5, 6});
+    start();
+    pickVersion(u"ID_cb대역본1", 201);
+    const auto bookmarked = [this] {
+        QTest::mouseClick(reader->bookmarks->cmd책갈피추가, Qt::LeftButton);
+        return reader->bookmarks->lst책갈피->Text();
+    };
+    for (const QStringView view : {u"ID_텍스트형식", u"ID_테이블형식"}) {
+        SCOPED_TRACE(view.toString().toStdString());
+        click(view);
+        quickMove(u"요 3:6"_s);
+        EXPECT_EQ(place(), u"요한복음 3장 6절"_s);
+        EXPECT_EQ(bookmarked(), u"요3:6"_s);
+        click(u"ID_UnicodeCopy");
+        EXPECT_TRUE(services.clipboard.plainText().startsWith(u"6\t개역한글 6절\r\n6\tKJV 6절"_s))
+            << services.clipboard.plainText().toStdString();
+        services.messages.expect(u"절 입력 오류"_s,
+                                 u"입력하신 절이 실제 절 수보다 큽니다. 마지막 절을 선택합니다."_s,
+                                 48);
+        quickMove(u"요 3:7"_s);
+        EXPECT_EQ(place(), u"요한복음 3장 6절"_s);
+        services.messages.expect(
+            u"절 입력 오류"_s, u"기본 역본에는 입력하신 절이 없습니다. 그 앞의 절을 선택합니다."_s,
+            48);
+        quickMove(u"요 3:5"_s);
+        EXPECT_EQ(place(), u"요한복음 3장 4절"_s);
+    }
+    const FlexGrid& grid = *reader->hflex본문;
+    EXPECT_EQ(grid.TextMatrix(2, 3), QString()) << "KJV has no second verse here";
+    EXPECT_EQ(grid.TextMatrix(3, 3), u"KJV 4절"_s);
 }
 
 TEST_F(BibleWindowTest, EverythingIsThereAgainAtTheNextStart)

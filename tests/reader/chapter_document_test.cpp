@@ -81,7 +81,7 @@ TEST(ChapterDocument, HeadingsAndPiecesFollowTheSwitchAndThePreviewHasBrackets)
     EXPECT_EQ(without, u"\\ltrpar\\ql{\\f5\\fs16\\cf5 1}\t\\f2\\cf0\\fs20 글\\par }"_s);
 }
 
-TEST(ChapterDocument, SourcesWalkInStepAndEndWithTheBase)
+TEST(ChapterDocument, VersesStandBesideThoseOfTheSameNumber)
 {
     const std::vector<ChapterSource> sources{
         {0, 101, {{1, u"가"_s, {}, {}}, {3, QString(), {}, {}}}},
@@ -89,7 +89,7 @@ TEST(ChapterDocument, SourcesWalkInStepAndEndWithTheBase)
         {2, 215, {}},
     };
     const ComposedChapter chapter = composeChapter(sources, plainStyle());
-    EXPECT_EQ(shownText(chapter), u"1\t가\n1\ta\n3\t\n2\tb\n"_s);
+    EXPECT_EQ(shownText(chapter), u"1\t가\n1\ta\n3\t\n3\tc\n"_s);
     EXPECT_TRUE(composeChapter({{0, 101, {}}}, plainStyle()).rtf.isEmpty());
 }
 
