@@ -116,8 +116,9 @@ private:
     /// Where the reader stands in a chapter that comes anew in another look.
     struct KeptPlace
     {
-        int verse = 0; ///< 0: another chapter comes
-        int top = 0;   ///< the verse at the top of the view, 0 the chapter's head
+        int verse = 0;       ///< 0: another chapter comes
+        VerseRange selected; ///< what the selection spans
+        int top = 0;         ///< the verse at the top of the view, 0 the chapter's head
         bool isInView = false;
     };
 

@@ -101,7 +101,7 @@ void frm성서::stepChapter(int step)
     // The chapters of a book go round: behind the last one comes its first.
     ComboBox& chapters = toolCombo(u"ID_cb장");
     const int count = chapters.ListCount();
-    if (count == 0)
+    if (count < 2) // a book of one chapter has no other to go to
         return;
     hflex본문->setTag(u"1"_s);
     chapters.setListIndex((chapters.ListIndex() + step + count) % count);
@@ -177,8 +177,13 @@ void frm성서::Proc절선택표시(int verse)
 void frm성서::Proc현재위치표시()
 {
     const int verse = GetCurVerse();
-    statusPanel2->setText(
-        verse == 0 ? QString() : u"%1 %2장 %3절"_s.arg(bookName(book())).arg(chapter()).arg(verse));
+    QString place;
+    if (verse != 0)
+        place = u"%1 %2장"_s.arg(bookName(book())).arg(chapter());
+    // An empty page has no verse to stand at.
+    if (verse != 0 && !m_chapter.empty() && !m_chapter.front().verses.empty())
+        place += u" %1절"_s.arg(verse);
+    statusPanel2->setText(place);
 }
 
 void frm성서::placeChanged()
@@ -247,7 +252,7 @@ frm성서::KeptPlace frm성서::placeToKeep() const
         return {};
     const auto placeIn = [](auto& view) {
         const int verse = view.currentVerse();
-        return KeptPlace{verse, view.topVerse(), view.isInView(verse)};
+        return KeptPlace{verse, view.selectedRange(), view.topVerse(), view.isInView(verse)};
     };
     return m_shown.mode == ViewMode::Text ? placeIn(m_textView) : placeIn(m_tableView);
 }
@@ -264,11 +269,14 @@ void frm성서::keepPlace(const KeptPlace& kept)
     };
     if (m_settings.ViewMode == ViewMode::Table) {
         m_tableView.selectVerse(kept.verse);
+        m_tableView.selectRange(kept.selected);
         keepIn(m_tableView);
         return;
     }
-    if (kept.verse > 1) // the first one is where the caret stands already
+    // The first verse is where the caret stands already.
+    if (kept.verse > 1 || !kept.selected.empty())
         m_textView.selectVerse(kept.verse);
+    m_textView.selectRange(kept.selected);
     keepIn(m_textView);
 }
 
@@ -318,10 +326,6 @@ void frm성서::Proc텍스트미리보기채우기()
 
 void frm성서::fillTableView(const std::vector<ChapterSource>& sources)
 {
-    if (sources.empty() || sources.front().verses.empty()) {
-        m_tableView.clear();
-        return;
-    }
     TableStyle style;
     style.fontSize = m_settings.FontSize;
     style.showMiniTitle = m_settings.ShowMiniTitle;

@@ -408,6 +408,12 @@ void frm성서::runEdit(EditCommand command)
         copySelection(OriginalText::FontCodes);
     else
         runEditCommand(command, editTarget(*this), m_services.clipboard);
+    if (command == EditCommand::SelectAll && copiesVerses()) {
+        // No key or button of the view's own has told of the new place.
+        if (m_settings.ViewMode == ViewMode::Table)
+            m_tableView.markRow(hflex본문->RowSel());
+        placeChanged();
+    }
 }
 
 } // namespace lumen

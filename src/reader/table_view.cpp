@@ -173,11 +173,29 @@ int TableView::currentVerse()
 
 QString TableView::currentRange()
 {
-    const int first = verseOfRow(m_grid.Row());
-    const int last = verseOfRow(m_grid.RowSel());
-    if (first == 0 || last == 0)
-        return QString::number(currentVerse());
-    return verseRangeText(first, last);
+    if (const VerseRange selected = selectedRange(); !selected.empty())
+        return verseRangeText(selected.first, selected.last);
+    const int below = verseOfRow(m_grid.Row());
+    return QString::number(below == 0 ? currentVerse() : below);
+}
+
+VerseRange TableView::selectedRange() const
+{
+    VerseRange range;
+    const int rows = static_cast<int>(m_verseOfRow.size());
+    const int last = std::min(std::max(m_grid.Row(), m_grid.RowSel()), rows - 1);
+    for (int row = std::max(1, std::min(m_grid.Row(), m_grid.RowSel())); row <= last; ++row)
+        if (const int verse = m_verseOfRow[static_cast<std::size_t>(row)]; verse != 0)
+            range.add(verse);
+    return range;
+}
+
+void TableView::selectRange(const VerseRange& range)
+{
+    const int first = rowOfVerse(range.first);
+    const int last = rowOfVerse(range.last);
+    if (first > 0 && last > 0)
+        m_grid.select(first, last);
 }
 
 std::vector<SelectedVerse> TableView::selectedVerses(const std::vector<ChapterSource>& sources,
@@ -185,8 +203,10 @@ std::vector<SelectedVerse> TableView::selectedVerses(const std::vector<ChapterSo
 {
     const int anchor = m_grid.Row() > 0 ? m_grid.Row() : m_grid.Tag().toInt();
     const int end = m_grid.RowSel() > 0 ? m_grid.RowSel() : anchor;
-    const int first = std::min(anchor, end);
-    const int last = std::min(std::max(anchor, end), static_cast<int>(m_verseOfRow.size()) - 1);
+    int first = std::min(anchor, end);
+    int last = std::min(std::max(anchor, end), static_cast<int>(m_verseOfRow.size()) - 1);
+    if (first == last)
+        first = last = verseRowFrom(first);
     std::vector<SelectedVerse> selected;
     for (int row = std::max(1, first); row <= last; ++row)
         for (const ChapterSource& source : sources)

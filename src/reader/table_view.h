@@ -45,7 +45,12 @@ public:
     int currentVerse();
     /// "3", or "3-5" for several selected rows.
     QString currentRange();
-    /// The verses of the selected rows in all columns, without the rows' headings.
+    /// The verses of the selected rows; a heading row between or behind them adds none.
+    VerseRange selectedRange() const;
+    /// Selects the rows of verses; when one end is not there nothing changes. The mark stays.
+    void selectRange(const VerseRange& range);
+    /// The verses of the selected rows in all columns, without the rows' headings; that below for a
+    /// heading row alone.
     std::vector<SelectedVerse> selectedVerses(const std::vector<ChapterSource>& sources,
                                               bool withPart) const;
     /// Marks and selects a verse and scrolls to it and its heading; a verse that is not there

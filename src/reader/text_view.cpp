@@ -31,12 +31,23 @@ int TextView::currentVerse() const
 
 QString TextView::currentRange() const
 {
+    const VerseRange selected = selectedRange();
+    return selected.empty() ? QString::number(currentVerse())
+                            : verseRangeText(selected.first, selected.last);
+}
+
+VerseRange TextView::selectedRange() const
+{
     const int start = m_txCont.SelStart();
-    const int length = m_txCont.SelLength();
-    // A selection that ends where the next verse begins does not reach into that verse, though a
-    // caret there stands in it.
-    const int end = length > 0 ? start + length - 1 : start;
-    return verseRangeText(m_positions.verseAt(start), m_positions.verseAt(end));
+    return rangeBetween(m_rows, start, start + m_txCont.SelLength());
+}
+
+void TextView::selectRange(const VerseRange& range)
+{
+    const std::optional<VersePosition> first = m_positions.find(range.first);
+    const std::optional<VersePosition> last = m_positions.find(range.last);
+    if (first && last)
+        m_txCont.select(first->start, last->start + last->length - 1 - first->start);
 }
 
 void TextView::selectVerse(int verse)

@@ -20,6 +20,10 @@ public:
     int currentVerse() const;
     /// "3", or "3-5" for a selection over several verses.
     QString currentRange() const;
+    /// The verses that the selection holds something of.
+    VerseRange selectedRange() const;
+    /// Selects verses whole, without scrolling to them; when one end is not there nothing changes.
+    void selectRange(const VerseRange& range);
     /// Selects a verse and scrolls to it; a verse that is not there changes nothing.
     void selectVerse(int verse);
     /// The verse at the top of the view; 0 at the head of the chapter.

@@ -274,8 +274,14 @@ TEST_F(BibleWindowTest, ABaseVersionWithoutTheBookEmptiesTheViews)
     start();
     pickVersion(u"ID_cb기본버전", 215);
     EXPECT_EQ(reader->txCont->Text(), QString());
+    EXPECT_EQ(place(), u"창세기 1장"_s);
     click(u"ID_테이블형식");
     EXPECT_EQ(reader->hflex본문->Rows(), 1);
+    EXPECT_EQ(reader->hflex본문->TextMatrix(0, 2), combo(u"ID_cb기본버전").Text());
+    pickVersion(u"ID_cb기본버전", 101);
+    EXPECT_EQ(reader->hflex본문->TextMatrix(0, 2), u"개역한글"_s);
+    pickVersion(u"ID_cb기본버전", 215);
+    EXPECT_EQ(reader->hflex본문->TextMatrix(0, 2), combo(u"ID_cb기본버전").Text());
     quickMove(u"창 1:3"_s); // selects nothing and says nothing
     combo(u"ID_cb책명").setListIndex(42);
     EXPECT_EQ(reader->hflex본문->Rows(), 6);
@@ -349,7 +355,7 @@ TEST_F(BibleWindowTest, TheChapterWindowGoesToAChapter)
     press(Qt::Key_Down);
     press(Qt::Key_Right);
     press(Qt::Key_Return);
-    EXPECT_EQ(place(), u"창세기 12장 1절"_s) << "ten chapters a row";
+    EXPECT_EQ(place(), u"창세기 12장"_s) << "ten chapters a row";
     click(u"ID_성서책18");
     EXPECT_EQ(combo(u"ID_cb책명").Text(), u"시편"_s);
     EXPECT_EQ(combo(u"ID_cb장").count(), 150);
@@ -418,6 +424,72 @@ TEST_F(BibleWindowTest, AChapterWithHolesKeepsItsVerseNumbers)
     const FlexGrid& grid = *reader->hflex본문;
     EXPECT_EQ(grid.TextMatrix(2, 3), QString()) << "KJV has no second verse here";
     EXPECT_EQ(grid.TextMatrix(3, 3), u"KJV 4절"_s);
+}
+
+TEST_F(BibleWindowTest, ABookOfOneChapterStaysAtItsVerse)
+{
+    writeVersion(services.folders.data(u"101.dts"_s), u"개역한글"_s,
+                 {{64, 1, 1, u"하나"_s, {}, {}}, {64, 1, 2, u"둘"_s, {}, {}}});
+    start();
+    click(u"ID_테이블형식");
+    quickMove(u"유 1:2"_s);
+    for (const QStringView step : {u"ID_다음장", u"ID_이전장"}) {
+        click(step);
+        EXPECT_EQ(reader->hflex본문->TextMatrix(2, 0), u"▶"_s);
+        EXPECT_EQ(reader->GetCurVerse(), 2);
+        EXPECT_EQ(place(), u"유다서 1장 2절"_s);
+    }
+}
+
+TEST_F(BibleWindowTest, ASelectionIsNamedCopiedAndKeptByItsVerses)
+{
+    start();
+    TextControl& text = *reader->txCont;
+    const auto at = [&text](const QString& piece) {
+        return static_cast<int>(text.Text().indexOf(piece));
+    };
+    const auto copied = [this] {
+        click(u"ID_UnicodeCopy");
+        return services.clipboard.plainText();
+    };
+    // From the first verse into the heading of the third.
+    const int first = at(u"1\t"_s + TinyData::text(101, 0, 1, 1));
+    text.select(first, at(u"둘째 제목"_s) + 2 - first);
+    EXPECT_EQ(reader->GetCurVerseRange(), u"1-2"_s);
+    EXPECT_TRUE(copied().endsWith(u"(개역한글 창1:1~2)"_s)) << copied().toStdString();
+    for (const QStringView look : {u"ID_글자크기5", u"ID_테이블형식", u"ID_글자크기2",
+                                   u"ID_소주제표시", u"ID_소주제표시", u"ID_텍스트형식"}) {
+        click(look);
+        EXPECT_EQ(reader->GetCurVerseRange(), u"1-2"_s) << look.toString().toStdString();
+    }
+    quickMove(u"창 1:1"_s);
+    click(u"ID_글자크기3");
+    EXPECT_GT(text.SelLength(), 0) << "the first verse too";
+
+    text.select(at(u"지어낸 둘째"_s), 6);
+    EXPECT_EQ(copied().section(u" ("_s, 0, 0), u"지어낸 둘째"_s);
+    quickMove(u"창 1:2"_s);
+    text.setFocus();
+    click(u"ID_전체선택");
+    EXPECT_EQ(place(), u"창세기 1장 1절"_s);
+    EXPECT_EQ(reader->GetCurVerseRange(), u"1-31"_s);
+}
+
+TEST_F(BibleWindowTest, AHeadingRowStandsForTheVerseBelow)
+{
+    start();
+    click(u"ID_테이블형식");
+    quickMove(u"창 1:2"_s);
+    QTest::keyClick(reader->hflex본문, Qt::Key_Down);
+    ASSERT_EQ(reader->hflex본문->TextMatrix(reader->hflex본문->RowSel(), 2),
+              u"『지어낸 둘째 제목』"_s);
+    EXPECT_EQ(place(), u"창세기 1장 3절"_s);
+    click(u"ID_UnicodeCopy");
+    EXPECT_EQ(services.clipboard.plainText(),
+              u"3\t"_s + TinyData::text(101, 0, 1, 3) + u" (개역한글 창1:3)"_s);
+    quickMove(u"창 1:2"_s);
+    QTest::keyClick(reader->hflex본문, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(reader->GetCurVerseRange(), u"2"_s);
 }
 
 TEST_F(BibleWindowTest, EverythingIsThereAgainAtTheNextStart)
