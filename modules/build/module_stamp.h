@@ -8,7 +8,7 @@
 namespace lumen {
 
 /// The version of the rules by which modules are made; a module of other rules is made anew.
-inline constexpr int kBuilderVersion = 6;
+inline constexpr int kBuilderVersion = 7;
 
 /// The keys of the origin lines that hold the stamp and the version of the rules.
 inline constexpr QStringView kStampKey = u"stamp";

@@ -44,7 +44,7 @@ void makeReference(const ReferenceTask& task, OriginalCorpus& corpus, const QStr
         outcome.state = ModuleState::UpToDate;
         return;
     }
-    ModuleStore store(file,
+    ModuleStore store(file, task.use,
                       {{u"source"_s, task.origin},
                        {u"licence"_s, task.licence},
                        {u"built"_s, QDate::currentDate().toString(Qt::ISODate)},

@@ -73,7 +73,7 @@ Result<Done> writeVersionModule(const QString& file, const ModuleLabel& label,
                                 const VersionText& version,
                                 const std::function<bool(double)>& advance)
 {
-    StoreWriter writer(file, StoreCompare::Binary);
+    StoreWriter writer(file, StoreCompare::Binary, StoreUse::OnlyRead);
     writer.setPassword(kModulePassword.toString());
     for (const auto& [key, value] : label.originLines)
         writer.addOriginLine(key, value);

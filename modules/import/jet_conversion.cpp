@@ -57,7 +57,10 @@ ImportExit convert(const JetConversion& conversion, const JetHeader& header,
     const auto reader = JetFileReader::open(conversion.source, header);
     if (!reader)
         return ImportExit::Damaged;
-    StoreWriter writer(conversion.destination, conversion.compare);
+    // Only the user's own databases, which compare texts loosely, are written to later on.
+    const StoreUse use =
+        conversion.compare == StoreCompare::Binary ? StoreUse::OnlyRead : StoreUse::Written;
+    StoreWriter writer(conversion.destination, conversion.compare, use);
     copyRows(*reader, writer, report);
     if (isTooDamaged(report))
         return ImportExit::Damaged;

@@ -15,9 +15,9 @@ constexpr std::size_t kRowsPerStep = 1000;
 
 } // namespace
 
-ModuleStore::ModuleStore(const QString& file,
+ModuleStore::ModuleStore(const QString& file, StoreUse use,
                          const std::vector<std::pair<QString, QString>>& origin, Advance advance)
-    : m_writer(file, StoreCompare::Binary), m_advance(std::move(advance))
+    : m_writer(file, StoreCompare::Binary, use), m_advance(std::move(advance))
 {
     m_writer.setPassword(kModulePassword.toString());
     for (const auto& [key, value] : origin)

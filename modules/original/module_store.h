@@ -21,8 +21,8 @@ public:
     using Advance = std::function<bool(double share)>;
 
     /// `origin` are the lines on source, licence and making.
-    ModuleStore(const QString& file, const std::vector<std::pair<QString, QString>>& origin,
-                Advance advance);
+    ModuleStore(const QString& file, StoreUse use,
+                const std::vector<std::pair<QString, QString>>& origin, Advance advance);
 
     /// The number of rows that are to come, for the share that is done.
     void expect(std::size_t rows) { m_expected = rows; }

@@ -35,6 +35,7 @@ struct ReferenceTask
     FillModule fill = nullptr;
     /// What enriches the module when it is there. A module that has it is not made anew without it.
     QStringList enrichment;
+    StoreUse use = StoreUse::OnlyRead;
 };
 
 /// All of them, whether their sources are there or not.

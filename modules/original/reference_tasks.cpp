@@ -45,6 +45,7 @@ std::vector<ReferenceTask> referenceTasks(const OriginalSources& sources)
     tasks.push_back(textTask(u"z103"_s, u"파싱 검색"_s, sources, fillParsingSearch));
     tasks.push_back(
         {u"z199"_s, u"원어 검색의 작업 표"_s, {}, u"이 프로그램"_s, {}, {}, fillScratchTables, {}});
+    tasks.back().use = StoreUse::Written;
     ReferenceTask hebrew =
         textTask(u"StrongDicH"_s, u"히브리어 스트롱 사전"_s, sources, fillHebrewStrong);
     hebrew.enrichment = sources.koreanFiles;

@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kSmallPage = 4096;
+constexpr int kLargePage = 65536; // the largest that SQLite has
 constexpr int kOpenFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
 
 struct Table
@@ -77,13 +79,14 @@ QString insertText(const TableSchema& schema)
 class StoreWriter::Impl
 {
 public:
-    Impl(const QString& nativePath, StoreCompare compare)
+    Impl(const QString& nativePath, StoreCompare compare, StoreUse use)
         : file(nativePath), handle(std::make_unique<SqliteHandle>(file.path(), kOpenFlags))
     {
         // Nothing of a failed store is kept, so it needs no journal; one sync comes at the end.
-        run(u"PRAGMA page_size=4096; PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;"
+        run(u"PRAGMA page_size=%1; PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;"
             "PRAGMA locking_mode=EXCLUSIVE; PRAGMA cache_size=-65536; PRAGMA encoding='UTF-8';"
-            "PRAGMA application_id=%1; PRAGMA user_version=%2; BEGIN"_s
+            "PRAGMA application_id=%2; PRAGMA user_version=%3; BEGIN"_s
+                .arg(use == StoreUse::OnlyRead ? kLargePage : kSmallPage)
                 .arg(StoreLayout::kApplicationId)
                 .arg(StoreLayout::kVersion));
         keyValueTable(StoreLayout::kStoreTable);
@@ -136,8 +139,8 @@ public:
     std::map<QString, Table> tables;
 };
 
-StoreWriter::StoreWriter(const QString& nativePath, StoreCompare compare)
-    : m_impl(std::make_unique<Impl>(nativePath, compare))
+StoreWriter::StoreWriter(const QString& nativePath, StoreCompare compare, StoreUse use)
+    : m_impl(std::make_unique<Impl>(nativePath, compare, use))
 {
 }
 
