@@ -67,7 +67,6 @@ dlogUserVersionPref::dlogUserVersionPref(Services& services, ReaderPlace& reader
 void dlogUserVersionPref::fillLists()
 {
     const QStringList families = m_services.fonts.families();
-    const FontSettings defaults = defaultFontSettings();
     for (int index = 0; index < kUserVersionCount; ++index) {
         const int slot = index + 1;
         // The longest name of all fonts would make the dialog wider than a small screen.
@@ -83,21 +82,20 @@ void dlogUserVersionPref::fillLists()
         cbFont(index)->setListIndex(cbFont(index)->findItem(preferred));
         for (const char16_t* size : kSizes)
             cbSize(index)->AddItem(QString::fromUtf16(size));
-        showItem(*cbSize(index), defaults.userFonts[static_cast<std::size_t>(index)].size);
     }
 }
 
 void dlogUserVersionPref::showStored()
 {
+    // The sizes that the text is shown in: a stored one out of all limits isn't.
+    const auto shown = GetUserFontSize(m_services.registry);
     m_services.registry.OpenKey(settingsPath(settings_key::kBible));
     for (int index = 0; index < kUserVersionCount; ++index) {
         const QString slot = QString::number(index + 1);
         const QString font = m_services.registry.GetValue(u"UserFont"_s + slot, ValueKind::String);
-        const QString size = m_services.registry.GetValue(u"UserSize"_s + slot, ValueKind::String);
         if (!font.isEmpty())
             showItem(*cbFont(index), font);
-        if (!size.isEmpty())
-            showItem(*cbSize(index), size);
+        showItem(*cbSize(index), shown[static_cast<std::size_t>(index)].size);
     }
 }
 

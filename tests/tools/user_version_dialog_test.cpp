@@ -48,9 +48,11 @@ TEST_F(UserVersionDialogTest, StoredValuesAreShownAlsoWhenTheListsLackThem)
     world.registry.SetValue(u"UserSize2"_s, u"72"_s, ValueKind::String);
     world.registry.SetValue(u"UserFont6"_s, u"Unknown"_s, ValueKind::String);
     world.registry.SetValue(u"UserSize6"_s, u"13"_s, ValueKind::String);
+    world.registry.SetValue(u"UserSize7"_s, u"1000000"_s, ValueKind::String);
     dlogUserVersionPref dialog(world.services, reader);
     EXPECT_EQ(dialog.cbFont(1)->Text(), u"굴림"_s);
     EXPECT_EQ(dialog.cbSize(1)->Text(), u"72"_s);
+    EXPECT_EQ(dialog.cbSize(6)->Text(), u"9"_s) << "a mad one is shown as the text is";
     dialog.show();
     QTest::mouseClick(dialog.cmdOK, Qt::LeftButton);
     EXPECT_EQ(stored(u"UserFont6"_s), u"Unknown"_s);
