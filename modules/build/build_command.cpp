@@ -6,7 +6,7 @@
 #include "build/build_run.h"
 #include "common/console.h"
 #include "common/interruption.h"
-#include "platform/jet/pending_file.h"
+#include "platform/temporary_file.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -51,7 +51,7 @@ int build(const BuildOptions& options)
         printError(u"폴더를 만들 수 없습니다: %1"_s.arg(options.outFolder));
         return kExitFailed;
     }
-    PendingFile::removeLeftovers(options.outFolder);
+    removeLeftovers(options.outFolder, [](const QString& name) { return name.endsWith(u".dts"); });
     for (const QString& remark : plan.value().remarks)
         printLine(remark);
     printLine(u"모듈을 둘 폴더: %1"_s.arg(options.outFolder));

@@ -7,6 +7,7 @@
 #include "data/check_data.h"
 #include "data/compact_and_backup.h"
 #include "data/data_store.h"
+#include "data/leftovers.h"
 #include "data/module_path.h"
 #include "forms/guarded.h"
 #include "forms/import_messages.h"
@@ -14,6 +15,7 @@
 #include "platform/files/instance_lock.h"
 #include "platform/jet/jet_engine.h"
 #include "platform/log.h"
+#include "platform/registry/registry_store.h"
 #include "reader/bible_window.h"
 #include "tools/about_window.h"
 
@@ -46,7 +48,7 @@ constexpr MessageText kNothingIsStored{
 /// Whether files can be made in the Data folder now: a full disc takes new names but no bytes.
 bool takesFiles(FileSystem& files, const QString& appPath)
 {
-    const QString trial = joinedPath(appPath, u"\\Data\\.lumenscript.trial");
+    const QString trial = joinedPath(appPath, QString(u"\\Data"_s + kStoreTrial.toString()));
     const bool written = files.CreateFolder(joinedPath(appPath, u"\\Data")).ok() &&
                          files.writeAll(trial, QByteArray(kTrialBytes, '\0')).ok();
     if (files.FileExists(trial))
@@ -77,6 +79,7 @@ int Main(World& world)
         services.messages.show(nullptr, kRunsAlready);
         return 1;
     }
+    removeUserLeftovers(state.AppPath, settingsFile(), world.drives());
     // Reading needs no place to write to: who can't store anything is told so once and reads on.
     state.canStore = locked.ok() && takesFiles(services.files, state.AppPath);
     if (!state.canStore)

@@ -100,11 +100,6 @@ bool isEmpty(const QString& path, const FileSystem& files)
     return bytes && bytes.value().isEmpty();
 }
 
-QString backupFolder(const QString& appPath)
-{
-    return appPath.left(2) + u"\\OrvaneBackup"_s;
-}
-
 QString failureText(const Result<Done>& result)
 {
     return result ? QString() : result.failure().detail;
@@ -149,6 +144,11 @@ QString newestSoundBackup(const QString& appPath, const UserFile& file, JetEngin
 }
 
 } // namespace
+
+QString backupFolder(const QString& appPath)
+{
+    return appPath.left(2) + u"\\OrvaneBackup"_s;
+}
 
 QString CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
                          FileSystem& files)

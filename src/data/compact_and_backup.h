@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <array>
 #include <optional>
 
 namespace lumen {
@@ -47,7 +48,12 @@ inline constexpr UserFile kQuietTime{u"\\QT.mdb",    u"\\QTc.mdb", u"\\QT.mdb",
 inline constexpr UserFile kIllustrations{u"\\예화.dts",    u"\\예화c.dts", u"\\예화.dts",
                                          u"\\예화bak.dts", u"qolvetrinam", true};
 inline constexpr UserFile kSearchScratch{u"\\z199.dts", u"\\z199c.dts", u"", u"", u"qolvetrinam"};
+inline constexpr std::array kAll{kNotes,     kBookmarks,     kSermons,      kAddresses,
+                                 kQuietTime, kIllustrations, kSearchScratch};
 } // namespace user_file
+
+/// The program's path of the folder that holds the backups.
+QString backupFolder(const QString& appPath);
 
 /// Compacts a user file in \Data and copies it to the folder \OrvaneBackup of the program's drive,
 /// which keeps the last two generations. The file must be closed. A failed compaction leaves the

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/compact_and_backup.h"
 #include "data/data_store.h"
+#include "data/leftovers.h"
 #include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_error.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
-#include <sqlite3.h>
 
 namespace lumen {
 namespace {
@@ -306,6 +310,57 @@ TEST_F(DataStoreTest, BookmarksAreBackedUpOnlyWhenThereAreAny)
     QFile::remove(services.folders.data(u"bmk.bmf"_s));
     closeProgram(user_file::kBookmarks);
     EXPECT_EQ(bytes(backup(u"bmkbak.bmf"_s)), "1") << "a lost file doesn't cost a generation";
+}
+
+TEST_F(DataStoreTest, AStartTakesAwayWhatAKillLeftOfItsOwnFilesAndNothingElse)
+{
+    create();
+    QProcess ended;
+    ended.start(u"true"_s, QStringList());
+    ASSERT_TRUE(ended.waitForStarted());
+    const QString dead = QString::number(ended.processId());
+    ended.waitForFinished();
+    const QString alive = QString::number(QCoreApplication::applicationPid());
+    struct Case
+    {
+        QString name; // below the drive's root
+        bool goes;
+    };
+    const QString data = u"lumenscript/Data/"_s;
+    const std::vector<Case> cases{
+        {data + u".myc.mdb.new-%1-0"_s, true},
+        {data + u".MYC.mdb.new-%1-12"_s, true},
+        {data + u".myc.mdb.damaged-2.new-%1-0"_s, true},
+        {data + u".설교매니저c.mdb.new-%1-0-journal"_s, true},
+        {data + u"..lumenscript.trial.new-%1-0"_s, true},
+        {u"OrvaneBackup/.bmkbak.bmf.new-%1-0"_s, true},
+        {u"elsewhere/.linked.bmf.new-%1-0"_s, true},
+        {u"config/.settings.new-%1-0"_s, true},
+        {data + u".myc.mdb.new-"_s + alive + u"-0"_s, false},
+        {data + u".sermons.mdb.new-%1-0"_s, false},
+        {data + u".myc.mdb.new-%1"_s, false},
+        {data + u".myc.mdb.new-%1-0.txt"_s, false},
+        {data + u"myc.mdb.new-%1-0"_s, false},
+        {u"config/.bmk.bmf.new-%1-0"_s, false},
+    };
+    const QDir root(services.folders.root());
+    for (const QString& folder : {u"OrvaneBackup"_s, u"elsewhere"_s, u"config"_s})
+        root.mkpath(folder);
+    ASSERT_TRUE(services.files.writeAll(root.filePath(u"elsewhere/linked.bmf"_s), "창1:1\r\n"));
+    ASSERT_TRUE(
+        QFile::link(root.filePath(u"elsewhere/linked.bmf"_s), services.folders.data(u"bmk.bmf"_s)));
+    const auto native = [&](const Case& each) {
+        return root.filePath(each.name.contains(u"%1") ? each.name.arg(dead) : each.name);
+    };
+    for (const Case& each : cases)
+        ASSERT_TRUE(services.files.writeAll(native(each), "half"));
+
+    removeUserLeftovers(services.state.AppPath, root.filePath(u"config/settings"_s),
+                        services.drives);
+
+    for (const Case& each : cases)
+        EXPECT_EQ(QFile::exists(native(each)), !each.goes) << each.name.toStdString();
+    EXPECT_TRUE(services.files.FileExists(path(u"myc.mdb"_s)));
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/files/safe_write.h"
 
+#include "platform/temporary_file.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -15,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace lumen {
 namespace {
-
-constexpr mode_t kNewFileMode = 0666; // less what the user's umask takes away
 
 QString targetOf(const QString& path)
 {
@@ -68,30 +68,19 @@ SafeWrite::~SafeWrite()
 
 bool SafeWrite::create()
 {
-    const QFileInfo target(m_target);
     struct stat former
     {
     };
     const bool replaces = ::stat(QFile::encodeName(m_target).constData(), &former) == 0;
     if (replaces && ::access(QFile::encodeName(m_target).constData(), W_OK) != 0)
         return false; // a file that the user has locked is not to be replaced either
-    for (int number = 0;; ++number) {
-        const QByteArray name =
-            QFile::encodeName(u"%1/.%2.new-%3-%4"_s.arg(target.path(), target.fileName())
-                                  .arg(::getpid())
-                                  .arg(number));
-        m_descriptor =
-            ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
-        if (m_descriptor >= 0) {
-            m_temporary = name;
-            // A share that knows no modes keeps its own.
-            if (replaces && ::fchmod(m_descriptor, former.st_mode & 07777) != 0 && errno != EPERM)
-                return false;
-            return true;
-        }
-        if (errno != EEXIST)
-            return false;
-    }
+    QString path;
+    m_descriptor = createTemporary(m_target, O_WRONLY, path);
+    if (m_descriptor < 0)
+        return false;
+    m_temporary = QFile::encodeName(path);
+    // A share that knows no modes keeps its own.
+    return !replaces || ::fchmod(m_descriptor, former.st_mode & 07777) == 0 || errno == EPERM;
 }
 
 void SafeWrite::fail()

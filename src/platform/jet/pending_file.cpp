@@ -2,14 +2,12 @@
 #include "platform/jet/pending_file.h"
 
 #include "platform/jet/jet_error.h"
+#include "platform/temporary_file.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -20,8 +18,6 @@ namespace lumen {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr mode_t kFileMode = 0666; // less what the user's umask takes away
 
 JetError writeFailed(const QString& path)
 {
@@ -40,36 +36,12 @@ bool syncPath(const QByteArray& path, int flags)
 
 } // namespace
 
-void PendingFile::removeLeftovers(const QString& folder)
-{
-    static const QRegularExpression form(uR"(^\..+\.new-(\d+)-\d+(-journal)?$)"_s);
-    const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden);
-    for (const QString& name : names) {
-        const auto match = form.match(name);
-        if (!match.hasMatch())
-            continue;
-        const bool runs = ::kill(match.captured(1).toInt(), 0) == 0 || errno != ESRCH;
-        if (!runs)
-            QFile::remove(folder + u'/' + name);
-    }
-}
-
 PendingFile::PendingFile(const QString& destination) : m_destination(destination)
 {
-    const QFileInfo target(destination);
-    for (int number = 0;; ++number) {
-        m_path = u"%1/.%2.new-%3-%4"_s.arg(target.absolutePath(), target.fileName())
-                     .arg(::getpid())
-                     .arg(number);
-        const int descriptor = ::open(QFile::encodeName(m_path).constData(),
-                                      O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, kFileMode);
-        if (descriptor >= 0) {
-            ::close(descriptor);
-            return;
-        }
-        if (errno != EEXIST)
-            throw writeFailed(destination);
-    }
+    const int descriptor = createTemporary(destination, O_RDWR, m_path);
+    if (descriptor < 0)
+        throw writeFailed(destination);
+    ::close(descriptor);
 }
 
 PendingFile::~PendingFile()

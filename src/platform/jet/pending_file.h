@@ -18,10 +18,6 @@ public:
 
     const QString& path() const { return m_path; }
 
-    /// Takes away what programs that were killed have left half-made in a folder. Files of a
-    /// program that still runs stay.
-    static void removeLeftovers(const QString& folder);
-
     enum class Existing { Replace, Refuse };
     /// Brings the bytes to the disc and renames. Errors: 3183; 3204 when the destination exists and
     /// is not to be replaced.
