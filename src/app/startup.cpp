@@ -82,9 +82,11 @@ int Main(World& world)
     removeUserLeftovers(state.AppPath, settingsFile(), world.drives());
     // Reading needs no place to write to: who can't store anything is told so once and reads on.
     state.canStore = locked.ok() && takesFiles(services.files, state.AppPath);
-    if (!state.canStore)
-        services.messages.show(nullptr, kNothingIsStored, {world.programFolder()});
     ImportMessages importMessages(services.messages);
+    if (!state.canStore) {
+        services.messages.show(nullptr, kNothingIsStored, {world.programFolder()});
+        importMessages.setNothingIsStored();
+    }
     services.jet.setImportTalk(&importMessages);
     state.CdDrive = FindCdDrive(services.drives);
     RegisterFonts(services.fonts);

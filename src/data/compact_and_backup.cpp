@@ -4,6 +4,7 @@
 #include "data/module_path.h"
 #include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_error.h"
+#include "platform/jet/jet_header.h"
 #include "platform/log.h"
 
 using namespace Qt::StringLiterals;
@@ -27,7 +28,9 @@ QString testedCopy(const QString& appPath, const UserFile& file)
     return path.replace(u"\\\\"_s, u" \\"_s);
 }
 
-bool compact(const QString& from, const QString& to, const UserFile& file, JetEngine& jet)
+enum class Compaction { Done, Failed, Ended };
+
+Compaction compact(const QString& from, const QString& to, const UserFile& file, JetEngine& jet)
 {
     const QString password = file.password.toString();
     try {
@@ -36,15 +39,16 @@ bool compact(const QString& from, const QString& to, const UserFile& file, JetEn
             jet.setDefaultPassword(password);
         }
         jet.CompactDatabase(from, to, {}, password.isEmpty() ? QString() : u";pwd="_s + password);
-        return true;
+        return Compaction::Done;
     } catch (const JetError& error) {
         qCWarning(dataLog) << "not compacted:" << from << error.number() << error.text();
-        return false;
+        return error.number() == ErrorNumber::kCancelled ? Compaction::Ended : Compaction::Failed;
     }
 }
 
-// True when the file was found sound on the way.
-bool compactInPlace(const QString& appPath, const UserFile& file, JetEngine& jet, FileSystem& files)
+// Done when the file was found sound on the way.
+Compaction compactInPlace(const QString& appPath, const UserFile& file, JetEngine& jet,
+                          FileSystem& files)
 {
     const QString original = inData(appPath, file.name);
     const QString copy = inData(appPath, file.copy);
@@ -52,12 +56,12 @@ bool compactInPlace(const QString& appPath, const UserFile& file, JetEngine& jet
         ignoreFailure(files.DeleteFile(copy), kSilent);
     // A copy left over from an earlier time must not come over the user's file: only one that was
     // made now does.
-    const bool compacted = compact(original, copy, file, jet);
-    if (compacted)
+    const Compaction compaction = compact(original, copy, file, jet);
+    if (compaction == Compaction::Done)
         ignoreFailure(files.CopyFile(copy, original), kSilent);
     if (files.FileExists(copy))
         ignoreFailure(files.DeleteFile(copy), kSilent);
-    return compacted;
+    return compaction;
 }
 
 bool isDatabase(const UserFile& file)
@@ -72,7 +76,21 @@ bool isSoundText(const QString& path, const FileSystem& files)
     return bytes && !bytes.value().contains('\0');
 }
 
-enum class Soundness { Sound, Damaged, InUse };
+// Untold: another program holds the file, or its import was ended or found no room.
+enum class Soundness { Sound, Damaged, Untold };
+
+bool tellsOfDamage(const JetError& error, const QString& nativePath)
+{
+    switch (error.number()) {
+    case ErrorNumber::kAlreadyInUse:
+    case ErrorNumber::kCancelled:
+        return false;
+    case ErrorNumber::kWriteFailed: // from a store it is a bad place of the disc
+        return databaseKind(readDatabaseHead(nativePath)) != DatabaseKind::JetFile;
+    default:
+        return true;
+    }
+}
 
 Soundness soundnessOf(const QString& path, const UserFile& file, JetEngine& jet,
                       const FileSystem& files)
@@ -84,8 +102,8 @@ Soundness soundnessOf(const QString& path, const UserFile& file, JetEngine& jet,
         return Soundness::Sound;
     } catch (const JetError& error) {
         qCWarning(dataLog) << "not sound:" << path << error.number() << error.text();
-        const bool inUse = error.number() == ErrorNumber::kAlreadyInUse;
-        return inUse ? Soundness::InUse : Soundness::Damaged;
+        const bool damaged = tellsOfDamage(error, jet.paths().nativePath(path));
+        return damaged ? Soundness::Damaged : Soundness::Untold;
     }
 }
 
@@ -154,10 +172,14 @@ QString CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine
                          FileSystem& files)
 {
     const QString original = inData(appPath, file.name);
-    const bool compacted = isDatabase(file) && compactInPlace(appPath, file, jet, files);
+    const Compaction compaction =
+        isDatabase(file) ? compactInPlace(appPath, file, jet, files) : Compaction::Failed;
     if (file.backup.isEmpty() || !files.FileExists(original))
         return {};
-    if (!compacted && !isSound(original, file, jet, files))
+    // Who has ended the import is not kept waiting by a second one.
+    if (compaction == Compaction::Ended)
+        return {};
+    if (compaction != Compaction::Done && !isSound(original, file, jet, files))
         return {};
     return backUp(appPath, file, jet, files);
 }

@@ -52,7 +52,7 @@ bool ImportMessages::takesIncomplete(const QString& path, const QStringList& los
 
 void ImportMessages::isReadOnly(const QString& path, const QStringList& losses)
 {
-    if (m_told.contains(path))
+    if (m_told.contains(path) || (m_nothingIsStored && losses.isEmpty()))
         return;
     m_told += path;
     m_messages.show(QApplication::activeWindow(),

@@ -24,6 +24,10 @@ public:
     ImportMessages(const ImportMessages&) = delete;
     ImportMessages& operator=(const ImportMessages&) = delete;
 
+    /// The user knows already that nothing is stored: that one file is only read goes without
+    /// saying.
+    void setNothingIsStored() { m_nothingIsStored = true; }
+
     bool takesIncomplete(const QString& path, const QStringList& losses) override;
     void isReadOnly(const QString& path, const QStringList& losses) override;
     bool goesOn(const QString& path, qint64 elapsedMs) override;
@@ -31,6 +35,7 @@ public:
 
 private:
     MessageBoxes& m_messages;
+    bool m_nothingIsStored = false;
     QHash<QString, bool> m_answers;
     QSet<QString> m_told;
     std::unique_ptr<QProgressDialog> m_progress;

@@ -2,8 +2,10 @@
 #include "data/compact_and_backup.h"
 #include "data/data_store.h"
 #include "data/leftovers.h"
+#include "platform/jet/import_talk.h"
 #include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_error.h"
+#include "support/jet_header_maker.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>
@@ -261,6 +263,56 @@ TEST_F(DataStoreTest, AFileThatAnotherProgramHoldsIsNotLost)
     EXPECT_FALSE(
         findLostFile(services.state.AppPath, user_file::kNotes, services.jet, services.files));
     sqlite3_close(other);
+}
+
+// Ends an import as soon as it is asked.
+class ImpatientUser : public ImportTalk
+{
+public:
+    bool takesIncomplete(const QString&, const QStringList&) override { return false; }
+    void isReadOnly(const QString&, const QStringList&) override {}
+    bool goesOn(const QString&, qint64) override
+    {
+        ++imports;
+        return false;
+    }
+    void ended() override {}
+
+    int imports = 0;
+};
+
+TEST_F(DataStoreTest, OnlyDamageKeepsAGenuineFileFromBeingTakenForSound)
+{
+    ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s),
+                                        JetHeaderMaker(1).jet4Password({}, 38143).page()));
+    JetEngineOptions options;
+    ImpatientUser user;
+    options.talk = &user;
+    options.importProgram = services.folders.root() + u"/import.sh"_s;
+    struct Case
+    {
+        const char* what;
+        QByteArray commands;
+        bool damaged;
+    };
+    for (const Case& each :
+         {Case{"damaged", "exit 3", true}, Case{"no room for the new file", "exit 5", false},
+          Case{"ended by the user", "exec sleep 60", false}}) {
+        SCOPED_TRACE(each.what);
+        ASSERT_TRUE(services.files.writeAll(options.importProgram, "#!/bin/sh\n" + each.commands));
+        QFile::setPermissions(options.importProgram,
+                              QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+        JetEngine jet(services.drives, options);
+        EXPECT_EQ(findLostFile(services.state.AppPath, user_file::kNotes, jet, services.files)
+                      .has_value(),
+                  each.damaged);
+    }
+    JetEngine jet(services.drives, options);
+    user.imports = 0;
+    EXPECT_EQ(CompactAndBackup(services.state.AppPath, user_file::kNotes, jet, services.files),
+              u"");
+    EXPECT_EQ(user.imports, 1) << "what the user has ended isn't begun again";
+    EXPECT_FALSE(services.files.FileExists(backup(u"myc.mdb"_s)));
 }
 
 TEST_F(DataStoreTest, TheNewestSoundBackupComesBackAndTheFaultyFileIsKept)
