@@ -57,25 +57,5 @@ TEST(CanonTable, TablesRunInStepAtTheirSeams)
     }
 }
 
-TEST(CanonTable, NumbersOutsideTheCanonGiveNothing)
-{
-    for (const int book : {-1, 66, 1000, -1000}) {
-        SCOPED_TRACE(book);
-        EXPECT_EQ(bookAbbreviation(book), QString());
-        EXPECT_EQ(bookName(book), QString());
-        EXPECT_EQ(chapterCount(book), 0);
-        EXPECT_EQ(bookGroup(book), QString());
-        EXPECT_EQ(testament(book), QString());
-    }
-}
-
-TEST(CanonTable, HandedOutTextsMayBeChangedWithoutTouchingTheTable)
-{
-    QString name = bookName(0);
-    name[0] = u'X';
-    name += u"!"_s;
-    EXPECT_EQ(bookName(0), u"창세기"_s);
-}
-
 } // namespace
 } // namespace lumen

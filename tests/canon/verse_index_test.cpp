@@ -50,12 +50,6 @@ TEST(VerseIndex, EveryBookIsRecognisedInEveryForm)
     }
 }
 
-TEST(VerseIndex, OnlyAnExactAbbreviationIsABook)
-{
-    for (const QString& text : {u""_s, u"창1"_s, u"요한"_s, u" 창"_s, u"x"_s})
-        EXPECT_EQ(GetBookNum(text), -1) << text.toStdString();
-}
-
 TEST(VerseIndex, ParseRefForgivesWhatItCannotPlace)
 {
     EXPECT_EQ(ParseRef(u"창51:1"), (VersePlace{0, 1, 1}));
@@ -67,22 +61,6 @@ TEST(VerseIndex, ParseRefForgivesWhatItCannotPlace)
     EXPECT_EQ(ParseRef(u"요3:"), (VersePlace{42, 3, 0}));
     EXPECT_EQ(ParseRef(u"요3:16-18"), (VersePlace{42, 3, 16}));
     EXPECT_EQ(ParseRef(u"요99999999999:1"), (VersePlace{42, 1, 1}));
-}
-
-TEST(VerseIndex, BrokenKeysGiveNoReference)
-{
-    for (const QString& key : {u""_s, u"43요"_s, u"43요:003"_s, u":"_s, u"::"_s, u"4:3:2"_s})
-        EXPECT_EQ(IndexToRef(key), QString()) << key.toStdString();
-}
-
-TEST(VerseIndex, ChapKeysPadToTwoDigitsAndPrefixesToThree)
-{
-    EXPECT_EQ(GetChapKey(18, 9), u"시09"_s);
-    EXPECT_EQ(GetChapKey(18, 10), u"시10"_s);
-    EXPECT_EQ(GetChapKey(18, 100), u"시100"_s);
-    EXPECT_EQ(chapterPrefix(42, 3), u"43요:003"_s);
-    EXPECT_EQ(chapterPrefix(18, 119), u"19시:119"_s);
-    EXPECT_EQ(bookPrefix(8), u"09삼상"_s);
 }
 
 TEST(VerseIndex, PlainSortingOfKeysIsCanonOrder)

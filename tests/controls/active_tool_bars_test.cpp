@@ -61,13 +61,6 @@ TEST_F(ActiveToolBarsTest, AToolOnABarAndInAMenuIsOneTool)
     EXPECT_FALSE(bars.bar(u"표준 도구")->widgetForAction(copy)->isEnabled());
 }
 
-TEST_F(ActiveToolBarsTest, AClickOnABarButtonTellsTheId)
-{
-    QWidget* button = bars.bar(u"이동 도구")->widgetForAction(bars.tool(u"ID_다음장").action());
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_EQ(clicks, QStringList{u"ID_다음장"_s});
-}
-
 TEST_F(ActiveToolBarsTest, AShortcutWorksWhileTheBarIsHidden)
 {
     bars.setBarVisible(u"이동 도구", false);
@@ -101,12 +94,6 @@ TEST_F(ActiveToolBarsTest, MenusStandInTheMenuBarInTheirOrderAndDropDownOnABar)
         bars.bar(u"표준 도구")->widgetForAction(bars.menu(u"ID_글자크기")->menuAction()));
     ASSERT_TRUE(button);
     EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
-}
-
-TEST_F(ActiveToolBarsTest, ALaterToolStaysDisabled)
-{
-    bars.tool(u"ID_지도").setEnabled(true);
-    EXPECT_FALSE(bars.tool(u"ID_지도").enabled());
 }
 
 TEST_F(ActiveToolBarsTest, CheckingInCodeTellsNothingAndOneOfAFamilyIsChecked)
@@ -145,21 +132,6 @@ TEST_F(ActiveToolBarsTest, RowsAddedAtRunTimeKeepTheirOwnTexts)
     const std::vector<ToolRow> rows = bars.rows();
     EXPECT_EQ(rows.back().id, u"ID_대역본0-101"_s);
     EXPECT_EQ(rows.size(), 10U);
-}
-
-TEST_F(ActiveToolBarsTest, TheTipNamesTheKeyAndNoAccessMark)
-{
-    EXPECT_EQ(bars.tool(u"ID_다음장").action()->toolTip(), u"다음 장 (Ctrl+Right)"_s);
-}
-
-TEST_F(ActiveToolBarsTest, AToolThatDoesNotExistAnswersEmpty)
-{
-    Tool none = bars.tool(u"ID_없음");
-    none.setEnabled(true);
-    none.setChecked(true);
-    EXPECT_FALSE(none.exists());
-    EXPECT_FALSE(none.enabled());
-    EXPECT_EQ(none.combo().ListCount(), 0);
 }
 
 } // namespace

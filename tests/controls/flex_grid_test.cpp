@@ -75,18 +75,6 @@ TEST_F(FlexGridTest, RowZeroIsTheHeader)
     EXPECT_EQ(grid.TextMatrix(0, 1), u"절"_s);
 }
 
-TEST_F(FlexGridTest, WithoutFixedRowsAllRowsAreAlike)
-{
-    FlexGrid plain;
-    plain.setCols(2);
-    plain.setFixedRows(0);
-    plain.setRows(4);
-    plain.setTextMatrix(0, 0, u"첫째"_s);
-    EXPECT_EQ(plain.model()->rowCount(), 4);
-    EXPECT_EQ(plain.model()->index(0, 0).data().toString(), u"첫째"_s);
-    EXPECT_FALSE(plain.horizontalHeader()->isVisibleTo(&plain));
-}
-
 TEST_F(FlexGridTest, EveryRowIsAsHighAsItsHighestCell)
 {
     fill(60);
@@ -164,17 +152,6 @@ TEST_F(FlexGridTest, AHeldFillShowsWhenItEndsAlsoAfterAnError)
     EXPECT_EQ(grid.model()->index(0, 2).data().toString(), u"한 줄"_s);
 }
 
-TEST_F(FlexGridTest, AFillDropsTheSelectionWithoutTellingIt)
-{
-    fill(10);
-    grid.select(3, 5);
-    EXPECT_EQ(grid.Row(), 3);
-    EXPECT_EQ(grid.RowSel(), 5);
-    fill(10);
-    EXPECT_EQ(grid.Row(), -1);
-    EXPECT_EQ(selChanges, 0);
-}
-
 TEST_F(FlexGridTest, ARowCanBeChosenWhileTheFillIsHeld)
 {
     {
@@ -207,14 +184,6 @@ TEST_F(FlexGridTest, DraggingAndKeysMoveTheSelectionAndAreTold)
     EXPECT_EQ(keys, QList<int>{Qt::Key_Up});
 }
 
-TEST_F(FlexGridTest, ASelectionUpwardsBeginsBelow)
-{
-    fill(10);
-    grid.select(7, 4);
-    EXPECT_EQ(grid.Row(), 7);
-    EXPECT_EQ(grid.RowSel(), 4);
-}
-
 TEST_F(FlexGridTest, TheRightButtonKeepsARangeItHits)
 {
     fill(10);
@@ -230,16 +199,6 @@ TEST_F(FlexGridTest, TheRightButtonKeepsARangeItHits)
     EXPECT_EQ(row, 3);
     EXPECT_EQ(grid.Row(), 2);
     EXPECT_EQ(grid.RowSel(), 4);
-}
-
-TEST_F(FlexGridTest, ADoubleClickTellsItsCellAndOnTheHeaderNothing)
-{
-    fill(10);
-    QList<QPair<int, int>> cells;
-    grid.onDblClick = [&](int row, int col) { cells.append({row, col}); };
-    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, middleOf(2, 3));
-    QTest::mouseDClick(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, {100, 5});
-    EXPECT_EQ(cells, (QList<QPair<int, int>>{{2, 3}}));
 }
 
 TEST_F(FlexGridTest, CopiedCellsAreTabbedAndHiddenColumnsLeftOut)

@@ -56,23 +56,6 @@ TEST(RowHeightsTest, TextFontAndWidthEachMakeAHeightOfTheirOwn)
     EXPECT_EQ(heights.cellHeight(text, korean(), 150), plain);
 }
 
-TEST(RowHeightsTest, LineEndsInTheTextAreLines)
-{
-    RowHeights heights;
-    const int one = heights.cellHeight(u"abc"_s, korean(), 400) - 2 * kCellMarginY;
-    for (const QString& text : {u"abc\r\ndef\r\nghi"_s, u"abc\ndef\nghi"_s, u"abc\rdef\rghi"_s}) {
-        const int three = heights.cellHeight(text, korean(), 400) - 2 * kCellMarginY;
-        EXPECT_NEAR(three, 3 * one, 2);
-    }
-}
-
-TEST(RowHeightsTest, AWordWiderThanItsCellIsBroken)
-{
-    RowHeights heights;
-    const int one = heights.cellHeight(u"가"_s, korean(), 60);
-    EXPECT_GT(heights.cellHeight(QString(40, u'가'), korean(), 60), 5 * one);
-}
-
 TEST(ShownTextTest, RangesFollowTheLineEndsThatBecameOne)
 {
     const QString text = u"ab\r\ncd\r\nef"_s;

@@ -32,43 +32,6 @@ TEST(NamedTest, AControlCarriesItsNameCaptionAndSpokenName)
     EXPECT_EQ(box->accessibleName(), u"검색할 말"_s);
 }
 
-TEST(NamedTest, ASpokenCaptionHasNoAccessMark)
-{
-    for (const auto& [caption, spoken] :
-         {std::pair{u"편집(&E)"_s, u"편집"_s},
-          {u"&Find"_s, u"Find"_s},
-          {u"저장(&S)..."_s, u"저장..."_s},
-          {u"사복음서대조표(본문포함)"_s, u"사복음서대조표(본문포함)"_s}})
-        EXPECT_EQ(spokenCaption(caption), spoken);
-}
-
-TEST(NamedTest, AControlArrayIsToldApartByItsIndex)
-{
-    QWidget owner;
-    const ControlArray<QCheckBox, 3> boxes(u"chk책명",
-                                           [](int index) { return u"책 %1"_s.arg(index); });
-    for (QCheckBox* box : boxes)
-        box->setParent(&owner);
-    EXPECT_EQ(boxes(2)->objectName(), u"chk책명(2)"_s);
-    EXPECT_EQ(boxes(2)->text(), u"책 2"_s);
-    EXPECT_EQ(owner.findChild<QCheckBox*>(u"chk책명(0)"_s), boxes(0));
-}
-
-TEST(TwipsTest, PixelsSurviveTheWayThere)
-{
-    EXPECT_EQ(toPixels(1440, 96), 96);
-    EXPECT_EQ(toPixels(645, 96), 43);
-    for (const int dpi : {72, 96, 120, 144, 192})
-        for (const int pixels : {0, 1, 37, 800, -4})
-            EXPECT_EQ(toPixels(toTwips(pixels, dpi), dpi), pixels) << dpi;
-}
-
-TEST(ColorsTest, RedIsTheLowByte)
-{
-    EXPECT_EQ(toColor(0x030201), QColor(1, 2, 3));
-    EXPECT_EQ(toRgbLong(QColor(136, 33, 28)), 136U + 33U * 256U + 28U * 65536U);
-}
-
 TEST(ColorsTest, DarkIsReadFromGroundAndText)
 {
     QPalette palette;
@@ -105,14 +68,6 @@ TEST(VsAwkTest, FieldsCountFromOneAndEmptyOnesCountToo)
     EXPECT_EQ(awk.NF(), 0);
 }
 
-TEST(VsAwkTest, WithoutASeparatorBlanksPart)
-{
-    VsAwk awk;
-    awk.setText(u"  하나 \t둘  "_s);
-    ASSERT_EQ(awk.NF(), 2);
-    EXPECT_EQ(awk.F(2), u"둘"_s);
-}
-
 TEST(PictureBoxTest, MouseAndKeysClickIt)
 {
     PictureBox box;
@@ -124,14 +79,6 @@ TEST(PictureBoxTest, MouseAndKeysClickIt)
     QTest::keyClick(&box, Qt::Key_Space);
     QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_EQ(clicks, 3);
-}
-
-TEST(PictureBoxTest, ItIsFilledWithItsColour)
-{
-    PictureBox box;
-    box.resize(40, 30);
-    box.setBackColor(0x1C2188); // red 136, green 33, blue 28
-    EXPECT_EQ(box.grab().toImage().pixelColor(20, 15), QColor(136, 33, 28));
 }
 
 class SplitterTest : public testing::Test

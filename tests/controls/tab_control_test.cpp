@@ -43,12 +43,6 @@ TEST_F(TabControlTest, AnotherTabIsATabClickTheCurrentOneAHeaderClick)
     EXPECT_EQ(events, (QStringList{u"tab 2 from 0"_s, u"header 2"_s, u"tab 0 from 2"_s}));
 }
 
-TEST_F(TabControlTest, TheGroundBesideTheHeadersIsAHeaderClickToo)
-{
-    QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(590, tabs.tabBar()->height() / 2));
-    EXPECT_EQ(events, QStringList{u"header -1"_s});
-}
-
 TEST_F(TabControlTest, ATabChosenByCodeIsToldWithTheOneBefore)
 {
     EXPECT_TRUE(tabs.selectCaption(u"개인주석"_s));

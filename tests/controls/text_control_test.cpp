@@ -71,18 +71,6 @@ TEST_F(TextControlTest, AnRtfDocumentIsShownWithOnePositionAParagraphEnd)
     EXPECT_EQ(view.SelText(), u"two"_s);
 }
 
-TEST_F(TextControlTest, PositionsBeyondTheTextAreCut)
-{
-    view.setText(u"하나\n둘"_s);
-    view.select(3, 99);
-    EXPECT_EQ(view.SelText(), u"둘"_s);
-    view.select(99, 5);
-    EXPECT_EQ(view.SelStart(), 4);
-    EXPECT_EQ(view.SelLength(), 0);
-    view.select(-3, 2);
-    EXPECT_EQ(view.SelText(), u"하나"_s);
-}
-
 TEST_F(TextControlTest, OnlyTheUsersSelectionIsTold)
 {
     int changes = 0;
@@ -96,16 +84,6 @@ TEST_F(TextControlTest, OnlyTheUsersSelectionIsTold)
     QTest::keyClick(&view, Qt::Key_Right);
     EXPECT_EQ(changes, 2);
     EXPECT_EQ(view.SelLength(), 0);
-}
-
-TEST_F(TextControlTest, ItCanBeReadWithTheKeysButNotWritten)
-{
-    view.setText(u"본문"_s);
-    QTest::keyClicks(&view, u"abc"_s);
-    QTest::keyClick(&view, Qt::Key_Delete);
-    EXPECT_EQ(view.Text(), u"본문"_s);
-    QTest::keyClick(&view, Qt::Key_End);
-    EXPECT_EQ(view.SelStart(), 2);
 }
 
 TEST_F(TextControlTest, TheClickedWordIsSelected)

@@ -24,14 +24,6 @@ TEST(ToolDispatchTest, ExactComesBeforeNumbersAndNumbersBeforeTheLongestFamily)
         ran, (QStringList{u"exact"_s, u"book 65"_s, u"move 0"_s, u"base 101"_s, u"slot 2-없음"_s}));
 }
 
-TEST(ToolDispatchTest, WhatNothingHandlesIsToldAndDoesNothing)
-{
-    ToolDispatch tools;
-    tools.onNumbered(u"ID_", [](int) { FAIL(); });
-    for (const QString& id : {u"ID_"_s, u"ID_3a"_s, u"ID_검색"_s, u""_s})
-        EXPECT_FALSE(tools.run(id)) << id.toStdString();
-}
-
 TEST(ToolDispatchTest, AHandlerMayReplaceItself)
 {
     int runs = 0;

@@ -125,15 +125,6 @@ TEST_F(TypingWatchTest, WhateverComesFindsTheSyllableInItsBox)
     EXPECT_EQ(other.text(), QString());
 }
 
-TEST_F(TypingWatchTest, ASyllableThatWasTakenBackDoesNotCome)
-{
-    line.setFocus();
-    compose(line, u"라"_s);
-    compose(line, QString());
-    QTest::mouseClick(&button, Qt::LeftButton);
-    EXPECT_EQ(line.text(), QString());
-}
-
 TEST_F(TypingWatchTest, TypingOnKeepsComposing)
 {
     line.setFocus();

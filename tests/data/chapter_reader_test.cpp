@@ -11,18 +11,6 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
-TEST(ChapterQuery, TextsStandToTheBlank)
-{
-    EXPECT_EQ(chapterQuery(u"KJV Strong"_s, 42, 3, 0),
-              u"select * from [KJV Strong] where index like '43요:003:*' order by verse"_s);
-    EXPECT_EQ(chapterQuery(u"BHS"_s, 18, 119, 2),
-              u"select * from [BHS] where index like '19시:119:*' order by VERSE"_s);
-    EXPECT_EQ(previewChapterQuery(u"개역한글"_s, 0, 1, 0),
-              u"select * from [개역한글] where CHAP = '창01' order by VERSE"_s);
-    EXPECT_EQ(previewChapterQuery(u"개역한글"_s, 18, 119, 3),
-              u"select * from [개역한글] where CHAP like '시119' order by VERSE"_s);
-}
-
 class ChapterReaderTest : public testing::Test
 {
 protected:

@@ -39,20 +39,6 @@ private:
     QString m_cdRom;
 };
 
-TEST(FindCdDrive, TakesTheFirstCdRomElseTheLastDrive)
-{
-    EXPECT_EQ(FindCdDrive(FixedDrives({u"C:\\"_s, u"D:\\"_s, u"E:\\"_s}, u"D:\\"_s)), u"D:"_s);
-    EXPECT_EQ(FindCdDrive(FixedDrives({u"C:\\"_s, u"D:\\"_s, u"E:\\"_s}, {})), u"E:"_s)
-        << "without a CD-ROM the last drive stays; that is meant";
-    EXPECT_EQ(FindCdDrive(FixedDrives({}, {})), QString());
-    // The buffer holds 64 characters, so drives behind the sixteenth are never seen.
-    QStringList many;
-    for (char16_t letter = u'A'; letter <= u'Z'; ++letter)
-        many << QString(QChar(letter)) + u":\\"_s;
-    EXPECT_EQ(FindCdDrive(FixedDrives(many, u"Z:\\"_s)), u"P:"_s);
-    EXPECT_EQ(FindCdDrive(FixedDrives(many, u"P:\\"_s)), u"P:"_s);
-}
-
 class CheckDataTest : public testing::Test
 {
 protected:

@@ -125,32 +125,6 @@ TEST_F(DataStoreTest, AFirstStartMakesEveryUserDatabase)
     EXPECT_THROW(open(path(u"z199.dts"_s)), JetError);
 }
 
-TEST_F(DataStoreTest, TheFirstRecordIsEmptyAndOfToday)
-{
-    create();
-    const auto database = open(path(u"설교매니저.mdb"_s));
-    const auto row = database->OpenRecordset(u"select * from 설교 where 설교일 = #2003-05-01#"_s);
-    ASSERT_EQ(row->RecordCount(), 1);
-    EXPECT_EQ(row->Fields(u"제목").Value(), QVariant(u""_s));
-    EXPECT_TRUE(row->Fields(u"rtf제목").Value().isNull());
-    EXPECT_EQ(Number(row->Fields(u"일련번호")), 1);
-    EXPECT_EQ(row->Fields(u"제목").Size(), 130);
-    EXPECT_EQ(row->Fields(u"분류").Size(), 255);
-    EXPECT_EQ(row->Fields(u"본문").Type(), FieldType::Memo);
-    EXPECT_EQ(row->Fields(u"작성일").Type(), FieldType::Date);
-}
-
-TEST_F(DataStoreTest, WhatIsThereIsNeverMadeAnew)
-{
-    create();
-    addNote(u"지어낸 주석"_s);
-    QFile::rename(services.folders.data(u"qt.mdb"_s), services.folders.data(u"QT.MDB"_s));
-    create();
-    EXPECT_EQ(notes(path(u"myc.mdb"_s)), QStringList{u"지어낸 주석"_s});
-    EXPECT_FALSE(QFile::exists(services.folders.data(u"qt.mdb"_s)))
-        << "a file of other case is the same file";
-}
-
 TEST_F(DataStoreTest, OneFileThatCantBeMadeLeavesTheOthers)
 {
     QDir(services.folders.data({})).mkpath(u"qt.mdb"_s);

@@ -155,44 +155,6 @@ TEST_F(SettingsTableTest, WhatTheReaderSavesItReadsBack)
     EXPECT_EQ(get(u"Path"_s), u"C:\\lumenscript"_s);
 }
 
-TEST_F(SettingsTableTest, UserFontsHaveTheirDefaultsBySlot)
-{
-    set(u"UserFont7"_s, u"Courier"_s);
-    set(u"UserSize7"_s, u"72"_s);
-    set(u"UserSize8"_s, u"large"_s);
-    set(u"UserSize9"_s, u"1000000"_s);
-    const auto fonts = GetUserFontSize(registry);
-    EXPECT_EQ(fonts[4].font, u"굴림"_s);
-    EXPECT_EQ(fonts[4].size, u"10"_s);
-    EXPECT_EQ(fonts[5].font, u"Arial"_s);
-    EXPECT_EQ(fonts[5].size, u"9"_s);
-    EXPECT_EQ(fonts[6].font, u"Courier"_s);
-    EXPECT_EQ(fonts[6].size, u"72"_s);
-    EXPECT_EQ(fonts[7].size, u"9"_s) << "a size that is no number would hide the text";
-    EXPECT_EQ(fonts[8].size, u"9"_s) << "a huge one would never be laid out";
-
-    saveUserFonts(registry, fonts);
-    EXPECT_EQ(get(u"UserFont15"_s), u"Arial"_s);
-    EXPECT_EQ(get(u"UserSize7"_s), u"72"_s);
-}
-
-TEST_F(SettingsTableTest, ExtractionChoicesSurvive)
-{
-    ExtractSettings settings{8, 42, 2, 15, 17, true, true, false, true, u"/글"_s};
-    saveExtractSettings(registry, settings);
-    const ExtractSettings again = readExtractSettings(registry);
-    EXPECT_EQ(again.Version, 8);
-    EXPECT_EQ(again.BookNum, 42);
-    EXPECT_EQ(again.ChapNum, 2);
-    EXPECT_EQ(again.SVerse, 15);
-    EXPECT_EQ(again.EVerse, 17);
-    EXPECT_EQ(again.Folder, settings.Folder);
-    EXPECT_TRUE(again.AtchVerNum && again.VerLf && again.Tail);
-    EXPECT_FALSE(again.ToClip);
-    set(u"BookNum"_s, u"99"_s, u"Extract"_s);
-    EXPECT_EQ(readExtractSettings(registry).BookNum, 0);
-}
-
 TEST_F(SettingsTableTest, WindowsComeUpWhereTheyFitTheScreen)
 {
     struct Row
@@ -224,18 +186,6 @@ TEST_F(SettingsTableTest, WindowsComeUpWhereTheyFitTheScreen)
               (TwipsRect{5700, 3600, 8600, 7800}));
     EXPECT_EQ(readGeometry(registry, geometry::kSManager, kScreen, kDesign),
               (TwipsRect{5000, 4000, 10000, 7000}));
-}
-
-TEST_F(SettingsTableTest, AWindowOfFixedSizeKeepsItsPositionOnly)
-{
-    constexpr TwipsSize kScreen{20000, 15000};
-    constexpr TwipsSize kDesign{4000, 3000};
-    EXPECT_EQ(readPosition(registry, geometry::kExtract, kScreen, kDesign),
-              (TwipsRect{8000, 6000, 4000, 3000}));
-    savePosition(registry, geometry::kExtract, {70, 80, 1, 1});
-    EXPECT_EQ(readPosition(registry, geometry::kExtract, kScreen, kDesign),
-              (TwipsRect{70, 80, 4000, 3000}));
-    EXPECT_EQ(get(u"Width"_s, u"Extract"_s), QString());
 }
 
 } // namespace

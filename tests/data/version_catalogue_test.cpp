@@ -23,16 +23,6 @@ QStringList labels(const QList<VersionItem>& items)
     return result;
 }
 
-const VersionTool& toolOf(const QList<VersionTool>& tools, int code)
-{
-    for (const VersionTool& tool : tools)
-        if (tool.code == code)
-            return tool;
-    static const VersionTool none;
-    ADD_FAILURE() << "no tool for " << code;
-    return none;
-}
-
 TEST(VersionCatalogue, ABaseComboMarksWhatIsAbsentAndNumbersFromZero)
 {
     InstalledFlags installed = installedVersions({101, 201, 902});
@@ -86,27 +76,6 @@ TEST(VersionCatalogue, MenuToolsPointAtTheSameVersionInTheCombo)
     }
 }
 
-TEST(VersionCatalogue, MenuToolsAreNamedAndShownByTheirSlot)
-{
-    InstalledFlags installed = installedVersions({901});
-    installed.userTables[0] = u"나의 역본"_s;
-    const QList<VersionTool> parallel = SetupMenu(installed, 1);
-    EXPECT_EQ(parallel.first().id, u"ID_대역본1-없음"_s);
-    EXPECT_EQ(parallel.first().caption, u"없음"_s);
-    EXPECT_EQ(toolOf(parallel, 204).id, u"ID_대역본1-204"_s);
-
-    const QList<VersionTool> base = SetupMenu(installed, 0);
-    EXPECT_EQ(base.first().id, u"ID_대역본0-101"_s);
-    EXPECT_EQ(toolOf(base, 204).caption, u"NIV"_s) << "menus carry no suffix";
-    EXPECT_EQ(toolOf(base, 901).caption, u"나의 역본"_s);
-    EXPECT_EQ(toolOf(base, 905).caption, u"사용자역본5 한글용"_s);
-    EXPECT_EQ(toolOf(base, 906).caption, u"사용자역본6 영문용"_s);
-    EXPECT_TRUE(toolOf(base, 901).visible);
-    EXPECT_FALSE(toolOf(base, 902).visible);
-    EXPECT_FALSE(toolOf(base, 109).visible);
-    EXPECT_TRUE(toolOf(base, 204).visible);
-}
-
 TEST(VersionCatalogue, ASavedIndexThatCantBeTakenGivesTheFirstItem)
 {
     InstalledFlags installed = installedVersions({101, 102, 902});
@@ -119,14 +88,6 @@ TEST(VersionCatalogue, ASavedIndexThatCantBeTakenGivesTheFirstItem)
     EXPECT_EQ(restoredVersionIndex({}, 0), 0);
     EXPECT_EQ(nextVersionIndex(items, 2), 3);
     EXPECT_EQ(nextVersionIndex(items, 60), 0);
-}
-
-TEST(VersionCatalogue, VersionsThatNeverCameWithADiscAreNotAskedForIt)
-{
-    for (const int code : {203, 206, 207, 208, 305, 901, 915})
-        EXPECT_FALSE(comesWithDisc(code)) << code;
-    for (const int code : {101, 202, 204, 205, 209, 304, 306, 401})
-        EXPECT_TRUE(comesWithDisc(code)) << code;
 }
 
 } // namespace

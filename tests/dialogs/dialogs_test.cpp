@@ -33,15 +33,6 @@ void whenUp(std::function<void(Dialog&)> user)
     });
 }
 
-TEST(QtFileDialogs, FiltersAreReadAsPairs)
-{
-    EXPECT_EQ(nameFilters(u"텍스트 파일 (*.txt)|*.txt"_s), QStringList{u"텍스트 파일 (*.txt)"_s});
-    EXPECT_EQ(nameFilters(u"그림|*.png;*.jpg|모든 파일(*.*)|*.*"_s),
-              (QStringList{u"그림 (*.png *.jpg)"_s, u"모든 파일 (*.*)"_s}));
-    EXPECT_EQ(nameFilters(u"half"_s), QStringList());
-    EXPECT_EQ(nameFilters(QString()), QStringList());
-}
-
 TEST(QtFileDialogs, AnExtensionIsAddedOnlyToANameWithoutOne)
 {
     EXPECT_EQ(withExtension(u"/a/창세기 1장1~3절"_s, u".txt"_s), u"/a/창세기 1장1~3절.txt"_s);
@@ -74,20 +65,6 @@ TEST(QtFileDialogs, SavingGivesTheChosenNameAndAsksNothingAboutAnOldFile)
     EXPECT_EQ(dialogs.save(nullptr, request), folder.filePath(u"old.txt"_s));
     whenUp<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(dialogs.save(nullptr, request), std::nullopt);
-}
-
-TEST(QtFileDialogs, ColoursKeepRedInTheLowByte)
-{
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QtFileDialogs dialogs;
-    whenUp<QColorDialog>([](QColorDialog& dialog) {
-        EXPECT_EQ(dialog.currentColor(), QColor(136, 33, 28));
-        dialog.setCurrentColor(QColor(1, 2, 3));
-        dialog.accept();
-    });
-    EXPECT_EQ(dialogs.color(nullptr, 0x1c2188), 0x030201U);
-    whenUp<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(dialogs.color(nullptr, 0), std::nullopt);
 }
 
 TEST(QtClipboard, OneCopyCarriesEveryForm)

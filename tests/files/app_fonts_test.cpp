@@ -93,22 +93,6 @@ TEST_F(AppFontsTest, ModuleFontsDrawTheirLanguage)
     }
 }
 
-TEST_F(AppFontsTest, AFontOfTheUsersIsDrawnAsItIs)
-{
-    if (!isInstalled(u"NanumGothic"_s))
-        GTEST_SKIP() << "the Korean fonts are not installed";
-    EXPECT_EQ(drawnBy(u"NanumGothic"_s, u"가 abc \\"_s), QStringList{u"nanumgothic"_s});
-}
-
-TEST_F(AppFontsTest, FontListsOfferSubstitutedNamesOnce)
-{
-    const QStringList families = fonts.families();
-    for (const QString& family : {u"굴림"_s, u"굴림체"_s, u"Arial"_s, u"MS Song"_s})
-        EXPECT_EQ(families.count(family), 1) << family.toStdString();
-    for (const QString& family : QFontDatabase::families())
-        EXPECT_TRUE(families.contains(family)) << family.toStdString();
-}
-
 TEST_F(AppFontsTest, FontFilesAreAddedFromTheirPathOrTheFontFolders)
 {
     const QString source = u"/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"_s;

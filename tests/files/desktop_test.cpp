@@ -114,14 +114,6 @@ TEST(InstanceLock, OnlyOneHoldsAFolderUntilItLetsGo)
     EXPECT_EQ(refused.failure().kind, FailureKind::NoAccess);
 }
 
-TEST(ProcProcessList, HoldsThisProcess)
-{
-    QFile own(u"/proc/%1/comm"_s.arg(getpid()));
-    if (!own.open(QIODevice::ReadOnly))
-        GTEST_SKIP() << "no /proc here";
-    EXPECT_TRUE(ProcProcessList().names().contains(QString::fromUtf8(own.readAll()).trimmed()));
-}
-
 } // namespace
 } // namespace lumen
 

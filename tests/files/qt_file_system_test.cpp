@@ -70,16 +70,6 @@ TEST_F(QtFileSystemTest, FilesAreWrittenReadCopiedAndDeletedInAnyCase)
     EXPECT_FALSE(files.FileExists(path(u"target"_s)));
 }
 
-TEST_F(QtFileSystemTest, ALargeFileIsCopiedWhole)
-{
-    QByteArray bytes(3'000'000, 'x');
-    for (qsizetype i = 0; i < bytes.size(); i += 1000)
-        bytes[i] = static_cast<char>(i / 1000);
-    ASSERT_TRUE(files.writeAll(path(u"a"_s), bytes));
-    ASSERT_TRUE(files.CopyFile(path(u"a"_s), path(u"b"_s)));
-    EXPECT_EQ(content(u"b"_s), bytes);
-}
-
 TEST_F(QtFileSystemTest, WhatIsMissingOrNoFileIsRefused)
 {
     ASSERT_TRUE(files.CreateFolder(path(u"sub\\deep"_s)));

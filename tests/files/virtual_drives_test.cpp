@@ -51,14 +51,6 @@ TEST_F(VirtualDrivesTest, ProgramPathsFindTheirFilesHoweverTheyAreSpelled)
     EXPECT_EQ(drives.nativePath(u"/etc/hosts"_s), u"/etc/hosts"_s);
 }
 
-TEST_F(VirtualDrivesTest, PathsWithoutAKnownDriveLeadNowhere)
-{
-    for (const QString& path : {u""_s, u"E:\\Data\\101.dts"_s, u"\\Data\\101.dts"_s, u"Data"_s})
-        EXPECT_EQ(drives.nativePath(path), QString()) << path.toStdString();
-    const VirtualDrives alone({native(u"lumenscript"_s), {}});
-    EXPECT_EQ(alone.nativePath(u"D:\\Data\\201.dts"_s), QString());
-}
-
 TEST_F(VirtualDrivesTest, ComposedAndDecomposedHangulIsOneName)
 {
     const QString composed = u"설교매니저.mdb"_s;

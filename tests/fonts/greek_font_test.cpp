@@ -35,14 +35,6 @@ TEST_F(GreekFontTest, EveryComposedLetterIsDrawnAsInTheSource)
     EXPECT_EQ(composed, 225);
 }
 
-TEST_F(GreekFontTest, PlainLettersAndSignsAreDrawnAsInTheSource)
-{
-    const QString codes = u"abgdezhqiklmncoprsjtufxywvABGDEZHQIKLMNCOPRSTUFXYW,.:;'()[]-"_s;
-    for (const QChar code : codes)
-        expectDrawnAsInSource(code);
-    expectDrawnAsInSource(u"e1n a1rxh56 h5n o2 lo3goj"_s);
-}
-
 TEST_F(GreekFontTest, EveryCodeIsDrawnByTheFontItself)
 {
     const QStringList box = drawnOutlines(u"OrvaneGrk"_s, u"J"_s);

@@ -38,32 +38,6 @@ TEST_F(HebrewFontTest, EachMarkStandsOnEachLetterWhereTheSourceHasIt)
     }
 }
 
-TEST_F(HebrewFontTest, ShinTakesItsDotTheDageshAndAVowel)
-{
-    for (const QString& body : {u"`v"_s, u"~v"_s, u"5`v"_s, u"5~v"_s}) {
-        expectDrawnAsInSource(body);
-        for (const QChar vowel : kVowels)
-            expectDrawnAsInSource(vowel + body);
-    }
-}
-
-TEST_F(HebrewFontTest, MarksDifferFromOneAnotherAndFromTheBareLetter)
-{
-    // The comparison with the source would pass if both fonts left the marks out.
-    QSet<QStringList> pictures{drawnOutlines(u"OrvaneHeb"_s, u"v"_s)};
-    for (const QChar mark : kMarks)
-        pictures << drawnOutlines(u"OrvaneHeb"_s, mark + u"v"_s);
-    EXPECT_EQ(pictures.size(), kMarks.size() + 1);
-}
-
-TEST_F(HebrewFontTest, WordsWithoutCrowdedLettersLookAsInTheSource)
-{
-    // Spelt by us: letter after letter with its marks, a maqaf between two words, the stop.
-    for (const QString& stored :
-         {u"h4r4wo5t"_s, u"7owl4`v"_s, u"63l3m"_s, u"d1xa3-l45k"_s, u":rom;`v"_s})
-        expectDrawnAsInSource(stored);
-}
-
 TEST_F(HebrewFontTest, SecondVowelMovesTheHiriqToTheLeft)
 {
     // Before a patah it stands as in the source, where a letter follows.

@@ -48,21 +48,6 @@ QString madeUpVerse(int words)
     return reversedHebrew(text + u':');
 }
 
-QStringList wrapped(const QString& text, int width)
-{
-    QFont font(u"OrvaneHeb"_s);
-    font.setPointSizeF(kHalfPoints / 2.0);
-    QTextLayout layout(text, font);
-    QStringList lines;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width * kPixelsPerTwip);
-        lines << text.sliced(line.textStart(), line.textLength());
-    }
-    layout.endLayout();
-    return lines;
-}
-
 using HebrewWrapTest = BuiltFontsTest;
 
 TEST_F(HebrewWrapTest, NoDividedLineBeginsWithAMarkInReadingOrder)
@@ -77,21 +62,6 @@ TEST_F(HebrewWrapTest, NoDividedLineBeginsWithAMarkInReadingOrder)
             const QString read = reversedHebrew(line);
             EXPECT_FALSE(kMarks.contains(read[0])) << read.toStdString();
         }
-    }
-}
-
-TEST_F(HebrewWrapTest, ControlDoesNotWrapADividedLineAgain)
-{
-    // Left to itself a control would break stored text within a word, between sheva and a digit.
-    // The ruler measures the text turned round, in which marks meet other letters than when drawn:
-    // its lines must be no wider all the same.
-    const QString verse = madeUpVerse(600);
-    FontLineBreaker breaker(kPixelsPerTwip);
-    for (const int width : kWidths) {
-        SCOPED_TRACE(width);
-        for (const QString& line :
-             hebrewLines(verse, {u"OrvaneHeb"_s, kHalfPoints, width}, breaker))
-            EXPECT_EQ(wrapped(line, width), QStringList{line});
     }
 }
 

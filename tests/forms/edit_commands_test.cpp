@@ -45,20 +45,6 @@ TEST_F(EditCommandsTest, AnEditableBoxOffersWhatItsSelectionAllows)
     EXPECT_EQ(editStateOf(&line), EditState());
 }
 
-TEST_F(EditCommandsTest, AReadOnlyViewOffersCopyAndSelectAllAlone)
-{
-    TextControl view;
-    view.setText(u"본문 말씀"_s);
-    EXPECT_EQ(editStateOf(&view), (EditState{.selectAll = true}));
-    view.select(0, 2);
-    EXPECT_EQ(editStateOf(&view), (EditState{.copy = true, .selectAll = true}));
-    for (const EditCommand command : {EditCommand::Cut, EditCommand::Delete, EditCommand::Paste})
-        run(command, view);
-    EXPECT_EQ(view.Text(), u"본문 말씀"_s);
-    run(EditCommand::Copy, view);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"본문"_s);
-}
-
 TEST_F(EditCommandsTest, AGridCopiesItsRowsToTheWindowsClipboard)
 {
     FlexGrid grid;
@@ -98,17 +84,6 @@ TEST_F(EditCommandsTest, CommandsWorkOnAllKindsOfTextBoxes)
     run(EditCommand::Delete, combo);
     EXPECT_EQ(combo.Text(), QString());
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"검색어"_s);
-}
-
-TEST_F(EditCommandsTest, OtherControlsOfferNothing)
-{
-    QPushButton button;
-    ComboBox list;
-    list.AddItem(u"창세기"_s);
-    EXPECT_EQ(editStateOf(&button), EditState());
-    EXPECT_EQ(editStateOf(&list), EditState());
-    EXPECT_EQ(editStateOf(nullptr), EditState());
-    runEditCommand(EditCommand::Paste, nullptr, clipboard);
 }
 
 TEST_F(EditCommandsTest, TheToolsFollowTheFocusedControl)

@@ -32,16 +32,6 @@ protected:
     QWidget window;
 };
 
-TEST_F(FormGeometryTest, AFreshWindowIsCentredInItsFallbackSize)
-{
-    window.resize(300, 200);
-    Proc시동크기위치설정(registry, geometry::kBibleSearch, window);
-    EXPECT_EQ(window.size(), QSize(toPixels(8600), toPixels(7800)));
-    const QSize screen = QGuiApplication::primaryScreen()->size();
-    EXPECT_NEAR(window.x(), (screen.width() - window.width()) / 2, 1);
-    EXPECT_NEAR(window.y(), (screen.height() - window.height()) / 2, 1);
-}
-
 TEST_F(FormGeometryTest, WhatWasSavedComesBack)
 {
     window.setGeometry(40, 30, 500, 450);
@@ -69,18 +59,6 @@ TEST_F(FormGeometryTest, AMaximisedWindowComesBackSoAndRestoresToWhereItStood)
     QWidget third;
     Proc시동크기위치설정(registry, geometry::kBibleSearch, third);
     EXPECT_FALSE(third.isMaximized());
-}
-
-TEST_F(FormGeometryTest, APlaceBeyondTheScreenIsCentredAndATinySizeFallsBack)
-{
-    store(u"Left"_s, u"99999"_s);
-    store(u"Top"_s, u"300"_s);
-    store(u"Width"_s, u"6999"_s);
-    store(u"Height"_s, u"6100"_s);
-    Proc시동크기위치설정(registry, geometry::kBibleSearch, window);
-    EXPECT_GT(window.x(), 0);
-    EXPECT_LT(window.x(), QGuiApplication::primaryScreen()->size().width());
-    EXPECT_EQ(window.size(), QSize(toPixels(8600), toPixels(6100)));
 }
 
 TEST_F(FormGeometryTest, AWindowOfFixedSizeKeepsItsSize)

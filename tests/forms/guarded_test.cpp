@@ -62,13 +62,6 @@ TEST_F(GuardedTest, AnEngineErrorIsShownAndTheHandlersWritesTakenBack)
     EXPECT_EQ(noteCount(), 1);
 }
 
-TEST_F(GuardedTest, AHandlerWithoutErrorKeepsItsWrites)
-{
-    EXPECT_TRUE(
-        guarded(world.services, nullptr, [&] { addNote(*world.jet.OpenDatabase(kNotes)); }));
-    EXPECT_EQ(noteCount(), 2);
-}
-
 TEST_F(GuardedTest, PointerAndPaintingArePutBackBeforeTheMessage)
 {
     FlexGrid grid;

@@ -59,16 +59,6 @@ TEST_F(VersionChoiceTest, AnInstalledVersionGivesItsTableAndPath)
     }
 }
 
-TEST_F(VersionChoiceTest, TheFirstItemOfAParallelSlotIsNoVersion)
-{
-    VersionChoice parallel = choiceOf({.number = 2, .missingFile = AbsentVersion::ParallelFile});
-    const ChosenVersion none = parallel.choose(nullptr, 0, false);
-    EXPECT_TRUE(none.accepted);
-    EXPECT_EQ(none.tableName, u"None"_s);
-    EXPECT_EQ(none.path, QString());
-    EXPECT_EQ(parallel.items()[0].label, u"대역본2 - 없음"_s);
-}
-
 TEST_F(VersionChoiceTest, AnAbsentRowIsRefusedAndTheFormerPutBack)
 {
     VersionChoice base = choiceOf({});
@@ -136,17 +126,6 @@ TEST_F(VersionChoiceTest, ARefusedComboRunsItsEventOnceMoreWithTheFormerVersion)
     combo.setListIndex(base.indexOf(205));
     EXPECT_EQ(opened, (QStringList{u"KJV"_s, u"KJV"_s}));
     EXPECT_EQ(combo.Text(), u"KJV"_s);
-}
-
-TEST_F(VersionChoiceTest, AnIndexOutsideTheListChangesNothing)
-{
-    VersionChoice base = choiceOf({});
-    choose(base, 201);
-    for (const int index : {-1, 999}) {
-        const ChosenVersion chosen = base.choose(nullptr, index, false);
-        EXPECT_FALSE(chosen.accepted);
-        EXPECT_EQ(chosen.index, base.indexOf(201));
-    }
 }
 
 } // namespace

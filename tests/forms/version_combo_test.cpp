@@ -13,20 +13,6 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
-TEST(VersionComboTest, ItemsCarryTheirCodesAndAbsentOnesTheirSuffix)
-{
-    InstalledFlags installed;
-    installed.versions = {101, 201};
-    ComboBox combo;
-    combo.AddItem(u"예전 것"_s);
-    fillVersionCombo(combo, SetClassicCombo(installed, 0));
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.List(0), u"개역한글"_s);
-    EXPECT_EQ(combo.List(combo.findItemData(201)), u"KJV"_s);
-    EXPECT_EQ(combo.List(combo.findItemData(205)), u"ASV(없음)"_s);
-    EXPECT_EQ(combo.findItemData(109), -1);
-}
-
 TEST(VersionMenuTest, ToolsAreMadeOnceAndBroughtUpToDate)
 {
     QMainWindow window;
@@ -49,21 +35,6 @@ TEST(VersionMenuTest, ToolsAreMadeOnceAndBroughtUpToDate)
     EXPECT_EQ(bars.tool(u"ID_대역본0-901").caption(), u"나의 역본"_s);
     // The place in the combo counts the row that has come in front.
     EXPECT_EQ(bars.tool(u"ID_대역본0-201").tag().toInt(), 8);
-}
-
-TEST(BookComboTest, BooksAndTheirChaptersAreListed)
-{
-    ComboBox books;
-    ComboBox chapters;
-    FillBookCombo(books);
-    EXPECT_EQ(books.ListCount(), 66);
-    EXPECT_EQ(books.List(42), u"요한복음"_s);
-    for (const auto& [book, count] : {std::pair{0, 50}, {18, 150}, {30, 1}, {65, 22}}) {
-        fillChapterCombo(chapters, book);
-        EXPECT_EQ(chapters.ListCount(), count) << book;
-        EXPECT_EQ(chapters.List(count - 1), QString::number(count));
-    }
-    EXPECT_EQ(chapters.ListIndex(), -1);
 }
 
 } // namespace

@@ -181,20 +181,6 @@ TEST_F(JetSampleContentTest, KoreanTypesKeepNullEmptyLongAndExtremeValues)
     EXPECT_EQ(column(u"확인"_s), (QVariantList{-1, 0, -1, -1, 0}));
 }
 
-TEST_F(JetSampleContentTest, RelationsBetweenTablesBringNoIndex)
-{
-    const QList<ReadTable> tables = readSample(u"jet4-two-tables.mdb"_s);
-    ASSERT_EQ(tables.size(), 2);
-    EXPECT_EQ(tables[0].schema.name, u"baseTable"_s);
-    EXPECT_EQ(indexText(tables[0].schema), u"PrimaryKey primary unique(recordID)"_s);
-    EXPECT_EQ(indexText(tables[1].schema), u"PrimaryKey primary unique(companyID)"_s);
-    QList<double> days;
-    for (int row = 0; row < 4; ++row)
-        days << tables[0].at(row, u"dateEntered"_s).toDouble();
-    EXPECT_EQ(days, (QList<double>{38897, 38852, 38852, 38898}));
-    EXPECT_EQ(tables[1].rows.size(), 3);
-}
-
 TEST_F(JetSampleContentTest, TheRecordsOfAUserComeOutWhole)
 {
     const ReadTable notes = onlyTable(u"myc-made.mdb"_s);

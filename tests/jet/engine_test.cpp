@@ -302,17 +302,6 @@ TEST_F(JetEngineTest, AKillBetweenDeleteAndUpdateLeavesTheOldNotes)
     }
 }
 
-TEST_F(JetEngineTest, OpenFilesAreKnownToTheFileLayer)
-{
-    make(u"myc.mdb"_s);
-    EXPECT_FALSE(engine.isOpen(path(u"myc.mdb"_s)));
-    auto database = open(u"myc.mdb"_s);
-    EXPECT_TRUE(engine.isOpen(path(u"../%1/myc.mdb"_s.arg(QDir(folder.path()).dirName()))));
-    EXPECT_FALSE(engine.isOpen(path(u"other.mdb"_s)));
-    database.reset();
-    EXPECT_FALSE(engine.isOpen(path(u"myc.mdb"_s)));
-}
-
 TEST_F(JetEngineTest, CompactionKeepsOrderValuesAndPassword)
 {
     make(u"예화.dts"_s, u"pw"_s, 500);

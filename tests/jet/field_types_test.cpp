@@ -65,19 +65,6 @@ TEST(FieldTypesTest, DatesAreReadInTheirFormsAndNothingElseIs)
     }
 }
 
-TEST(FieldTypesTest, DayNumbersAndMomentsAreInverse)
-{
-    for (const double day : {0.0, -1.75, -0.5 - 1, 45351.25, -657434.0, 2958465.0}) {
-        SCOPED_TRACE(day);
-        EXPECT_EQ(dayNumber(momentOf(day)), day);
-    }
-    EXPECT_FALSE(momentOf(2958466).isValid());
-    EXPECT_FALSE(momentOf(std::numeric_limits<double>::infinity()).isValid());
-    // A time that rounds up to midnight belongs to the next day.
-    EXPECT_EQ(dayText(45350.9999999999), u"2024-02-29"_s);
-    EXPECT_EQ(dayText(-1.75), u"1899-12-29 18:00:00"_s);
-}
-
 int conversionFailure(const QVariant& value, FieldType type, int size = 0)
 {
     try {

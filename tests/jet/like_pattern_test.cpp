@@ -223,16 +223,6 @@ TEST(LikePatternTest, TheByteSearchFindsTheFirstPlaceAtAllLengths)
     }
 }
 
-TEST(LikePatternTest, APrefixEndsBeforeTheNextCodePoint)
-{
-    EXPECT_EQ(endOfPrefix(u"43요:"_s), u"43요;"_s);
-    EXPECT_EQ(endOfPrefix(u"힣"_s), u"\uD7A4"_s);
-    EXPECT_EQ(endOfPrefix(u"a\uD7FF"_s), u"a\uE000"_s);
-    EXPECT_EQ(endOfPrefix(u"\uFFFF"_s), u"\U00010000"_s);
-    EXPECT_EQ(endOfPrefix(u"a\U0010FFFF"_s), u"b"_s);
-    EXPECT_EQ(endOfPrefix(u"\U0010FFFF"_s), std::nullopt);
-}
-
 } // namespace
 
 } // namespace lumen

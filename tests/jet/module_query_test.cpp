@@ -325,68 +325,6 @@ TEST_F(ModuleQueryTest, PrefixesReachToTheLastCharacterOfEachPlane)
                        {}}});
 }
 
-/// Dictionary-like rows: a few words joined, numbers that repeat.
-SampleTable glossary(const QString& name)
-{
-    SampleTable table({.name = name,
-                       .columns = {{.name = u"no"_s, .type = FieldType::Long},
-                                   {.name = u"word"_s, .size = 60},
-                                   {.name = u"class"_s, .size = 20},
-                                   {.name = u"def"_s, .type = FieldType::Memo}},
-                       .indexes = {{u"word"_s, {u"word"_s}, false, false}}});
-    std::mt19937 random(3);
-    const auto upTo = [&random](int most) {
-        return std::uniform_int_distribution<int>(0, most)(random);
-    };
-    for (int i = 0; i < 300; ++i)
-        table.add({upTo(50), DES::ScrambleField(words()[upTo(12)] + words()[upTo(12)]),
-                   i % 3 == 0 ? u"인명"_s : u"지명"_s,
-                   DES::ScrambleField(words()[upTo(12)] + u' ' + words()[upTo(12)])});
-    return table;
-}
-
-TEST_F(ModuleQueryTest, DictionariesAreSearchedByWordAndDefinition)
-{
-    const SampleTable table = glossary(u"성경사전"_s);
-    write(u"BibleDic.dts"_s, {table});
-    for (const QString& word : words()) {
-        const QString stored = DES::ScrambleField(word);
-        const Condition begins = [stored](const Line& line) {
-            return line.startsWith(u"word"_s, stored);
-        };
-        const Condition holds = [stored](const Line& line) {
-            return line.contains(u"word"_s, stored);
-        };
-        const Condition defined = [stored](const Line& line) {
-            return line.contains(u"def"_s, stored);
-        };
-        const QString head = u"Select * from <T> where "_s;
-        check(table,
-              {{head + u"word like '"_s + pattern(word) + u"*' order by no"_s, begins, by(u"no"_s)},
-               {head + u"word like '"_s + pattern(word) + u"*' and class = '인명' order by no"_s,
-                [begins](const Line& line) {
-                    return begins(line) && line.equals(u"class"_s, u"인명"_s);
-                },
-                by(u"no"_s)},
-               {head + u"word like '*"_s + pattern(word) + u"*'"_s, holds, {}},
-               {head + u"def like '*"_s + pattern(word) + u"*'"_s, defined, {}},
-               {head + u"word like '"_s + pattern(word) + u"'"_s,
-                [stored](const Line& line) { return line.equals(u"word"_s, stored); },
-                {}},
-               {head + u"def like '*"_s + pattern(word) + u"*' or word like '*"_s + pattern(word) +
-                    u"*'order by No"_s,
-                [holds, defined](const Line& line) { return holds(line) || defined(line); },
-                by(u"no"_s)},
-               // A plain literal breaks the bar out of the text.
-               {head + u"word = '"_s + EscapeSqlText(stored) + u"'"_s,
-                [stored](const Line& line) { return line.equals(u"word"_s, stored); },
-                {}}});
-    }
-    EXPECT_EQ(
-        errorOf([&] { database->OpenRecordset(u"Select * from 성경사전 where word like '[*'"_s); }),
-        93);
-}
-
 TEST_F(ModuleQueryTest, ReferencesAndAnalysesAreFoundByPlaceAndNumber)
 {
     SampleTable refs({.name = u"cref"_s,

@@ -188,19 +188,6 @@ TEST_F(RecordsetTest, EditsAreWrittenKeptForAnotherTryOrDropped)
     EXPECT_EQ(columnOf(*all(), u"글"), (QStringList{u""_s, u"글 2"_s, u"글 3"_s}));
 }
 
-TEST_F(RecordsetTest, RequiredColumnsRefuseNull)
-{
-    makeStore(u"qt.mdb"_s, StoreCompare::Text,
-              {.name = u"QT"_s, .columns = {{.name = u"a"_s, .required = true}, {.name = u"b"_s}}},
-              {});
-    const auto records = open(u"qt.mdb"_s)->OpenRecordset(u"QT"_s);
-    EXPECT_TRUE(records->isClosed());
-    const auto qt = open(u"qt.mdb"_s);
-    const auto rows = qt->OpenRecordset(u"select b from QT"_s);
-    rows->AddNew();
-    EXPECT_EQ(errorOf([&] { rows->Update(); }), 3314);
-}
-
 TEST_F(RecordsetTest, BookmarksHoldInClonesAndNowhereElse)
 {
     make(kManyRows);

@@ -58,35 +58,6 @@ TEST_F(StoreWriterTest, RowsKeepOrderTypesNullAndEmptyText)
     EXPECT_EQ(files(), QStringList{u"a.mdb"_s});
 }
 
-TEST_F(StoreWriterTest, PasswordOriginAndItsLinesAreKept)
-{
-    StoreWriter writer(path(u"101.dts"_s), StoreCompare::Binary);
-    writer.setPassword(u"비밀"_s);
-    writer.setOrigin(u"jet3"_s);
-    writer.addOriginLine(u"source"_s, u"시험"_s);
-    writer.commit();
-    EXPECT_EQ(rawRows(path(u"101.dts"_s), "SELECT * FROM MSysStore ORDER BY key"),
-              (QStringList{u"compare|binary"_s, u"origin|jet3"_s, u"password|비밀"_s}));
-    EXPECT_EQ(rawRows(path(u"101.dts"_s), "SELECT * FROM MSysOrigin"),
-              QStringList{u"source|시험"_s});
-}
-
-TEST_F(StoreWriterTest, TablesMayShareAnIndexName)
-{
-    StoreWriter writer(path(u"z199.dts"_s), StoreCompare::Binary);
-    for (const QString& name : {u"Table0"_s, u"Table1"_s}) {
-        writer.createTable({.name = name,
-                            .columns = {{.name = u"Index"_s, .size = 20}},
-                            .indexes = {{u"PrimaryKey"_s, {u"Index"_s}, false, true}}});
-        writer.addRow(name, {u"43요:003:016"_s});
-    }
-    writer.commit();
-    EXPECT_EQ(rawRows(path(u"z199.dts"_s),
-                      "SELECT count(*) FROM sqlite_schema WHERE type='index' AND name LIKE "
-                      "'Table_.PrimaryKey'"),
-              QStringList{u"2"_s});
-}
-
 int failureOf(const std::function<void()>& action)
 {
     try {

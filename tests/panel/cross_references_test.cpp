@@ -170,18 +170,6 @@ TEST_F(CrossReferencesTest, ADoubleClickLeadsTheReaderThere)
     EXPECT_EQ(reader.range, u"16"_s);
 }
 
-TEST_F(CrossReferencesTest, TheSameVerseIsNotReadAgain)
-{
-    expandAt(1);
-    dacRefTab.RecordSource = u"another tab was here"_s;
-    status = u"검색된 단어 수: 7"_s;
-    goTo(1);
-    EXPECT_EQ(dacRefTab.RecordSource, u"another tab was here"_s);
-    EXPECT_EQ(status, u"검색된 관주 수: 2"_s);
-    goTo(0); // a reader that is hidden
-    EXPECT_EQ(dacRefTab.RecordSource, u"another tab was here"_s);
-}
-
 TEST_F(CrossReferencesTest, HebrewIsDividedToTheWidthOfTheBoxAndStandsAtTheRight)
 {
     stand(301, u"BHS"_s);
@@ -202,16 +190,6 @@ TEST_F(CrossReferencesTest, HebrewIsDividedToTheWidthOfTheBoxAndStandsAtTheRight
     clickItem(0);
     EXPECT_EQ(tab->tx관주본문->document()->defaultTextOption().alignment(), Qt::AlignLeft);
     EXPECT_EQ(text(), TinyData::text(101, kGenesis, 1, 9));
-}
-
-TEST_F(CrossReferencesTest, ItemsThatAreNoReferencesDoNoHarm)
-{
-    expandAt(7);
-    EXPECT_EQ(shown().size(), 3);
-    EXPECT_TRUE(shown().contains(u"창1:1"_s));
-    for (int i = 0; i < 3; ++i)
-        clickItem(i, true);
-    EXPECT_EQ(world.messages.shownCount(), 0);
 }
 
 TEST_F(CrossReferencesTest, ADamagedModuleLeavesNoReferencesOfAnotherVerse)

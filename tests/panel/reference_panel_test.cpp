@@ -126,15 +126,6 @@ TEST_F(ReferencePanelTest, ExpandedATabChangeLeavesOneAndEntersTheOther)
     EXPECT_EQ(hidings, 1);
 }
 
-TEST_F(ReferencePanelTest, ATabWithoutContentSaysNothing)
-{
-    expandOn(u"관주");
-    clickHeader(u"찬송가");
-    EXPECT_EQ(statuses, QStringList{QString()});
-    panel.showPlace();
-    EXPECT_EQ(calls, QStringList{u"관주 leave"_s});
-}
-
 TEST_F(ReferencePanelTest, PlaceAndSelectionReachTheShownTabAlone)
 {
     expandOn(u"개인주석");

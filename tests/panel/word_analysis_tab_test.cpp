@@ -171,30 +171,6 @@ TEST_F(WordAnalysisTabTest, InANarrowBoxTheWordStaysOnOneLineAndItsGrammarWraps)
     EXPECT_GT(lines, 1);
 }
 
-TEST_F(WordAnalysisTabTest, GreekReadsFromTheLeftAndHasNoPieces)
-{
-    goTo(kJohn, 1);
-    ASSERT_EQ(grid().Rows(), 5);
-    EXPECT_EQ(row(1), (QStringList{u"본문"_s, u"lo3goj"_s, u"h3n"_s}));
-    EXPECT_EQ(row(4), (QStringList{u"표제어"_s, u"lo3goj"_s, u"ei0mi3"_s}));
-    EXPECT_EQ(grid().ColSel(), 1);
-    EXPECT_EQ(lines(*tab->txParsing).first(), u"원어: lo3goj"_s);
-    goTo(kGenesis, 1);
-    EXPECT_EQ(grid().Rows(), 6);
-    EXPECT_EQ(lines(*tab->txParsing).first(), u"원어: ba"_s);
-}
-
-TEST_F(WordAnalysisTabTest, AVerseOfAllColumnsIsShownWhole)
-{
-    goTo(kGenesis, 3);
-    EXPECT_EQ(grid().Cols(), 75);
-    EXPECT_EQ(grid().TextMatrix(0, 74), u"1"_s);
-    EXPECT_EQ(grid().TextMatrix(0, 1), u"74"_s);
-    // The first word is in view though the columns are wider than the grid.
-    EXPECT_TRUE(
-        grid().viewport()->rect().intersects(grid().visualRect(grid().model()->index(0, 74))));
-}
-
 TEST_F(WordAnalysisTabTest, TheChosenWordIsAnalysedAndLookedUp)
 {
     EXPECT_EQ(tab->txCodeNum->text(), u"1"_s);
@@ -233,19 +209,6 @@ TEST_F(WordAnalysisTabTest, AnEntryHasAllItsLines)
     expected[0] = u"어근: lo3goj "_s;
     expected[7] = u"TDNT:  4a "_s;
     EXPECT_EQ(lines(*tab->tx스트롱), expected);
-}
-
-TEST_F(WordAnalysisTabTest, TheLastNumberIsLookedForAndTheNextIsNot)
-{
-    goTo(kJohn, 1);
-    EXPECT_EQ(tab->txCodeNum->text(), u"8853"_s);
-    EXPECT_EQ(lines(*tab->tx스트롱).at(1), u"발음: [ : ] "_s) << "Null columns are empty";
-    status = u"검색된 단어 수: 3"_s;
-    // With the dictionary gone a look-up would tell an error.
-    ASSERT_TRUE(QFile::remove(world.folders.data(u"StrongDicG.dts"_s)));
-    click(0, 2);
-    EXPECT_EQ(tab->tx스트롱->Text(), u"해당 스트롱 코드 항목이 없습니다."_s);
-    EXPECT_EQ(status, QString());
 }
 
 TEST_F(WordAnalysisTabTest, NumberBoxAndArrowsLookNumbersUp)
@@ -292,17 +255,6 @@ TEST_F(WordAnalysisTabTest, DoubleClickAndButtonAskForTheListOfVerses)
     tab->popUpEditMenu = [&menus] { ++menus; };
     click(1, 1, Qt::RightButton);
     EXPECT_EQ(menus, 1);
-}
-
-TEST_F(WordAnalysisTabTest, ACellWithoutATextChoosesItsWordToo)
-{
-    // The second word has no gloss; what the input method keeps for itself chooses nothing.
-    grid().setCell(2, 2);
-    QKeyEvent kept(QEvent::KeyRelease, 0, Qt::NoModifier);
-    QApplication::sendEvent(&grid(), &kept);
-    EXPECT_EQ(tab->txCodeNum->text(), u"1"_s);
-    click(2, 2);
-    EXPECT_EQ(lines(*tab->txParsing).first(), u"원어: {gd}"_s);
 }
 
 TEST_F(WordAnalysisTabTest, AVerseThatIsNotThereLeavesAllAsItWas)

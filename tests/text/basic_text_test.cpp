@@ -29,16 +29,6 @@ TEST(BasicText, ValReadsTheNumericHead)
         EXPECT_DOUBLE_EQ(Val(row.text), row.value) << row.text.toStdString();
 }
 
-TEST(BasicText, ValIntRoundsHalvesToEvenAndStaysInRange)
-{
-    EXPECT_EQ(ValInt(u"2.5"), 2);
-    EXPECT_EQ(ValInt(u"3.5"), 4);
-    EXPECT_EQ(ValInt(u"-1.6"), -2);
-    EXPECT_EQ(ValInt(u"99999999999"), std::numeric_limits<int>::max());
-    EXPECT_EQ(ValInt(u"-1e300"), std::numeric_limits<int>::min());
-    EXPECT_EQ(ValInt(u"1e999"), std::numeric_limits<int>::max());
-}
-
 TEST(BasicText, NumbersAreWrittenInTheirThreeForms)
 {
     struct Row
@@ -84,23 +74,6 @@ TEST(BasicText, PartsOfTextCountFromOneAndNeverRunOver)
     EXPECT_EQ(Right(u"abc", -2), u"");
 }
 
-TEST(BasicText, TrimTakesBlanksAndNothingElse)
-{
-    EXPECT_EQ(Trim(u"  a b  "), u"a b");
-    EXPECT_EQ(Trim(u" \ta\r\n "), u"\ta\r\n");
-    EXPECT_EQ(Trim(u"\u3000a"), u"\u3000a");
-    EXPECT_EQ(Trim(u"   "), u"");
-    EXPECT_EQ(LTrim(u" a "), u"a ");
-}
-
-TEST(BasicText, FormatPadsWithoutCutting)
-{
-    EXPECT_EQ(Format(3, u"00"), u"03"_s);
-    EXPECT_EQ(Format(176, u"00"), u"176"_s);
-    EXPECT_EQ(Format(7, u"000"), u"007"_s);
-    EXPECT_EQ(Format(-4, u"00"), u"-04"_s);
-}
-
 TEST(BasicText, DatesHaveOneFormAndAreReadTolerantly)
 {
     EXPECT_EQ(dateText(QDate(2003, 4, 9)), u"2003-04-09"_s);
@@ -109,15 +82,6 @@ TEST(BasicText, DatesHaveOneFormAndAreReadTolerantly)
     EXPECT_EQ(dateFromText(u" 2003. 4. 9 "), QDate(2003, 4, 9));
     for (const QString& text : {u""_s, u"2003-02-30"_s, u"2003-04"_s, u"a-b-c"_s, u"1-2-3-4"_s})
         EXPECT_EQ(dateFromText(text), std::nullopt) << text.toStdString();
-}
-
-TEST(BasicText, ColourPartsComeFromTheLowByteUp)
-{
-    EXPECT_EQ(RGB(255, 0, 0), 255U);
-    EXPECT_EQ(RGB(37, 21, 102), 6690085U);
-    EXPECT_EQ(redPart(16711680), 0);
-    EXPECT_EQ(greenPart(0x00FF8001), 0x80);
-    EXPECT_EQ(bluePart(16711680), 255);
 }
 
 } // namespace

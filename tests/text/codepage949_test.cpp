@@ -31,19 +31,6 @@ TEST(CodePage949, AgreesWithTheCodecOnEveryUnit)
     EXPECT_GT(encodable, 17000);
 }
 
-TEST(CodePage949, PairsAndSingleUnitsMapBothWays)
-{
-    EXPECT_EQ(toCodePage949(u"가A힝~"), QByteArray("\xB0\xA1"
-                                                   "A"
-                                                   "\xC8\xFE~"));
-    EXPECT_EQ(fromCodePage949(QByteArrayView("\x81\x41\xB0\xA1z")), u"갂가z"_s);
-    EXPECT_EQ(code949(u'가'), 0xB0A1);
-    EXPECT_EQ(unit949(0xA3DB), u'\uFF3B');
-    EXPECT_EQ(code949(u'\0'), 0);
-    EXPECT_EQ(code949(u'\u05D0'), std::nullopt);
-    EXPECT_EQ(unit949(0x8140), std::nullopt);
-}
-
 TEST(CodePage949, WhatThePageLacksBecomesOneQuestionMark)
 {
     EXPECT_EQ(toCodePage949(u"a\u05D0b"), QByteArray("a?b"));

@@ -45,19 +45,6 @@ TEST(HebrewDivision, LinesComeFromTheEndOfTheStoredVerse)
               u"dcba\\par gfe\\par ih"_s);
 }
 
-TEST(HebrewDivision, OneLineComesBackUnchangedAndAHiddenTargetGivesNothing)
-{
-    FixedBreaker one({4});
-    EXPECT_EQ(DivideHebrewCont(u"dcba"_s, kTarget, true, one), u"dcba"_s);
-    FixedBreaker none({});
-    EXPECT_EQ(DivideHebrewCont(u""_s, kTarget, true, none), u""_s);
-    HebrewTarget hidden = kTarget;
-    hidden.isVisible = false;
-    FixedBreaker untouched({2, 2});
-    EXPECT_EQ(DivideHebrewCont(u"dcba"_s, hidden, true, untouched), u""_s);
-    EXPECT_EQ(untouched.asked, QString());
-}
-
 TEST(HebrewDivision, ABreakerThatCountsTooMuchCannotReachBeyondTheVerse)
 {
     FixedBreaker breaker({3, 30, 2});

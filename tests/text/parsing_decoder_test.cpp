@@ -40,13 +40,6 @@ TEST(ParsingDecoder, FirstCharacterIsTheLanguageAndUnknownPartsOfSpeechEndTheTex
     });
 }
 
-TEST(ParsingDecoder, ParagraphMarkIsReadNoFurther)
-{
-    for (const QString& code : {u"@x"_s, u"@xxxxxx"_s, u"@xcms---------1q"_s})
-        EXPECT_EQ(decoded(code), u"언어: 히브리어,품사: 문단구분자"_s) << code.toStdString();
-    EXPECT_EQ(decoded(u"%xxxxxx"_s), u"언어: 아람어,품사: 문단구분자"_s);
-}
-
 TEST(ParsingDecoder, HebrewGroupsStandAtTheirPositions)
 {
     expectRows({
@@ -69,27 +62,6 @@ TEST(ParsingDecoder, HebrewGroupsStandAtTheirPositions)
          u"언어: 히브리어,품사: 대명사,구분: 독립인칭대명사,인칭: 1인칭,성 : 공성,수 : 복수,"
          "동음이의어: 없음,읽기: 미정"_s},
     });
-}
-
-TEST(ParsingDecoder, CaseOfACharacterTellsValuesApart)
-{
-    expectRows({
-        {u"@vqp"_s, u"언어: 히브리어,품사: 동사,어근: Qal,상 : 완료"_s},
-        {u"@vQP"_s, u"언어: 히브리어,품사: 동사,어근: Saphal(아람어),상 : 분사"_s},
-        {u"@np"_s, u"언어: 히브리어,품사: 명사,구분: 고유명사"_s},
-        {u"@nP"_s, u"언어: 히브리어,품사: 명사"_s},
-    });
-}
-
-TEST(ParsingDecoder, DashIsAValueInFiveTablesOnly)
-{
-    EXPECT_EQ(decoded(u"@------"_s), u"언어: 히브리어"_s);
-    EXPECT_EQ(decoded(u"@n----S---E-H-R-"_s),
-              u"언어: 히브리어,품사: 명사,동음이의어: 없음,읽기: 미정"_s);
-    EXPECT_EQ(decoded(u"@v------S---J-C-A-E-H-R-"_s),
-              u"언어: 히브리어,품사: 동사,단축형: 단축형 아님,연장형: 연장형 아님,"
-              "어미음 소실: 소실형 아님,동음이의어: 없음,읽기: 미정"_s);
-    EXPECT_EQ(decoded(u"$v------"_s), u"언어: 헬라어,품사: 동사"_s);
 }
 
 TEST(ParsingDecoder, PatternsYieldOnlyWhatWasChosen)

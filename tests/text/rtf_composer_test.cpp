@@ -46,22 +46,6 @@ TEST(RtfComposer, EscapesWhatTheFormatAndTheFontsCannotTake)
     EXPECT_EQ(RtfEscape(std::optional<QString>(u"}"_s)), u"\\}"_s);
 }
 
-TEST(RtfComposer, HeadIsBuiltFromTheSettings)
-{
-    const QString expected =
-        u"{\\rtf1\\ansi\\ansicpg949\\deff0\\fs26"
-        "{\\colortbl\\red1\\green2\\blue3;\\red37\\green21\\blue102;\\red255\\green0\\blue0;"
-        "\\red0\\green128\\blue0;\\red0\\green0\\blue250;\\red0\\green0\\blue255;}"
-        "{\\fonttbl{\\f0\\fswiss MS Sans Serif;}{\\f1\\froman\\fcharset2 Symbol;}"
-        "{\\f2\\fmodern\\fcharset129 바탕;}{\\f3\\fmodern\\fcharset129 \\'b1\\'bc\\'b8\\'b2;}"_s;
-    const QString head = rtfDocumentHeader(sampleSettings());
-    EXPECT_EQ(head.left(expected.size()), expected);
-    EXPECT_TRUE(head.contains(u"{\\f16\\fmodern\\fcharset134 MS Song;}"
-                              "{\\f17\\fmodern\\fcharset129 U1;}"_s));
-    EXPECT_TRUE(head.contains(u"{\\f21\\fmodern\\fcharset129 U5;}{\\f22\\fnil\\fcharset0 U6;}"_s));
-    EXPECT_TRUE(head.endsWith(u"{\\f31\\fnil\\fcharset0 U15;}}"_s));
-}
-
 TEST(RtfComposer, ReadBackTheTablesHaveTheirNumbers)
 {
     const RtfContent content = parseRtf(toRtfBytes(rtfDocumentHeader(sampleSettings()) + u"}"_s));
@@ -91,25 +75,6 @@ TEST(RtfComposer, AFontNameCannotBreakTheTable)
     EXPECT_EQ(content.text, u"text"_s);
     EXPECT_EQ(content.fonts.size(), 32U);
     EXPECT_EQ(content.font(2)->name, u"parBad"_s);
-}
-
-TEST(RtfComposer, SizesFollowTheStepAndFallToTheMiddle)
-{
-    const RtfSizes expected[] = {{20, 16}, {16, 12}, {18, 14}, {20, 16},
-                                 {26, 20}, {32, 26}, {20, 16}};
-    for (int step = 0; step <= 6; ++step) {
-        EXPECT_EQ(rtfSizes(step).text, expected[step].text) << step;
-        EXPECT_EQ(rtfSizes(step).verseNumber, expected[step].verseNumber) << step;
-    }
-}
-
-TEST(RtfComposer, BytesWriteWhatThePageLacksAsNumbers)
-{
-    EXPECT_EQ(toRtfBytes(u"가é"), QByteArray("\xB0\xA1\\u233?"));
-    EXPECT_EQ(toRtfBytes(u"\uFB2A"), QByteArray("\\u-1238?"));
-    EXPECT_EQ(toRtfBytes(u"\U0001F600"), QByteArray("\\u-10179?\\u-8704?"));
-    EXPECT_EQ(parseRtf("{\\rtf1 " + toRtfBytes(u"가é\uFB2A\U0001F600힝") + "}").text,
-              u"가é\uFB2A\U0001F600힝"_s);
 }
 
 } // namespace

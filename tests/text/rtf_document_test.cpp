@@ -183,18 +183,6 @@ TEST(RtfWriter, WhatIsWrittenIsReadBackAlike)
     }
 }
 
-TEST(RtfWriter, BytesAreSevenBitAndNameTheirTables)
-{
-    QTextDocument document;
-    fillRich(document);
-    const QByteArray rtf = writeRtf(document);
-    EXPECT_TRUE(std::all_of(rtf.cbegin(), rtf.cend(), [](char c) { return c >= 0; }));
-    EXPECT_TRUE(rtf.startsWith("{\\rtf1\\ansi\\ansicpg949\\deff0"));
-    EXPECT_TRUE(rtf.contains("\\fnil\\fcharset129 \\'b1\\'bc\\'b8\\'b2\\'c3\\'bc;}"));
-    EXPECT_TRUE(rtf.contains("{\\colortbl ;\\red1\\green2\\blue3;\\red255\\green255\\blue0;}"));
-    EXPECT_TRUE(rtf.contains("\\'c7\\'d1\\'b1\\'db \\{a\\}\\\\b; \\u233?\\u1488?"));
-}
-
 TEST(RtfWriter, ASelectionIsADocumentOfItsOwn)
 {
     QTextDocument document;
@@ -214,13 +202,6 @@ TEST(RtfWriter, ASelectionIsADocumentOfItsOwn)
         cursor.setPosition(row.start, QTextCursor::KeepAnchor);
         EXPECT_EQ(rtfToPlainText(writeRtf(cursor)), row.text);
     }
-}
-
-TEST(RtfWriter, AnEmptyDocumentKeepsNothingButItsHead)
-{
-    QTextDocument document;
-    EXPECT_EQ(rtfToPlainText(writeRtf(document)), u""_s);
-    EXPECT_EQ(parseRtf(writeRtf(document)).paragraphs.size(), 1U);
 }
 
 } // namespace

@@ -104,18 +104,6 @@ TEST(RtfParser, OtherPagesFollowTheHeadAndTheFont)
     EXPECT_EQ(parseRtf("{\\rtf1\\ansicpg1251 \\'c0}").text, u"\u0410"_s);
 }
 
-TEST(RtfParser, NeighboursOfOneStyleAreOneRun)
-{
-    const RtfContent content = body("\\f1\\fs20 a{\\cf0 b}\\b c\\b0\\b d\\b0 e\\par f");
-    ASSERT_EQ(content.runs.size(), 4U);
-    EXPECT_EQ(content.runs[0].length, 2);
-    EXPECT_EQ(content.runs[1].length, 2);
-    EXPECT_EQ(content.styles[static_cast<std::size_t>(content.runs[1].style)].flags,
-              RtfCharStyle::Bold);
-    EXPECT_EQ(content.runs[0].style, content.runs[3].style);
-    EXPECT_EQ(content.styles.size(), 2U);
-}
-
 TEST(RtfParser, StylesEndWithTheirGroup)
 {
     const RtfContent content =
@@ -166,12 +154,6 @@ TEST(RtfParser, TablesAreReadInEveryWriting)
     EXPECT_EQ(content.font(6), nullptr);
 }
 
-TEST(RtfParser, TheDocumentEndsWithItsOuterGroup)
-{
-    EXPECT_EQ(parseRtf("{\\rtf1 a}b{c}").text, u"a"_s);
-    EXPECT_EQ(parseRtf("{\\rtf1 a").text, u"a"_s);
-}
-
 TEST(RtfParser, BytesThatAreNoRtfArePlainText)
 {
     const RtfContent content = parseRtf("{a}\r\n\xB0\xA1\\b\n\nc");
@@ -191,17 +173,6 @@ TEST(RtfParser, ADocumentMayBeCutAnywhere)
         SCOPED_TRACE(length);
         expectConsistent(parseRtf(whole.first(length)));
     }
-}
-
-TEST(RtfParser, DeepNestingAndOddNumbersAreSurvived)
-{
-    const QByteArray deep =
-        "{\\rtf1" + QByteArray(200'000, '{') + "x" + QByteArray(200'000, '}') + "y}z";
-    EXPECT_EQ(parseRtf(deep).text, u"xy"_s);
-    const RtfContent content =
-        body("\\fs99999999999999999999 a\\fs-5 b\\f-1 c\\cf70000 d\\bin-9 e\\u99999999 ?f\\uc-3 g");
-    EXPECT_EQ(content.text, u"abcdefg"_s);
-    expectConsistent(content);
 }
 
 TEST(RtfParser, RandomBytesAreSurvived)

@@ -8,20 +8,6 @@
 namespace lumen {
 namespace {
 
-TEST(AboutWindowTest, AsSplashItShowsProgressAndNoButton)
-{
-    frmAbout window;
-    window.showSplash();
-    window.setProgress(85);
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_FALSE(window.isModal());
-    EXPECT_EQ(window.progressBar->value(), 85);
-    EXPECT_TRUE(window.progressBar->isVisible());
-    EXPECT_FALSE(window.cmdOK->isVisible());
-    window.hideSplash();
-    EXPECT_FALSE(window.isVisible());
-}
-
 TEST(AboutWindowTest, AfterTheStartItIsABoxThatEnterAndEscClose)
 {
     frmAbout window;

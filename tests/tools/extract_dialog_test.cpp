@@ -66,14 +66,6 @@ protected:
     TinyData data{world};
 };
 
-TEST_F(ExtractDialogTest, TheFirstTimeOffersTheWholeFirstChapter)
-{
-    const auto dialog = open<dlog성서추출>();
-    EXPECT_EQ(dialog->cb장->Text(), u"1"_s);
-    EXPECT_EQ(dialog->cb시작절->Text(), u"1"_s);
-    EXPECT_EQ(dialog->cb끝절->Text(), u"31"_s);
-}
-
 TEST_F(ExtractDialogTest, ListsFollowVersionBookAndChapter)
 {
     const auto dialog = open<dlog성서추출>();
@@ -182,21 +174,6 @@ TEST_F(ExtractDialogTest, TheSaveDialogOpensInTheFolderOfTheLastFile)
     EXPECT_EQ(world.fileDialogs.saveRequests.last().folder, world.folders.root());
 }
 
-TEST_F(ExtractDialogTest, AChapterBeyondTheBookBecomesItsLast)
-{
-    const auto dialog = open<dlog성서추출>();
-    choose(*dialog, u"개역한글"_s, kGenesis, 1);
-    type(*dialog->cb장, u"99"_s);
-    verses(*dialog, u"1"_s, u"2"_s);
-    dialog->chkTail->setChecked(true);
-    world.messages.expect(u"범위 조정"_s,
-                          u"입력된 장 번호가 최대 장수보다 크므로 마지막 장으로 설정합니다."_s, 48);
-    expectDone(Answer::Yes);
-    press(*dialog, u"cmd추출");
-    EXPECT_TRUE(world.clipboard.plainText().endsWith(u"(창세기 2:1~2)"));
-    EXPECT_EQ(dialog->cb장->Text(), u"2"_s);
-}
-
 TEST_F(ExtractDialogTest, ABookThatTheVersionLacksLeavesTheClipboardAlone)
 {
     const auto dialog = open<dlog성서추출>();
@@ -259,19 +236,6 @@ TEST_F(ExtractDialogTest, AFileIsWrittenAndOverwrittenOnlyWhenTheUserAgrees)
     EXPECT_TRUE(dialog->isVisible());
 }
 
-TEST_F(ExtractDialogTest, AFileThatCannotBeWrittenIsTold)
-{
-    const auto dialog = open<dlog성서추출>();
-    choose(*dialog, u"KJV"_s, kJohn, 3);
-    dialog->OptFile->setChecked(true);
-    world.fileDialogs.answerSave(world.folders.root() + u"/no such folder/verses.txt"_s);
-    world.messages.expect(u"파일 저장 실패"_s,
-                          u"텍스트 파일을 저장할 수 없습니다. 저장할 위치를 확인하시기 바랍니다."_s,
-                          48);
-    press(*dialog, u"cmd추출");
-    EXPECT_TRUE(dialog->isVisible());
-}
-
 TEST_F(ExtractDialogTest, TheRangeIsThereAgainTheNextTime)
 {
     auto dialog = open<dlog성서추출>();
@@ -306,19 +270,6 @@ TEST_F(ExtractDialogTest, TheInsertionGoesToTheClipboardAndCloses)
     press(*dialog, u"cmd삽입");
     EXPECT_EQ(world.clipboard.plainText(), johnText(16) + u" (요한복음 3:16)"_s);
     EXPECT_FALSE(dialog->isVisible());
-}
-
-TEST_F(ExtractDialogTest, TheInsertionHasItsOwnWordsForAMissingBook)
-{
-    const auto dialog = open<dlog성구삽입>();
-    choose(*dialog, u"ISV 신약"_s, kGenesis, 1);
-    world.messages.expect(u"삽입 내용 없음"_s,
-                          u"삽입하고자 하는 본문이 없습니다. 구약 혹은 신약만 있는 역본이 아닌지 "
-                          "확인하시기 바랍니다."_s,
-                          48);
-    press(*dialog, u"cmd삽입");
-    EXPECT_EQ(world.clipboard.setCount, 0);
-    EXPECT_TRUE(dialog->isVisible());
 }
 
 } // namespace

@@ -63,13 +63,6 @@ TEST_F(PreferencesDialogTest, ShowsWhatIsStoredAndTheDefaultsForTheRest)
     EXPECT_FALSE(dialog().chkCrLf->isChecked());
 }
 
-TEST_F(PreferencesDialogTest, AnUninstalledFontStaysTheUsersChoice)
-{
-    store(u"MainFont"_s, u"어디에도 없는 글꼴"_s);
-    click(dialog().cmd확인);
-    EXPECT_EQ(stored(u"MainFont"_s), u"어디에도 없는 글꼴"_s);
-}
-
 TEST_F(PreferencesDialogTest, ApplyStoresAndTheReaderTakesItAtOnce)
 {
     world.fileDialogs.answerColor(RGB(1, 2, 3));
@@ -90,13 +83,6 @@ TEST_F(PreferencesDialogTest, ApplyStoresAndTheReaderTakesItAtOnce)
     click(dialog().cmd확인);
     EXPECT_EQ(reader.applications, 2);
     EXPECT_EQ(dialog().result(), QDialog::Accepted);
-}
-
-TEST_F(PreferencesDialogTest, ACancelledColourStaysAsItWas)
-{
-    world.fileDialogs.answerColor(std::nullopt);
-    click(dialog().cmd기본역본);
-    EXPECT_EQ(dialog().pic기본역본->BackColor(), 0U);
 }
 
 TEST_F(PreferencesDialogTest, ResetThenCancelChangesNothing)
@@ -130,17 +116,6 @@ TEST_F(PreferencesDialogTest, WithoutAReferenceItsOptionsGreyOutAndKeepTheirTick
     click(dialog().chkCopyAddIndex);
     for (const QCheckBox* box : dependents)
         EXPECT_TRUE(box->isEnabled()) << box->objectName().toStdString();
-}
-
-TEST_F(PreferencesDialogTest, WorksByKeysAlone)
-{
-    EXPECT_EQ(dialog().cmdApply->shortcut(), QKeySequence(u"Alt+A"_s));
-    dialog().cmdApply->setFocus();
-    QTest::keyClick(dialog().cmdApply, Qt::Key_Space);
-    EXPECT_EQ(reader.applications, 1);
-    QTest::keyClick(&dialog(), Qt::Key_Escape);
-    EXPECT_FALSE(dialog().isVisible());
-    EXPECT_EQ(reader.applications, 1);
 }
 
 } // namespace

@@ -31,17 +31,6 @@ protected:
     FakeReader reader;
 };
 
-TEST_F(UserVersionDialogTest, UnsetSlotsBeginWithTheFontOfTheirScript)
-{
-    const dlogUserVersionPref dialog(world.services, reader);
-    for (int slot = 1; slot <= 15; ++slot) {
-        SCOPED_TRACE(slot);
-        EXPECT_EQ(dialog.cbFont(slot - 1)->Text(), slot <= 5 ? u"굴림체"_s : u"Arial"_s);
-        EXPECT_EQ(dialog.cbSize(slot - 1)->Text(), slot <= 5 ? u"10"_s : u"9"_s);
-        EXPECT_LT(dialog.cbFont(slot - 1)->findItem(u"@굴림"_s), 0);
-    }
-}
-
 TEST_F(UserVersionDialogTest, StoredValuesAreShownAlsoWhenTheListsLackThem)
 {
     world.registry.SetValue(u"UserFont2"_s, u"굴림"_s, ValueKind::String);

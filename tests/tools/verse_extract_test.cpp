@@ -43,34 +43,11 @@ TEST(VerseExtractTest, ABadRangeIsMendedInTheOrderOfTheMessages)
     }
 }
 
-TEST(VerseExtractTest, NothingIsHeldAgainstABookThatTheVersionLacks)
-{
-    ExtractRange range{0, 1, 1, 3};
-    EXPECT_TRUE(mendRange(range, {0, 0}).empty());
-}
-
 TEST(VerseExtractTest, OneVerseHasNoRangeInItsReference)
 {
     EXPECT_EQ(extractTail({42, 3, 16, 16}), u"(요한복음 3:16)"_s);
     EXPECT_EQ(extractTail({42, 3, 16, 18}), u"(요한복음 3:16~18)"_s);
     EXPECT_EQ(extractFileName({42, 3, 16, 16}), u"요한복음 3장16~16절"_s);
-}
-
-TEST(VerseExtractTest, QueriesNameTableBookAndRange)
-{
-    EXPECT_EQ(bookRowsQuery(u"BHS 자음"_s, 0),
-              u"select chap from [BHS 자음] where index like '01창:*'"_s);
-    EXPECT_EQ(chapterRowsQuery(u"KJV"_s, 42, 3),
-              u"select verse from [KJV] where index like '43요:003:*'"_s);
-    EXPECT_EQ(extractQuery(u"KJV"_s, {18, 119, 2, 176}),
-              u"select * from [KJV] where index like '19시:119:*' and Verse >= 2 and Verse <= 176 "
-              "order by index"_s);
-}
-
-TEST(VerseExtractTest, AFileLosesNoCharacter)
-{
-    EXPECT_EQ(extractFileContent(u"태초에"_s), QByteArray("\xC5\xC2\xC3\xCA\xBF\xA1\r\n"));
-    EXPECT_EQ(extractFileContent(u"Où étais-tu"_s), QByteArray("\xEF\xBB\xBFOù étais-tu\r\n"));
 }
 
 } // namespace
