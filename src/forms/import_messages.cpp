@@ -4,6 +4,7 @@
 #include "platform/dialogs/message_boxes.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QProgressDialog>
 
 using namespace Qt::StringLiterals;
@@ -65,10 +66,14 @@ bool ImportMessages::goesOn(const QString& path, qint64 elapsedMs)
     if (elapsedMs < kShowAfterMs)
         return true;
     if (!m_progress) {
-        m_progress =
-            std::make_unique<QProgressDialog>(u"%1 파일을 가져오고 있습니다."_s.arg(path),
-                                              u"그만두기"_s, 0, 0, QApplication::activeWindow());
+        m_progress = std::make_unique<QProgressDialog>(QString(), u"그만두기"_s, 0, 0,
+                                                       QApplication::activeWindow());
         m_progress->setObjectName(u"dlg가져오기"_s);
+        // A long path must not push the button out of the screen.
+        auto* label = new QLabel(u"%1 파일을 가져오고 있습니다."_s.arg(path));
+        label->setWordWrap(true);
+        label->setAlignment(Qt::AlignCenter);
+        m_progress->setLabel(label);
         m_progress->setWindowTitle(u"자료 가져오기"_s);
         // Nothing else may be clicked: the opening that waits here stands in the middle of a
         // handler.

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -73,18 +74,23 @@ TEST_F(ImportMessagesTest, AReadOnlyFileIsToldOnceUnlessNothingIsStoredAnyway)
 
 TEST_F(ImportMessagesTest, ALongImportShowsItselfAndEndsAtTheUsersWish)
 {
-    EXPECT_TRUE(messages.goesOn(u"/a/qt.mdb"_s, 900));
+    const QString path = u"/a-long-folder"_s.repeated(20) + u"/qt.mdb"_s;
+    EXPECT_TRUE(messages.goesOn(path, 900));
     EXPECT_EQ(shownProgress(), nullptr);
-    EXPECT_TRUE(messages.goesOn(u"/a/qt.mdb"_s, 1100));
+    EXPECT_TRUE(messages.goesOn(path, 1100));
     QProgressDialog* progress = shownProgress();
     ASSERT_NE(progress, nullptr);
-    EXPECT_TRUE(progress->labelText().contains(u"/a/qt.mdb"));
+    EXPECT_TRUE(progress->labelText().contains(path));
     EXPECT_EQ(progress->windowModality(), Qt::ApplicationModal);
-    QTest::mouseClick(progress->findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_FALSE(messages.goesOn(u"/a/qt.mdb"_s, 1200));
+    auto* button = progress->findChild<QPushButton*>();
+    EXPECT_TRUE(progress->rect().contains(button->geometry()));
+    EXPECT_TRUE(progress->screen()->geometry().contains(progress->geometry()))
+        << "a long path leaves the button in reach";
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_FALSE(messages.goesOn(path, 1200));
     messages.ended();
     EXPECT_EQ(shownProgress(), nullptr);
-    EXPECT_TRUE(messages.goesOn(u"/a/qt.mdb"_s, 1100)) << "the next one begins anew";
+    EXPECT_TRUE(messages.goesOn(path, 1100)) << "the next one begins anew";
 }
 
 } // namespace
