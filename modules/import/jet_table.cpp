@@ -39,6 +39,12 @@ bool mapRowIsSound(JetHandle& file, PageRow where)
     return start <= kRowOffset && file.copyRow(where).has_value();
 }
 
+/// The library takes the precision for the scale and the other way round; the scale is never more.
+int digitsBehindThePoint(const MdbColumn& column)
+{
+    return std::min(column.col_scale, column.col_prec);
+}
+
 } // namespace
 
 std::unique_ptr<JetTable> JetTable::open(JetHandle& file, const QString& name, quint32 page)
@@ -83,8 +89,8 @@ bool JetTable::readColumns()
         const QString name = QString::fromUtf8(column->name);
         if (name.isEmpty() || columnNamed(name) >= 0)
             return false;
-        m_columns.push_back({name, column->col_type, column->col_size, column->col_scale,
-                             column->is_long_auto != 0});
+        m_columns.push_back({name, column->col_type, column->col_size,
+                             digitsBehindThePoint(*column), column->is_long_auto != 0});
     }
     return true;
 }

@@ -181,6 +181,33 @@ TEST_F(JetSampleContentTest, KoreanTypesKeepNullEmptyLongAndExtremeValues)
     EXPECT_EQ(column(u"확인"_s), (QVariantList{-1, 0, -1, -1, 0}));
 }
 
+TEST_F(JetSampleContentTest, ADecimalHasItsPointWhereItsColumnPutsIt)
+{
+    // A text column and one of its texts become a decimal of 18 digits, two behind the point.
+    QByteArray bytes = fileBytes(sample(u"jet4-korean-types.mdb"_s));
+    const qsizetype column = bytes.indexOf(QByteArray::fromHex("0a590600000100000001000904"));
+    const QString title = u"emoji 😀 漢字 Ａ ㄱ"_s;
+    const qsizetype text =
+        bytes.indexOf(QByteArray(reinterpret_cast<const char*>(title.utf16()), title.size() * 2));
+    ASSERT_TRUE(column > 0 && text > 0);
+    bytes[column] = 0x10;
+    bytes[column + 11] = 18;
+    bytes[column + 12] = 2;
+    QByteArray number(17, '\0');
+    number[0] = '\x80';
+    qToLittleEndian<quint32>(12345, number.data() + 13);
+    bytes.replace(text, number.size(), number);
+    writeBytes(dataFile(u"decimal.mdb"_s), bytes);
+    const auto header = readJetHeader(readDatabaseHead(dataFile(u"decimal.mdb"_s)));
+    const auto reader = JetFileReader::open(dataFile(u"decimal.mdb"_s), *header);
+    QVariantList row;
+    reader->readRows(u"설교"_s, [&row](const QVariantList& values) {
+        row = values.value(0) == 5 ? values : row;
+        return true;
+    });
+    EXPECT_EQ(row.value(1).toString(), u"-123.45"_s);
+}
+
 TEST_F(JetSampleContentTest, TheRecordsOfAUserComeOutWhole)
 {
     const ReadTable notes = onlyTable(u"myc-made.mdb"_s);
