@@ -57,6 +57,8 @@ void tellFaults(const JetFaults& faults)
         printError(u"표 \"%1\"은(는) 손상되어 읽지 못했습니다."_s.arg(table));
     if (faults.rows > 0)
         printError(u"손상된 행 %1개를 건너뛰었습니다."_s.arg(faults.rows));
+    if (faults.absentRows > 0)
+        printError(u"있어야 할 행 %1개를 찾지 못했습니다."_s.arg(faults.absentRows));
     if (faults.strangePages > 0)
         printError(u"손상된 쪽 %1개를 건너뛰었습니다."_s.arg(faults.strangePages));
     if (faults.values > 0)

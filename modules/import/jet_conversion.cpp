@@ -36,7 +36,9 @@ void copyRows(JetFileReader& reader, StoreWriter& writer, ConversionReport& repo
 /// that loses more rows than it gives, what remains is worth nothing either.
 bool isTooDamaged(const ConversionReport& report)
 {
-    return report.tables == 0 || report.faults.missingPages > 0 || report.faults.rows > report.rows;
+    const bool nothingLeft = report.rows == 0 && report.faults.absentRows > 0;
+    return report.tables == 0 || report.faults.missingPages > 0 ||
+           report.faults.rows > report.rows || nothingLeft;
 }
 
 void noteFaults(StoreWriter& writer, const JetFaults& faults)
@@ -45,6 +47,8 @@ void noteFaults(StoreWriter& writer, const JetFaults& faults)
         writer.addOriginLine(u"읽지 못한 표"_s, faults.tables.join(u", "_s));
     if (faults.rows > 0)
         writer.addOriginLine(u"읽지 못한 행"_s, QString::number(faults.rows));
+    if (faults.absentRows > 0)
+        writer.addOriginLine(u"찾지 못한 행"_s, QString::number(faults.absentRows));
     if (faults.strangePages > 0)
         writer.addOriginLine(u"읽지 못한 쪽"_s, QString::number(faults.strangePages));
     if (faults.values > 0)

@@ -165,7 +165,9 @@ void JetFileReader::Impl::readRows(const QString& name,
         return;
     const std::vector<JetColumn>& columns = (*found)->columns();
     const int damagedBefore = m_values.damaged();
+    qint64 taken = 0;
     const TableFaults met = (*found)->walk([&](const RawRow& row) {
+        ++taken;
         QVariantList values;
         values.reserve(static_cast<qsizetype>(row.size()));
         for (size_t i = 0; i < row.size(); ++i)
@@ -173,6 +175,8 @@ void JetFileReader::Impl::readRows(const QString& name,
         return take(values);
     });
     addFaults(met);
+    // A page whose list of rows is damaged looks as if they had been deleted.
+    m_faults.absentRows += std::max<qint64>(0, (*found)->statedRows() - taken - met.rows);
     m_faults.values += m_values.damaged() - damagedBefore;
 }
 

@@ -15,11 +15,12 @@ namespace lumen {
 /// What a reading met that a sound file doesn't have.
 struct JetFaults
 {
-    QStringList tables;   ///< tables whose definition can't be read
-    int rows = 0;         ///< rows left out
-    int missingPages = 0; ///< pages of tables behind the end of the file, which was cut
-    int strangePages = 0; ///< pages of tables that belong to something else
-    int values = 0;       ///< values that came out short
+    QStringList tables;    ///< tables whose definition can't be read
+    int rows = 0;          ///< rows left out
+    qint64 absentRows = 0; ///< rows that a table counts and no page has
+    int missingPages = 0;  ///< pages of tables behind the end of the file, which was cut
+    int strangePages = 0;  ///< pages of tables that belong to something else
+    int values = 0;        ///< values that came out short
 };
 
 /// Reads the user's tables of a genuine Jet file: names, columns, keys and all rows.

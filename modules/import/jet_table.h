@@ -49,6 +49,8 @@ public:
     int columnNamed(QStringView name) const;
     /// The keys of the table itself; those that relations between tables bring are left out.
     std::vector<IndexDef> indexes();
+    /// How many rows the definition says there are.
+    qint64 statedRows() const { return m_table->num_rows; }
     /// Calls `take` with every live row until it returns false.
     TableFaults walk(const std::function<bool(const RawRow& row)>& take);
 

@@ -64,7 +64,9 @@ protected:
             });
         }
         const JetFaults& faults = reader->faults();
-        EXPECT_EQ(faults.rows + faults.values + faults.missingPages + faults.strangePages, 0);
+        EXPECT_EQ(faults.rows + faults.absentRows + faults.values + faults.missingPages +
+                      faults.strangePages,
+                  0);
         EXPECT_EQ(faults.tables, QStringList());
         return tables;
     }
@@ -360,6 +362,32 @@ TEST_F(JetSampleImportTest, CorruptedFilesAreImportedOrRefusedAndNeverChanged)
     }
     EXPECT_GT(refused, 0);
     EXPECT_LT(refused, kCorruptions);
+}
+
+TEST_F(JetSampleImportTest, RowsThatADamagedPageHidesAreMissed)
+{
+    constexpr qsizetype kPage = 26 * 4096; // the notes'
+    constexpr qsizetype kRowList = kPage + 14;
+    const QByteArray sound = fileBytes(sample(u"myc-made.mdb"_s));
+    const JetConversion conversion{
+        dataFile(u"notes.mdb"_s), dataFile(u"store"_s), {}, StoreCompare::Text};
+    for (const auto& [hidden, exit] :
+         {std::pair(1, ImportExit::Done), std::pair(6, ImportExit::Damaged)}) {
+        SCOPED_TRACE(hidden);
+        QByteArray bytes = sound;
+        for (int row = 0; row < hidden; ++row) // as if it had been deleted
+            bytes[kRowList + 2 * row + 1] |= '\x80';
+        writeBytes(conversion.source, bytes);
+        ConversionReport report;
+        EXPECT_EQ(convertIntoStore(conversion, report), exit);
+        EXPECT_EQ(report.rows, 6 - hidden);
+        EXPECT_EQ(report.faults.absentRows, hidden);
+        if (exit == ImportExit::Done) {
+            EXPECT_EQ(inspectStore(conversion.destination).originLines,
+                      (QList<std::pair<QString, QString>>{{u"찾지 못한 행"_s, u"1"_s}}));
+        }
+        QFile::remove(conversion.destination);
+    }
 }
 
 TEST_F(JetSampleImportTest, WhatASlightlyDamagedFileLostIsNotedInTheStore)
