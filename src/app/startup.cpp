@@ -12,6 +12,7 @@
 #include "forms/guarded.h"
 #include "forms/import_messages.h"
 #include "forms/lost_file.h"
+#include "forms/twin_files.h"
 #include "platform/files/instance_lock.h"
 #include "platform/jet/jet_engine.h"
 #include "platform/log.h"
@@ -90,6 +91,7 @@ int Main(World& world)
     services.jet.setImportTalk(&importMessages);
     state.CdDrive = FindCdDrive(services.drives);
     RegisterFonts(services.fonts);
+    tellTwinFiles(services, state);
     // Before a file that is gone is made anew: its backups would be lost with the next two ends.
     for (const UserFile& file : {user_file::kNotes, user_file::kBookmarks})
         offerBackup(services, state, file);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -72,8 +73,20 @@ TEST_F(VirtualDrivesTest, ChangesOfAFolderAreSeenAtOnce)
     }
 }
 
-TEST_F(VirtualDrivesTest, AnExactNameGoesBeforeOneOfOtherCase)
+TEST_F(VirtualDrivesTest, AnExactNameGoesBeforeOneOfOtherCaseAndThenTheNewer)
 {
+    for (const QString& newer : {u"QT.mdb"_s, u"qt.mdb"_s}) {
+        for (const QString& name : {u"QT.mdb"_s, u"qt.mdb"_s}) {
+            QFile file(native(u"lumenscript/Data/"_s + name));
+            ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+            const qint64 days = name == newer ? 1 : 2;
+            ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addDays(-days),
+                                         QFileDevice::FileModificationTime));
+        }
+        const VirtualDrives fresh{{native(u"lumenscript"_s), {}}};
+        EXPECT_EQ(fresh.nativePath(u"C:\\lumenscript\\Data\\Qt.mdb"_s),
+                  native(u"lumenscript/Data/"_s + newer));
+    }
     make(u"lumenscript/Data/a.txt"_s);
     make(u"lumenscript/Data/A.TXT"_s);
     EXPECT_EQ(drives.nativePath(u"C:\\lumenscript\\Data\\A.TXT"_s),

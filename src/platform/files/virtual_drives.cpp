@@ -29,6 +29,11 @@ QString below(const QString& folder, const QString& name)
     return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
 }
 
+QDateTime changedAt(const QString& path)
+{
+    return QFileInfo(path).lastModified();
+}
+
 bool hasDataFolder(const QString& folder)
 {
     const QStringList found = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
@@ -144,12 +149,15 @@ const VirtualDrives::Listing& VirtualDrives::listing(const QString& folder) cons
     known.changed = changed;
     known.settled = changed.isValid() && changed.msecsTo(QDateTime::currentDateTime()) > kSettleMs;
     known.names.clear();
-    // Sorted, so that of two names that differ by case the same one is found each time.
+    // Of two names that differ by case or composition alone the newer file is found; the order by
+    // name decides where both are of one time.
     const QStringList names =
         QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    for (const QString& name : names)
-        if (!known.names.contains(folded(name)))
-            known.names.insert(folded(name), name);
+    for (const QString& name : names) {
+        QString& chosen = known.names[folded(name)];
+        if (chosen.isEmpty() || changedAt(below(folder, chosen)) < changedAt(below(folder, name)))
+            chosen = name;
+    }
     return known;
 }
 

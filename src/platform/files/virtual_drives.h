@@ -29,7 +29,7 @@ struct DriveFolders
 DriveFolders findDriveFolders();
 
 /// The drives C: and D: as folders of this machine. Names are matched without regard to case and to
-/// how Hangul is composed; an exact match goes first.
+/// how Hangul is composed; an exact match goes first, then the newer of several.
 class VirtualDrives : public PathResolver, public Drives
 {
 public:

@@ -79,12 +79,19 @@ bool waitForEnd(QProcess& child, const QString& source, ImportTalk* talk)
     }
 }
 
+/// Databases whose texts are compared loosely. Hangul of another system comes decomposed.
+bool holdsTheUsersTexts(const QString& nativePath)
+{
+    const QString name =
+        QFileInfo(nativePath).fileName().normalized(QString::NormalizationForm_C).toLower();
+    return name.endsWith(u".mdb"_s) || name == u"예화.dts"_s;
+}
+
 } // namespace
 
 bool isUserDatabase(const QString& nativePath)
 {
-    const QString name = QFileInfo(nativePath).fileName().toLower();
-    return name.endsWith(u".mdb"_s) || name == u"예화.dts"_s || isScratchDatabase(nativePath);
+    return holdsTheUsersTexts(nativePath) || isScratchDatabase(nativePath);
 }
 
 bool isScratchDatabase(const QString& nativePath)
@@ -94,9 +101,7 @@ bool isScratchDatabase(const QString& nativePath)
 
 StoreCompare compareOfFile(const QString& nativePath)
 {
-    const QString name = QFileInfo(nativePath).fileName().toLower();
-    return name.endsWith(u".mdb"_s) || name == u"예화.dts"_s ? StoreCompare::Text
-                                                             : StoreCompare::Binary;
+    return holdsTheUsersTexts(nativePath) ? StoreCompare::Text : StoreCompare::Binary;
 }
 
 QString findImportProgram()
