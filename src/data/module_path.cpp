@@ -36,8 +36,12 @@ std::optional<QString> findModule(const FileSystem& files, const AppState& state
 
 QString modulePath(const FileSystem& files, const AppState& state, QStringView relative)
 {
-    const QString path = joinedPath(state.AppPath, relative);
-    return files.FileExists(path) ? path : discPath(state, relative);
+    QString path = joinedPath(state.AppPath, relative);
+    if (files.FileExists(path))
+        return path;
+    // A message on a module that is nowhere names the place where the user can put it.
+    const QString onDisc = discPath(state, relative);
+    return files.FileExists(onDisc) ? onDisc : path;
 }
 
 QString versionFile(int code, QStringView suffix)

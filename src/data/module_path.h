@@ -22,7 +22,7 @@ bool moduleExists(const FileSystem& files, const AppState& state, QStringView re
 std::optional<QString> findModule(const FileSystem& files, const AppState& state,
                                   QStringView relative);
 
-/// The path to open: under AppPath if the file is there, else on the CD drive, there or not.
+/// The path to open: on the CD drive if the file is only there, else under AppPath, there or not.
 QString modulePath(const FileSystem& files, const AppState& state, QStringView relative);
 
 /// "\Data\101.dts"; `suffix` "c" gives the concordance module.

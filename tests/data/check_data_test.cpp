@@ -130,7 +130,8 @@ TEST_F(CheckDataTest, AModuleIsOpenedBesideTheProgramFirst)
     const auto& [files, state] = std::tie(services.files, services.state);
     EXPECT_EQ(modulePath(files, state, versionFile(101)), u"C:\\lumenscript\\Data\\101.dts"_s);
     EXPECT_EQ(modulePath(files, state, versionFile(201)), u"D:\\Data\\201.dts"_s);
-    EXPECT_EQ(modulePath(files, state, versionFile(202)), u"D:\\Data\\202.dts"_s);
+    EXPECT_EQ(modulePath(files, state, versionFile(202)), u"C:\\lumenscript\\Data\\202.dts"_s)
+        << "where the user can put it";
     EXPECT_EQ(findModule(files, state, versionFile(202)), std::nullopt);
     EXPECT_EQ(findModule(files, state, versionFile(201)), u"D:\\Data\\201.dts"_s);
     EXPECT_EQ(versionFile(101, u"c"), u"\\Data\\101c.dts"_s);

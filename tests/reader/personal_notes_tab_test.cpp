@@ -286,8 +286,9 @@ TEST_F(PersonalNotesTabTest, NotesThatCannotBeReadAreToldOnceAndLeaveTheFormerCh
     EXPECT_EQ(tab->lbl개인주석책장->text(), u"요3:"_s);
     EXPECT_EQ(shown(), QStringList{u"요3:16=글"_s});
     EXPECT_EQ(tab->tx개인주석본문->toPlainText(), u"글"_s);
-    world.messages.expect(u"Lumenscript"_s,
-                          u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + kDatabase, 16);
+    world.messages.expect(
+        u"Lumenscript"_s,
+        u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + world.folders.data(u"myc.mdb"_s), 16);
     click(tab->cmd개인주석추가);
 
     ASSERT_TRUE(file.rename(world.folders.data(u"myc.mdb"_s)));

@@ -126,8 +126,8 @@ TEST_F(ReferenceTabsTest, AReferenceShowsItsTextAndLeadsTheReaderInBothViews)
 TEST_F(ReferenceTabsTest, AJumpToAnotherChapterAsksTheOpenTabOnce)
 {
     ASSERT_TRUE(QFile::remove(services.folders.data(u"z101.dts"_s)));
-    const QString missing = u"데이터베이스 파일을 찾을 수 없습니다.\n"_s +
-                            modulePath(services.files, services.state, u"\\Data\\z101.dts");
+    const QString missing =
+        u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + services.folders.data(u"z101.dts"_s);
     services.messages.expect(u"Lumenscript"_s, missing, 16);
     open(u"원전분해");
     services.messages.verify();

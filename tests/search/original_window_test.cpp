@@ -392,9 +392,9 @@ TEST_F(OriginalWindowTest, AMissingOrDamagedModuleIsToldAndTheListStays)
     const QStringList found = listed();
     ASSERT_TRUE(QFile::remove(test.folders.data(u"310.dts"_s)));
     combo(u"cbParVer"_s).setListIndex(1);
-    test.messages.expect(u"Lumenscript"_s,
-                         u"데이터베이스 파일을 찾을 수 없습니다.\nC:\\lumenscript\\Data\\310.dts"_s,
-                         16);
+    test.messages.expect(
+        u"Lumenscript"_s,
+        u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + test.folders.data(u"310.dts"_s), 16);
     searchFor(ConditionKind::Literal, u"kai"_s);
     test.messages.verify();
     EXPECT_EQ(listed(), found);
@@ -413,8 +413,9 @@ TEST_F(OriginalWindowTest, AMissingDictionaryDoesntWithholdTheVerse)
     openTab();
     ASSERT_TRUE(QFile::remove(test.folders.data(u"StrongDicG.dts"_s)));
     combo(u"cbParVer"_s).setListIndex(1);
-    test.messages.expect(u"Lumenscript"_s,
-                         u"데이터베이스 파일을 찾을 수 없습니다.\nC:\\Data\\StrongDicG.dts"_s, 16);
+    test.messages.expect(
+        u"Lumenscript"_s,
+        u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + test.folders.data(u"StrongDicG.dts"_s), 16);
     searchFor(ConditionKind::Strong, u"3056"_s);
     test.messages.verify();
     EXPECT_TRUE(shownVerse().startsWith(listed().first() + u" ("_s));

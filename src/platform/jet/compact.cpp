@@ -46,7 +46,7 @@ void checkIntegrity(const SqliteHandle& handle)
     if (statement.step() && statement.text(0) == u"ok")
         return;
     qCInfo(jetLog) << "integrity check:" << statement.text(0);
-    throw jetError(ErrorNumber::kCorrupt);
+    throw jetError(ErrorNumber::kCorrupt, fileOf(handle.get()));
 }
 
 void setPassword(const QString& store, const QString& password)

@@ -37,7 +37,7 @@ QString JetEngine::existingFile(const QString& path) const
 {
     const QString native = m_paths.nativePath(path);
     if (native.isEmpty() || !QFileInfo(native).isFile())
-        throw jetError(ErrorNumber::kFileNotFound, path);
+        throw jetError(ErrorNumber::kFileNotFound, native.isEmpty() ? path : native);
     return ConnectionPool::canonical(native);
 }
 
@@ -57,19 +57,19 @@ std::shared_ptr<Connection> JetEngine::connect(const QString& path, const QStrin
     const QString password = passwordOf(connect).value_or(QString());
     auto connection = m_pool->find(native);
     if (connection && connection->isExclusive())
-        throw jetError(ErrorNumber::kAlreadyInUse, path);
+        throw jetError(ErrorNumber::kAlreadyInUse, native);
     if (!connection)
         connection = m_pool->open({native, storeOf(native, password)});
     if (!connection->takesPassword(password))
-        throw jetError(ErrorNumber::kWrongPassword, path);
+        throw jetError(ErrorNumber::kWrongPassword, native);
     return connection;
 }
 
 std::unique_ptr<Database> JetEngine::OpenDatabase(const QString& path, bool exclusive,
                                                   bool readOnly, const QString& connect)
 {
-    if (exclusive && m_pool->find(existingFile(path)))
-        throw jetError(ErrorNumber::kAlreadyInUse, path);
+    if (const QString native = existingFile(path); exclusive && m_pool->find(native))
+        throw jetError(ErrorNumber::kAlreadyInUse, native);
     auto connection = this->connect(path, connect);
     if (exclusive)
         connection->setExclusive();
@@ -84,18 +84,18 @@ void JetEngine::CompactDatabase(const QString& src, const QString& dst, const QS
     if (destination.isEmpty())
         throw jetError(ErrorNumber::kFileNotFound, dst);
     if (QFileInfo::exists(destination))
-        throw jetError(ErrorNumber::kDestinationExists, dst);
+        throw jetError(ErrorNumber::kDestinationExists, destination);
     if (m_pool->find(native))
-        throw jetError(ErrorNumber::kOpenElsewhere, src);
+        throw jetError(ErrorNumber::kOpenElsewhere, native);
     const QString given =
         passwordOf(password).value_or(password.isEmpty() ? m_defaultPassword : password);
     const QString store = storeOf(native, given);
     // The copy comes over the original: one made of what merely shows it would lose the rest.
     if (isUserDatabase(native) && !isScratchDatabase(native) && store != native)
-        throw jetError(ErrorNumber::kReadOnly, src);
+        throw jetError(ErrorNumber::kReadOnly, native);
     // Opening it tells whether the password is right and undoes what a crash left.
     if (!Connection({native, store}, {}).takesPassword(given))
-        throw jetError(ErrorNumber::kWrongPassword, src);
+        throw jetError(ErrorNumber::kWrongPassword, native);
     compactStore(store, destination, passwordOf(locale));
 }
 

@@ -163,7 +163,7 @@ const Row& KeyedRows::row(int index)
     }
     m_lastIndex = index;
     if (found == nullptr)
-        throw jetError(ErrorNumber::kRecordDeleted);
+        throw jetError(ErrorNumber::kRecordDeleted, m_connection->source());
     return *found;
 }
 
@@ -237,7 +237,7 @@ QStringList KeyedRows::scannedTexts(const QByteArray& column) const
         ++wanted;
     }
     if (wanted != m_keys.end())
-        throw jetError(ErrorNumber::kRecordDeleted);
+        throw jetError(ErrorNumber::kRecordDeleted, m_connection->source());
     return texts;
 }
 
@@ -250,7 +250,7 @@ QStringList KeyedRows::probedTexts(const QByteArray& column) const
     for (const qint64 key : m_keys) {
         statement->bind(1, key);
         if (!statement->step())
-            throw jetError(ErrorNumber::kRecordDeleted);
+            throw jetError(ErrorNumber::kRecordDeleted, m_connection->source());
         texts << statement->text(0);
         statement->reset();
     }

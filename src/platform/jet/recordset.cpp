@@ -170,7 +170,7 @@ void Recordset::setBookmark(const QByteArray& bookmark)
         throw jetError(ErrorNumber::kStaleBookmark);
     const int index = m_state->rows().indexOf(key, hint);
     if (index < 0)
-        throw jetError(ErrorNumber::kRecordDeleted);
+        throw jetError(ErrorNumber::kRecordDeleted, m_state->connection->source());
     m_state->goTo(index);
 }
 

@@ -63,7 +63,7 @@ void changeRecord(RecordsetState& state, qint64 key)
     statement->bindAll(values);
     statement->execute();
     if (sqlite3_changes(state.connection->handle()) == 0)
-        throw jetError(ErrorNumber::kRecordDeleted);
+        throw jetError(ErrorNumber::kRecordDeleted, state.connection->source());
 }
 
 } // namespace
@@ -156,7 +156,7 @@ void Recordset::Delete()
     statement->execute();
     m_state->connection->noteChange();
     if (sqlite3_changes(m_state->connection->handle()) == 0)
-        throw jetError(ErrorNumber::kRecordDeleted);
+        throw jetError(ErrorNumber::kRecordDeleted, m_state->connection->source());
     rows.remove(index);
 }
 

@@ -136,7 +136,7 @@ KeyedRows& RecordsetState::writable() const
 {
     needOpen();
     if (!keyed || readOnly || connection->isReadOnly())
-        throw jetError(ErrorNumber::kReadOnly);
+        throw jetError(ErrorNumber::kReadOnly, connection->source());
     return *keyed;
 }
 
@@ -144,7 +144,7 @@ int RecordsetState::currentIndex() const
 {
     needOpen();
     if (cursor.place == Cursor::Place::Deleted)
-        throw jetError(ErrorNumber::kRecordDeleted);
+        throw jetError(ErrorNumber::kRecordDeleted, connection->source());
     if (cursor.place != Cursor::Place::Record)
         throw jetError(ErrorNumber::kNoCurrentRecord);
     return cursor.index;

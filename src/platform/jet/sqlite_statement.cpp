@@ -6,6 +6,8 @@
 #include "platform/jet/stored_text.h"
 #include "platform/log.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 #include <sqlite3.h>
 
@@ -53,7 +55,20 @@ int errorNumber(int extendedCode)
     }
 }
 
+bool isAboutTheFile(int number)
+{
+    constexpr std::array kNumbers{ErrorNumber::kNotADatabase, ErrorNumber::kCorrupt,
+                                  ErrorNumber::kFileNotFound, ErrorNumber::kReadOnly,
+                                  ErrorNumber::kAlreadyInUse, ErrorNumber::kWriteFailed};
+    return std::find(kNumbers.begin(), kNumbers.end(), number) != kNumbers.end();
+}
+
 } // namespace
+
+QString fileOf(sqlite3* handle)
+{
+    return QString::fromUtf8(handle != nullptr ? sqlite3_db_filename(handle, nullptr) : "");
+}
 
 void throwSqliteError(sqlite3* handle, int code)
 {
@@ -63,7 +78,9 @@ void throwSqliteError(sqlite3* handle, int code)
     qCInfo(jetLog) << "sqlite error" << extended << message;
     const int number = errorNumber((extended & 0xff) == (code & 0xff) ? extended : code);
     // SQLite's own words help nobody but the reader of a faulty query.
-    throw jetError(number, number == ErrorNumber::kCriterionSyntax ? message : QString());
+    throw jetError(number, number == ErrorNumber::kCriterionSyntax ? message
+                           : isAboutTheFile(number)                ? fileOf(handle)
+                                                                   : QString());
 }
 
 SqliteHandle::SqliteHandle(const QString& nativePath, int flags)
@@ -75,7 +92,7 @@ SqliteHandle::SqliteHandle(const QString& nativePath, int flags)
     }
     sqlite3_close_v2(m_handle);
     m_handle = nullptr;
-    throwSqliteError(nullptr, code);
+    throw jetError(errorNumber(code), nativePath);
 }
 
 SqliteHandle::~SqliteHandle()

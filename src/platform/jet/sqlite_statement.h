@@ -14,6 +14,9 @@ namespace lumen {
 /// by SQLite itself; what becomes of the transaction is the connection's affair.
 [[noreturn]] void throwSqliteError(sqlite3* handle, int code);
 
+/// The native path of the open store, "" for none.
+QString fileOf(sqlite3* handle);
+
 /// Owns an open SQLite file.
 class SqliteHandle
 {
