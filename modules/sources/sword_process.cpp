@@ -3,6 +3,7 @@
 
 #include "common/console.h"
 #include "common/interruption.h"
+#include "platform/confined_process.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -13,8 +14,6 @@
 
 #include <csignal>
 #include <cstdio>
-#include <sys/prctl.h>
-#include <sys/resource.h>
 
 namespace lumen {
 
@@ -32,27 +31,6 @@ constexpr qint64 kMegabyte = 1024 * 1024;
 constexpr qint64 kCpuSeconds = 15;
 constexpr qint64 kCpuSecondsPerMegabyte = 10;
 constexpr qint64 kWallFactor = 8;
-#ifndef LUMEN_SANITIZE
-constexpr rlim_t kAddressLimitBytes = 1024UL * 1024 * 1024;
-#endif
-
-void limit(decltype(RLIMIT_CPU) resource, rlim_t value)
-{
-    const rlimit limits{value, value};
-    setrlimit(resource, &limits);
-}
-
-// Runs in the child between fork and exec: system calls only.
-void limitReader(rlim_t cpuSeconds)
-{
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    limit(RLIMIT_CPU, cpuSeconds);
-    limit(RLIMIT_CORE, 0); // a crash on a damaged file is expected and needs no image
-    limit(RLIMIT_FSIZE, 0);
-#ifndef LUMEN_SANITIZE
-    limit(RLIMIT_AS, kAddressLimitBytes);
-#endif
-}
 
 qint64 cpuSecondsFor(const SwordModule& module)
 {
@@ -165,9 +143,7 @@ VersionResult readSwordApart(const SwordModule& module)
         return missingSource(module.root + u"/mods.d: "_s + module.name);
     const qint64 cpuSeconds = cpuSecondsFor(module);
     QProcess child;
-    child.setStandardErrorFile(QProcess::nullDevice()); // where the library complains
-    child.setStandardInputFile(QProcess::nullDevice());
-    child.setChildProcessModifier([cpuSeconds] { limitReader(static_cast<rlim_t>(cpuSeconds)); });
+    confine(child, {cpuSeconds, ProcessLimits::Files::WritesNone});
     child.start(readerProgram(), {kReadSwordCommand.toString(), module.root, module.name});
     QByteArray output;
     switch (collect(child, kWallFactor * cpuSeconds, output)) {

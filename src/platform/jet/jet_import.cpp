@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/jet/jet_import.h"
 
+#include "platform/confined_process.h"
 #include "platform/jet/import_talk.h"
 #include "platform/jet/jet_error.h"
 #include "platform/jet/jet_header.h"
@@ -14,7 +15,6 @@
 #include <QProcess>
 
 #include <sqlite3.h>
-#include <sys/resource.h>
 
 namespace lumen {
 
@@ -23,28 +23,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTalkEveryMs = 100;
-constexpr rlim_t kCpuLimitSeconds = 15;
+constexpr qint64 kCpuLimitSeconds = 15;
 /// A sound file takes less than a tenth of it, a damaged one may never end.
 constexpr qint64 kBytesACpuSecond = 1'000'000;
-#ifndef LUMEN_SANITIZE
-constexpr rlim_t kAddressLimitBytes = 1024UL * 1024 * 1024;
-#endif
-
-void limit(decltype(RLIMIT_CPU) resource, rlim_t value)
-{
-    const rlimit limits{value, value};
-    setrlimit(resource, &limits);
-}
-
-/// Runs in the child between fork and exec: system calls only.
-void limitImportProcess(rlim_t cpuSeconds)
-{
-    limit(RLIMIT_CPU, cpuSeconds);
-    limit(RLIMIT_CORE, 0); // a crash on a damaged file is expected and needs no image
-#ifndef LUMEN_SANITIZE
-    limit(RLIMIT_AS, kAddressLimitBytes);
-#endif
-}
 
 QStringList importArguments(const JetConversion& conversion)
 {
@@ -121,14 +102,9 @@ void convertJetFile(const JetConversion& conversion, const QString& importProgra
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QString::fromLatin1(kImportPasswordVariable), conversion.password);
     child.setProcessEnvironment(environment);
-    // The reading library prints its complaints about a damaged file there.
-    child.setStandardErrorFile(QProcess::nullDevice());
     child.setStandardOutputFile(QProcess::nullDevice());
-    child.setStandardInputFile(QProcess::nullDevice());
-    const rlim_t cpuSeconds =
-        kCpuLimitSeconds +
-        static_cast<rlim_t>(QFileInfo(conversion.source).size() / kBytesACpuSecond);
-    child.setChildProcessModifier([cpuSeconds] { limitImportProcess(cpuSeconds); });
+    confine(child, {kCpuLimitSeconds + QFileInfo(conversion.source).size() / kBytesACpuSecond,
+                    ProcessLimits::Files::Writes});
     child.start(importProgram, importArguments(conversion));
 
     if (!waitForEnd(child, conversion.source, talk)) {
