@@ -15,13 +15,6 @@ namespace {
 constexpr int kReferenceTwips = 1100;
 constexpr int kTextPoints = 10;
 
-constexpr int kPointedHebrew = 301;
-constexpr int kHebrewConsonants = 302;
-constexpr int kHebrewConsonantsM = 303;
-// Half points, as the division takes them.
-constexpr int kPointedSize = 32;
-constexpr int kConsonantSize = 24;
-
 CellStyle cellStyle(const QString& family, int points, GridAlign align)
 {
     CellStyle style;
@@ -58,6 +51,7 @@ ResultGrid::ResultGrid(FlexGrid& grid, HebrewDivision divide)
 
 void ResultGrid::clear()
 {
+    m_verses.clear();
     m_grid.setRows(1);
     m_grid.setTextMatrix(0, kReferenceColumn, u"장절"_s);
     m_grid.setTextMatrix(0, kTextColumn, u"본문"_s);
@@ -69,33 +63,49 @@ void ResultGrid::showPage(Recordset& result, int page, int code, const FontSetti
     showVerses(versesOfPage(result, page), code, fonts);
 }
 
-void ResultGrid::showVerses(const QList<ResultVerse>& verses, int code, const FontSettings& fonts)
+void ResultGrid::showVerses(const QList<ResultVerse>& verses, int code, const FontSettings& fonts,
+                            FillPlace place)
 {
-    const RedrawHold hold(m_grid);
-    clear();
-    for (const ResultVerse& verse : verses)
-        m_grid.AddItem({verse.reference, cellText(verse.text, code)});
-    const VersionFont font = GetVersionFontEx(code, fonts);
-    constexpr int kRightCentre = 7;
-    m_grid.setColStyle(kReferenceColumn, cellStyle(u"굴림"_s, kTextPoints, GridAlign::Left));
-    const GridAlign align = font.alignment == kRightCentre ? GridAlign::Right : GridAlign::Left;
-    m_grid.setColStyle(kTextColumn,
-                       cellStyle(font.font, scaledSize(font.factor, kTextPoints), align));
-    m_grid.AutoSize();
+    const bool kept = place == FillPlace::Kept && m_grid.RowSel() > 0;
+    const int current = kept ? m_grid.RowSel() : 1;
+    const int top = kept ? m_grid.TopRow() : 1;
+    {
+        const RedrawHold hold(m_grid);
+        clear();
+        m_verses = verses;
+        m_code = code;
+        m_font = GetVersionFontEx(code, fonts);
+        for (const ResultVerse& verse : verses)
+            m_grid.AddItem({verse.reference, cellText(verse.text)});
+        constexpr int kRightCentre = 7;
+        m_grid.setColStyle(kReferenceColumn, cellStyle(u"굴림"_s, kTextPoints, GridAlign::Left));
+        const GridAlign align =
+            m_font.alignment == kRightCentre ? GridAlign::Right : GridAlign::Left;
+        m_grid.setColStyle(kTextColumn,
+                           cellStyle(m_font.font, scaledSize(m_font.factor, kTextPoints), align));
+        m_grid.AutoSize();
+    }
+    // Enter opens the current row, also when the keys have just come to the grid.
+    m_grid.setRow(current);
+    m_grid.setTopRow(top);
 }
 
-QString ResultGrid::cellText(const QString& cont, int code) const
+void ResultGrid::divideAnew()
 {
-    const int width = m_grid.ColWidth(kTextColumn);
-    switch (code) {
-    case kPointedHebrew:
-        return m_divide(cont, u"OrvaneHeb"_s, kPointedSize, width);
-    case kHebrewConsonants:
-    case kHebrewConsonantsM:
-        return m_divide(cont, u"OrvaneHebC"_s, kConsonantSize, width);
-    default:
-        return cont;
-    }
+    if (!isHebrewVersion(m_code) || m_verses.isEmpty())
+        return;
+    const RedrawHold hold(m_grid);
+    for (int row = 1; row < m_grid.Rows(); ++row)
+        m_grid.setTextMatrix(row, kTextColumn, cellText(m_verses.at(row - 1).text));
+}
+
+QString ResultGrid::cellText(const QString& text) const
+{
+    if (!isHebrewVersion(m_code))
+        return text;
+    // In the size of the cell: a line that is cut too long would wrap and be read out of order.
+    return m_divide(text, m_font.font, 2 * scaledSize(m_font.factor, kTextPoints),
+                    m_grid.ColWidth(kTextColumn));
 }
 
 } // namespace lumen

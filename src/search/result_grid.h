@@ -25,6 +25,12 @@ struct ResultVerse
     QString text; ///< as its module holds it, Hebrew not yet divided
 };
 
+/// Which row is the current and topmost one after a fill.
+enum class FillPlace {
+    First, ///< the first: a new search, another page
+    Kept   ///< the one before the fill: the same verses in another version
+};
+
 /// Fills a result grid with one page of verses: short reference and text.
 class ResultGrid
 {
@@ -34,19 +40,26 @@ public:
 
     ResultGrid(FlexGrid& grid, HebrewDivision divide);
 
-    /// Shows 50 records from those of `page` (zero-based) on, in the font of the version `code`. A
-    /// page beyond the end shows no row. Painting is held back meanwhile.
+    /// Shows 50 records from those of `page` (zero-based) on, in the font of the version `code`;
+    /// the first row becomes the current one. A page beyond the end shows no row. Painting is held
+    /// back meanwhile.
     void showPage(Recordset& result, int page, int code, const FontSettings& fonts);
     /// The same with verses that were read before.
-    void showVerses(const QList<ResultVerse>& verses, int code, const FontSettings& fonts);
+    void showVerses(const QList<ResultVerse>& verses, int code, const FontSettings& fonts,
+                    FillPlace place = FillPlace::First);
+    /// Divides Hebrew verses for the width that the text column has now; the view keeps its place.
+    void divideAnew();
     /// Leaves the header alone.
     void clear();
 
 private:
-    QString cellText(const QString& cont, int code) const;
+    QString cellText(const QString& text) const;
 
     FlexGrid& m_grid;
     HebrewDivision m_divide;
+    QList<ResultVerse> m_verses; ///< those in the grid
+    int m_code = 0;              ///< the version that they are shown in
+    VersionFont m_font;          ///< its font
 };
 
 } // namespace lumen

@@ -200,6 +200,7 @@ void frm성서검색::wireResults()
     };
     hflex결과->onDblClick = [openRow](int row, int) { openRow(row); };
     hflex결과->onEnter = [this, openRow] { openRow(hflex결과->Row()); };
+    hflex결과->onResizeEnded = [this] { m_results.divideAnew(); };
     hflex결과->onCopy = [this] { edit(EditCommand::Copy); };
     hflex결과->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
     hflex결과->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {

@@ -32,9 +32,6 @@ constexpr QStringView kModule = u"\\Data\\z102.dts";
 constexpr QStringView kVersionCombo = u"ID_cb기본버전";
 constexpr QSize kDesignSize(720, 560); // pixels
 
-constexpr int kFirstHebrew = 301;
-constexpr int kLastHebrew = 303;
-
 } // namespace
 
 QString strongListQuery(const QString& language, const QString& number)
@@ -100,7 +97,7 @@ void frm스트롱관주목록::bindTools()
 
 void frm스트롱관주목록::wire()
 {
-    mover.pages->onClick = [this] { fillPage(); };
+    mover.pages->onClick = [this] { fillPage(FillPlace::First); };
     connect(mover.previous, &QToolButton::clicked, this, [this] { turnPage(false); });
     connect(mover.next, &QToolButton::clicked, this, [this] { turnPage(true); });
     flex결과->onClick = [this] { openRow(); };
@@ -111,11 +108,7 @@ void frm스트롱관주목록::wire()
             atbar.popUp(u"ID_편집");
     };
     flex결과->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
-    flex결과->onResizeEnded = [this] {
-        // The lines of Hebrew verses are cut to the width of the column.
-        if (showsHebrew())
-            fillPage();
-    };
+    flex결과->onResizeEnded = [this] { m_results.divideAnew(); };
 }
 
 void frm스트롱관주목록::atbar_event9(const QString& toolId)
@@ -192,7 +185,7 @@ void frm스트롱관주목록::chooseVersion()
         return;
     }
     m_version = chosen;
-    fillPage();
+    fillPage(FillPlace::Kept);
 }
 
 void frm스트롱관주목록::fillPageCombo()
@@ -203,7 +196,7 @@ void frm스트롱관주목록::fillPageCombo()
     mover.pages->setListIndex(0);
 }
 
-void frm스트롱관주목록::fillPage()
+void frm스트롱관주목록::fillPage(FillPlace place)
 {
     const int page = mover.pages->ListIndex();
     if (page < 0 || m_version.tableName.isEmpty())
@@ -211,7 +204,7 @@ void frm스트롱관주목록::fillPage()
     const WaitPointer wait;
     QList<ResultVerse> verses;
     guarded(m_services, this, [&] { readPage(page, verses); });
-    m_results.showVerses(verses, m_version.code, m_state.fonts);
+    m_results.showVerses(verses, m_version.code, m_state.fonts, place);
     flex결과->setTextMatrix(0, ResultGrid::kTextColumn,
                             u"본문 ("_s + QString::number(verseCount()) + u"개 존재)"_s);
 }
@@ -236,11 +229,6 @@ void frm스트롱관주목록::turnPage(bool forward)
         return;
     const int page = mover.pages->ListIndex();
     mover.pages->setListIndex(forward ? pages.next(page) : pages.previous(page));
-}
-
-bool frm스트롱관주목록::showsHebrew() const
-{
-    return m_version.code >= kFirstHebrew && m_version.code <= kLastHebrew;
 }
 
 void frm스트롱관주목록::openRow()

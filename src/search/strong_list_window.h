@@ -62,11 +62,10 @@ private:
     bool readOccurrences(const QString& language, const QString& number);
     void clear();
     void fillPageCombo();
-    void fillPage();
+    void fillPage(FillPlace place);
     void readPage(int page, QList<ResultVerse>& verses);
     void turnPage(bool forward);
     int verseCount() const { return vsAwk1.NF(); }
-    bool showsHebrew() const;
     void openRow();
 
     Services& m_services;

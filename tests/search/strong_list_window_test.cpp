@@ -251,6 +251,20 @@ TEST_F(StrongListWindowTest, AnotherVersionFillsTheOpenPageAgain)
     EXPECT_EQ(column(1), QStringList{u"a made-up verse"_s});
 }
 
+TEST_F(StrongListWindowTest, AnotherVersionKeepsTheRowAnotherPageBeginsAnew)
+{
+    list(u"히브리어"_s, u"51"_s);
+    FlexGrid& grid = *window->flex결과;
+    grid.select(30, 30);
+    grid.setTopRow(25);
+    pickVersion(201);
+    EXPECT_EQ(grid.TopRow(), 25);
+    EXPECT_EQ(grid.Row(), 30);
+    window->mover.pages->setListIndex(1);
+    EXPECT_EQ(grid.TopRow(), 1);
+    EXPECT_EQ(grid.Row(), 1);
+}
+
 TEST_F(StrongListWindowTest, HebrewLinesAreCutToTheWidthAndReadFromTheEnd)
 {
     reader.codes = {301};
