@@ -6,6 +6,7 @@
 #include "forms/services.h"
 #include "forms/version_choice.h"
 #include "platform/controls/active_tool_bars.h"
+#include "platform/controls/elided_label.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/controls/tab_control.h"
 #include "platform/controls/tool_dispatch.h"
@@ -56,7 +57,7 @@ public:
     TabControl* sstSearch = named<TabControl>(u"sstSearch", u"검색 종류");
     FlexGrid* hflex결과 = named<FlexGrid>(u"hflex결과", u"검색 결과");
     QStatusBar* sb상황판 = named<QStatusBar>(u"sb상황판");
-    QLabel* statusPanel1 = named<QLabel>(u"sb상황판(1)");
+    ElidedLabel* statusPanel1 = named<ElidedLabel>(u"sb상황판(1)");
     QLabel* statusPanel2 = named<QLabel>(u"sb상황판(2)");
 
 protected:
