@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/power_panel.h"
 
+#include "platform/controls/wrapping_row.h"
 #include "text/basic_text.h"
 
 #include <QHBoxLayout>
@@ -10,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace lumen {
 namespace {
+
+constexpr int kLeastLetters = 12;
 
 void fillConjunctions(ComboBox& combo)
 {
@@ -21,6 +24,17 @@ Conjunction conjunctionOf(const ComboBox& combo)
 {
     return combo.ListIndex() == static_cast<int>(Conjunction::And) ? Conjunction::And
                                                                    : Conjunction::Or;
+}
+
+/// Controls that stay side by side where the row wraps.
+QWidget* group(std::initializer_list<QWidget*> controls)
+{
+    auto* widget = new QWidget;
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* control : controls)
+        row->addWidget(control);
+    return widget;
 }
 
 } // namespace
@@ -38,11 +52,10 @@ PowerPanel::PowerPanel()
     scope->addWidget(cmd책별선택);
     scope->addStretch();
 
-    auto* words = new QHBoxLayout;
-    words->addWidget(labelFor(txPSearch1, u"검색어(&W):"_s));
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             txPSearch1, cbCond1, txPSearch2, cbCond2, txPSearch3, cmdPSearch, cmdPKeyboard})
-        words->addWidget(control);
+    auto* words = new WrappingRow;
+    words->addWidget(group({labelFor(txPSearch1, u"검색어(&W):"_s), txPSearch1, cbCond1}));
+    words->addWidget(group({txPSearch2, cbCond2}));
+    words->addWidget(group({txPSearch3, cmdPSearch, cmdPKeyboard}));
 
     auto* rows = new QVBoxLayout(pbxPowerSearch);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -54,6 +67,15 @@ PowerPanel::PowerPanel()
     column->addLayout(centred(pbxPowerSearch));
     column->addLayout(centred(mover.panel));
     column->addStretch();
+}
+
+void PowerPanel::keepRoomForLetters(int letterWidth)
+{
+    for (QLineEdit* box : boxes()) {
+        // The least size of a box is that of its widest letter and its frame.
+        const int frame = box->minimumSizeHint().width() - box->fontMetrics().maxWidth();
+        box->setMinimumWidth(kLeastLetters * letterWidth + frame);
+    }
 }
 
 PowerTerms PowerPanel::terms() const

@@ -16,6 +16,9 @@ public:
 
     /// What the boxes and conjunctions hold, texts trimmed.
     PowerTerms terms() const;
+    /// From now on each box has room for twelve letters of a width in pixels; the boxes stand in as
+    /// many rows as that takes.
+    void keepRoomForLetters(int letterWidth);
     std::array<QLineEdit*, 3> boxes() const { return {txPSearch1, txPSearch2, txPSearch3}; }
 
     QWidget* pbxPowerSearch = named<QWidget>(u"pbxPowerSearch");

@@ -60,6 +60,9 @@ void frm성서검색::showVersionFont(int code)
         box->setAlignment(alignment);
         box->setFixedHeight(height);
     }
+    const QFontMetrics letters(font);
+    power->keepRoomForLetters(scriptOf(code) == Script::Other ? letters.horizontalAdvance(u'가')
+                                                              : letters.averageCharWidth());
     const bool keyboard =
         isOriginalLanguage(code) || version.font == u"OrvaneHeb" || version.font == u"OrvaneGrk";
     easy->cmdKeyboard->setVisible(keyboard);

@@ -150,6 +150,7 @@ void frm성서검색::wireSearches()
     connect(easy->cmd검색, &QPushButton::clicked, this, [this] { cmd검색_Click(); });
     connect(power->cmdPSearch, &QPushButton::clicked, this, [this] { cmdPSearch_Click(); });
     connect(easy->tx검색, &QLineEdit::returnPressed, this, [this] { cmd검색_Click(); });
+    power->installEventFilter(this);
     wireTextBox(*easy->tx검색);
     for (QLineEdit* box : power->boxes()) {
         connect(box, &QLineEdit::returnPressed, this, [this] { cmdPSearch_Click(); });
@@ -270,8 +271,11 @@ void frm성서검색::Form_Resize()
     power->mover.panel->setVisible(m_paged);
     const int height = toPixels(m_paged ? kHeightWithPages : kHeightWithoutPages);
     // Large fonts need more than the usual height, and so do the conditions of the third tab.
-    QWidget* page = sstSearch->currentWidget();
-    const int needed = page->layout()->totalMinimumSize().height() + sstSearch->headerHeight() +
+    const QWidget* page = sstSearch->currentWidget();
+    const QLayout& inputs = *page->layout();
+    const int inputHeight = inputs.hasHeightForWidth() ? inputs.totalHeightForWidth(page->width())
+                                                       : inputs.totalMinimumSize().height();
+    const int needed = inputHeight + sstSearch->headerHeight() +
                        2 * sstSearch->style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
     sstSearch->setFixedHeight(std::max(height, needed));
     hflex결과->setVisible(!parsingTab);
@@ -285,6 +289,9 @@ bool frm성서검색::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyRelease)
         if (auto* box = qobject_cast<QLineEdit*>(watched))
             stepBackAfterTyping(*box, *static_cast<QKeyEvent*>(event), typedVersion(*box));
+    // The words of the power search stand in more rows in a narrower window.
+    if (watched == power && event->type() == QEvent::Resize)
+        Form_Resize();
     return QMainWindow::eventFilter(watched, event);
 }
 
