@@ -74,10 +74,14 @@ TEST_F(ProgramTest, AKilledProgramLeavesTheLastCompleteSettings)
     ASSERT_TRUE(stored.flush());
     const QByteArray before = settings();
 
+    QString halfWritten = services.folders.data(u"none"_s);
     for (int round = 0; round < 2; ++round) {
         QProcess program;
         start(program);
         EXPECT_TRUE(showsAChapter(program)) << "the lock of the killed program is no obstacle";
+        EXPECT_FALSE(QFile::exists(halfWritten)) << "swept at the start";
+        halfWritten = services.folders.data(u".myc.mdb.new-%1-0"_s.arg(program.processId()));
+        ASSERT_TRUE(services.files.writeAll(halfWritten, "half"));
         kill(program);
         EXPECT_EQ(settings(), before);
     }
