@@ -229,10 +229,19 @@ constexpr std::array kDongsa1Fields{ParsingField{3, u"cbvEogeun", u"어근", kSt
                                     ParsingField{11, u"cbvsSung", u"접미 성", kAllGenders},
                                     ParsingField{12, u"cbvsSu", u"접미 수", kNumbers}};
 
+// A module that was taken over from elsewhere may tell more than one of open data: the choices
+// stay.
+constexpr QStringView kShortFormHint =
+    u"공개 원전 자료가 알리는 단축형은 '의미'뿐입니다. 그 밖의 미완료, 와우계속, 명령형은 "
+    u"'모두'일 때만 찾습니다.";
+constexpr QStringView kFinalLossHint =
+    u"공개 원전 자료는 어미음 소실을 알리지 않습니다. 그 자료로 만든 모듈에서는 '모두'가 아니면 "
+    u"찾는 절이 없습니다.";
+
 constexpr std::array kDongsa2Fields{
-    ParsingField{14, u"cbvsDanchuk", u"단축형", kShortForms},
+    ParsingField{14, u"cbvsDanchuk", u"단축형", kShortForms, {}, kShortFormHint},
     ParsingField{16, u"cbvsYeonjang", u"연장형", kLongForms},
-    ParsingField{18, u"cbvsEomieumsosil", u"어미음 소실", kFinalLosses},
+    ParsingField{18, u"cbvsEomieumsosil", u"어미음 소실", kFinalLosses, {}, kFinalLossHint},
     ParsingField{20, u"cbvsEomi", u"어미", kEndings},
     ParsingField{22, u"cbvsDongeum", u"동음이의어", kHomonyms},
     ParsingField{24, u"cbvsIlgi", u"읽기", kReadings}};

@@ -49,6 +49,7 @@ struct ParsingField
     QStringView label;
     ChoiceList choices;
     QStringView labelName{}; ///< the name of the label, where it has one
+    QStringView hint{};      ///< what a user must know of the list
 };
 
 /// A marker letter between the groups of a code.

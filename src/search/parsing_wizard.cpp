@@ -42,6 +42,15 @@ void setOpen(ComboBox& list, bool open)
         list.setListIndex(0);
 }
 
+/// A line below a list, which a screen reader speaks with it.
+QLabel* hintOf(ComboBox& list, const QString& text)
+{
+    auto* hint = new QLabel(text);
+    hint->setWordWrap(true);
+    list.setAccessibleDescription(text);
+    return hint;
+}
+
 const PartOfSpeech& chosenPart(const ListBox& list, std::span<const PartOfSpeech> parts)
 {
     return parts[static_cast<std::size_t>(std::max(list.ListIndex(), 0))];
@@ -132,6 +141,8 @@ QWidget* frmParsingWiz::listPage(const ParsingPage& page)
         label->setObjectName(field.labelName.toString());
         label->setBuddy(list);
         form->addRow(label, list);
+        if (!field.hint.isEmpty())
+            form->addRow(QString(), hintOf(*list, field.hint.toString()));
         m_fields[page.page].append(list);
     }
     return widget;
