@@ -10,7 +10,8 @@
 namespace lumen {
 
 /// The open result of the easy and the power search: a query over one version, or an earlier result
-/// narrowed by a filter. Failures are JetErrors and leave the earlier result.
+/// narrowed by a filter. Failures are JetErrors; what is open then answers an earlier question, so
+/// that the window closes it.
 class BibleSearch
 {
 public:
