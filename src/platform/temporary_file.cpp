@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -27,20 +28,70 @@ bool runs(const QString& processId)
     return !fits || id <= 0 || ::kill(id, 0) == 0 || errno != ESRCH;
 }
 
+/// The new name has to outlive a power cut too. A folder that can't be synced (some network file
+/// systems) has the file all the same.
+void syncFolder(const QString& folder)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
 } // namespace
 
-int createTemporary(const QString& target, int flags, QString& path)
+TemporaryFile::TemporaryFile(const QString& target) : m_target(target)
 {
     const QFileInfo info(target);
-    for (int number = 0;; ++number) {
-        path = u"%1/.%2.new-%3-%4"_s.arg(info.absolutePath(), info.fileName())
-                   .arg(::getpid())
-                   .arg(number);
-        const int descriptor = ::open(QFile::encodeName(path).constData(),
-                                      flags | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
-        if (descriptor >= 0 || errno != EEXIST)
-            return descriptor;
+    for (int number = 0; m_descriptor < 0 && m_error == 0; ++number) {
+        m_path = u"%1/.%2.new-%3-%4"_s.arg(info.absolutePath(), info.fileName())
+                     .arg(::getpid())
+                     .arg(number);
+        m_descriptor = ::open(QFile::encodeName(m_path).constData(),
+                              O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
+        if (m_descriptor < 0 && errno != EEXIST)
+            fail();
     }
+    m_made = m_descriptor >= 0;
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    closeFile();
+    if (!m_made)
+        return;
+    QFile::remove(m_path);
+    QFile::remove(m_path + u"-journal"_s);
+}
+
+void TemporaryFile::fail()
+{
+    if (m_error == 0)
+        m_error = errno == 0 ? EIO : errno;
+}
+
+void TemporaryFile::closeFile()
+{
+    if (m_descriptor >= 0 && ::close(m_descriptor) != 0)
+        fail();
+    m_descriptor = -1;
+}
+
+bool TemporaryFile::takeName()
+{
+    if (m_error == 0 && ::fsync(m_descriptor) != 0)
+        fail();
+    closeFile();
+    if (m_error == 0 && std::rename(QFile::encodeName(m_path).constData(),
+                                    QFile::encodeName(m_target).constData()) != 0)
+        fail();
+    if (m_error != 0)
+        return false;
+    m_made = false;
+    syncFolder(QFileInfo(m_target).absolutePath());
+    return true;
 }
 
 void removeLeftovers(const QString& folder, const std::function<bool(const QString& name)>& isOwn)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/result.h"
+#include "platform/temporary_file.h"
 
 #include <QByteArray>
 #include <QString>
@@ -17,9 +18,6 @@ class SafeWrite
 public:
     /// `nativePath` of the file; a link is followed to the file that it names.
     explicit SafeWrite(const QString& nativePath);
-    ~SafeWrite();
-    SafeWrite(const SafeWrite&) = delete;
-    SafeWrite& operator=(const SafeWrite&) = delete;
 
     /// Adds bytes; after a failure nothing more is written.
     void write(const QByteArray& bytes);
@@ -28,14 +26,10 @@ public:
     Result<Done> commit();
 
 private:
-    bool create();
-    void fail();
-    void closeFile();
+    void followFormer();
 
     QString m_target;
-    QByteArray m_temporary; // "" when none exists
-    int m_descriptor = -1;
-    int m_error = 0; // errno of the first failure
+    TemporaryFile m_file;
 };
 
 /// The whole content in one step.
