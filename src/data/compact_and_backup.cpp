@@ -2,6 +2,7 @@
 #include "data/compact_and_backup.h"
 
 #include "data/module_path.h"
+#include "platform/aside_name.h"
 #include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_error.h"
 #include "platform/jet/jet_header.h"
@@ -140,15 +141,6 @@ QString backUp(const QString& appPath, const UserFile& file, JetEngine& jet, Fil
     return failureText(files.CopyFile(inData(appPath, file.name), last));
 }
 
-QString freeAsideName(const QString& path, const FileSystem& files)
-{
-    const QString base = path + u".damaged"_s;
-    QString name = base;
-    for (int number = 2; files.FileExists(name); ++number)
-        name = base + u'-' + QString::number(number);
-    return name;
-}
-
 QString newestSoundBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
                           const FileSystem& files)
 {
@@ -188,7 +180,8 @@ std::optional<LostFile> findLostFile(const QString& appPath, const UserFile& fil
                                      FileSystem& files)
 {
     const QString path = inData(appPath, file.name);
-    LostFile lost{LostFile::Fault::Damaged, path, {}, freeAsideName(path, files)};
+    const auto isTaken = [&files](const QString& name) { return files.FileExists(name); };
+    LostFile lost{LostFile::Fault::Damaged, path, {}, freeAsideName(path, isTaken)};
     const QString lastBackup = backupFolder(appPath) + file.backup.toString();
     if (!files.FileExists(path))
         lost.fault = LostFile::Fault::Gone;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/registry/registry_store.h"
 
+#include "platform/aside_name.h"
 #include "platform/files/safe_write.h"
 #include "platform/log.h"
 
@@ -12,19 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace lumen {
-namespace {
-
-// "settings.damaged", with a number when that name is taken.
-QString freeAsideName(const QString& file)
-{
-    const QString base = file + u".damaged"_s;
-    QString name = base;
-    for (int number = 2; QFile::exists(name); ++number)
-        name = base + u'-' + QString::number(number);
-    return name;
-}
-
-} // namespace
 
 QString settingsFile()
 {
@@ -53,7 +41,8 @@ void RegistryStore::load()
     m_keys = std::move(read.tree);
     if (!read.damaged)
         return;
-    const QString aside = freeAsideName(m_nativeFile);
+    const QString aside =
+        freeAsideName(m_nativeFile, [](const QString& name) { return QFile::exists(name); });
     qCWarning(platformLog) << "damaged settings put aside as" << aside;
     if (!file.rename(aside)) {
         m_unreadable = true;
