@@ -165,45 +165,6 @@ TEST_F(OriginalSearchTest, ConditionsCombineFromLeftToRightInEveryScope)
     EXPECT_GT(filled, 150);
 }
 
-TEST_F(OriginalSearchTest, AndBindsNoCloserThanOr)
-{
-    using enum ConditionKind;
-    const auto alone = [&](const OriginalCondition& condition) {
-        const QStringList keys = plainMatches(verses, OriginalLanguage::Hebrew, condition);
-        return QSet<QString>(keys.begin(), keys.end());
-    };
-    const QList<OriginalCondition> three{word(Root, u"arb"_s), word(Strong, u"430"_s),
-                                         word(Lemma, u"ba"_s)};
-    OriginalQuestion orAnd = question(three);
-    orAnd.conjunctions = {Conjunction::Or, Conjunction::And};
-    const QStringList first = ask(orAnd);
-    EXPECT_EQ(QSet<QString>(first.begin(), first.end()),
-              (alone(three[0]) + alone(three[1])) & alone(three[2]));
-    OriginalQuestion andOr = question(three);
-    andOr.conjunctions = {Conjunction::And, Conjunction::Or};
-    const QStringList second = ask(andOr);
-    EXPECT_EQ(QSet<QString>(second.begin(), second.end()),
-              (alone(three[0]) & alone(three[1])) + alone(three[2]));
-    EXPECT_NE(first, second);
-}
-
-TEST_F(OriginalSearchTest, NothingFoundIsTheBaseOfTheNextSearchWithinResults)
-{
-    OriginalQuestion within = question({word(ConditionKind::Strong, u"430"_s)});
-    EXPECT_FALSE(ask(within).isEmpty());
-    ask(question({word(ConditionKind::Strong, u"9999"_s)}));
-    within.scopeTag = u"curRecSet"_s;
-    EXPECT_EQ(ask(within), QStringList());
-}
-
-TEST_F(OriginalSearchTest, TheBarGoesThroughConditionsAndStages)
-{
-    QList<int> percents;
-    search.onProgress = [&](int percent) { percents << percent; };
-    ask(question({word(ConditionKind::Strong, u"430"_s)}));
-    EXPECT_EQ(percents, (QList<int>{10, 20, 30, 40, 50, 60, 70, 80, 90}));
-}
-
 TEST_F(OriginalSearchTest, AnyTextFindsTheVersesThatHoldItOrNothing)
 {
     QRandomGenerator random(3);
@@ -221,20 +182,6 @@ TEST_F(OriginalSearchTest, AnyTextFindsTheVersesThatHoldItOrNothing)
         for (const ConditionKind kind : {ConditionKind::Lemma, ConditionKind::Strong})
             EXPECT_NO_THROW(ask(question({word(kind, typed)})));
     }
-}
-
-TEST_F(OriginalSearchTest, AMissingModuleIsAnErrorThatKeepsTheListBefore)
-{
-    const QStringList before = ask(question({word(ConditionKind::Strong, u"430"_s)}));
-    ASSERT_TRUE(QFile::remove(test.folders.data(u"310.dts"_s)));
-    ASSERT_TRUE(tables.prepare());
-    try {
-        search.run(question({word(ConditionKind::Literal, u"kai"_s)}, OriginalLanguage::Greek));
-        FAIL() << "no error";
-    } catch (const JetError& error) {
-        EXPECT_EQ(error.number(), ErrorNumber::kFileNotFound);
-    }
-    EXPECT_EQ(tables.keys(ScratchTables::kLast).size(), before.size());
 }
 
 TEST_F(OriginalSearchTest, ANumberInTwoRowsIsNoAnswerAndOfTwoLemmasTheFirstIs)

@@ -203,51 +203,5 @@ TEST_F(RandomWordsTest, VeryLongTextsAndBrokenCharactersFindWhatHoldsThemOrNothi
     EXPECT_EQ(easy(QString()).size(), 5);
 }
 
-/// Words of a real text against a plain look at it; runs where a folder of modules is named.
-TEST_F(RandomWordsTest, CountsInAnInstalledVersionEqualAPlainCount)
-{
-    const QString folder = qEnvironmentVariable("LUMENSCRIPT_MODULES");
-    struct Version
-    {
-        QString file;
-        QString table;
-    };
-    const Version versions[] = {{u"101.dts"_s, u"개역한글"_s},
-                                {u"201.dts"_s, u"KJV"_s},
-                                {u"213.dts"_s, u"WEB"_s},
-                                {u"223.dts"_s, u"스페인어 SRV"_s}};
-    int searched = 0;
-    for (const Version& version : versions) {
-        const QString path = folder + u'/' + version.file;
-        if (folder.isEmpty() || !QFile::exists(path))
-            continue;
-        ++searched;
-        SCOPED_TRACE(version.table.toStdString());
-        search.setModule(path);
-        search.query(u"select * from ["_s + version.table + u"] order by index"_s);
-        Recordset& rows = *search.dacSearch.Recordset();
-        QStringList contents;
-        // A verse that the version lacks is Null and never found.
-        for (; !rows.Eof(); rows.MoveNext())
-            if (!rows.Fields(u"Cont").Value().isNull())
-                contents << DES::UnscrambleField(Text(rows.Fields(u"Cont")));
-        QRandomGenerator random(kSeed);
-        for (int round = 0; round < 300; ++round) {
-            const QString verse = contents.at(random.bounded(contents.size()));
-            const QString word =
-                Trim(verse.mid(random.bounded(std::max<qsizetype>(1, verse.size())),
-                               random.bounded(1, 12)))
-                    .toString();
-            const auto expected = std::ranges::count_if(
-                contents, [&](const QString& text) { return text.contains(word); });
-            search.query(
-                scopedQuery(SearchKind::Easy, version.table, easyCriterion(word), u"All"_s));
-            ASSERT_EQ(search.count(), expected) << word.toStdString();
-        }
-    }
-    if (searched == 0)
-        GTEST_SKIP() << "LUMENSCRIPT_MODULES names no folder of modules";
-}
-
 } // namespace
 } // namespace lumen

@@ -5,51 +5,46 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace lumen {
 namespace {
 
-QKeyEvent released(int key, Qt::KeyboardModifiers modifiers = {})
-{
-    return {QEvent::KeyRelease, key, modifiers};
-}
-
-TEST(RightToLeftTyping, KnowsTheKeysThatTypeACharacter)
-{
-    for (const int key :
-         {int(Qt::Key_A), int(Qt::Key_Z), int(Qt::Key_0), int(Qt::Key_Space), int(Qt::Key_Comma),
-          int(Qt::Key_QuoteLeft), int(Qt::Key_BraceLeft), int(Qt::Key_Minus), int(Qt::Key_Bar)})
-        EXPECT_TRUE(typesCharacter(released(key))) << key;
-    for (const int key : {int(Qt::Key_Equal), int(Qt::Key_Plus), int(Qt::Key_Left),
-                          int(Qt::Key_Backspace), int(Qt::Key_Return), int(Qt::Key_Shift)})
-        EXPECT_FALSE(typesCharacter(released(key))) << key;
-    EXPECT_FALSE(typesCharacter(released(Qt::Key_A, Qt::ControlModifier)));
-    EXPECT_TRUE(typesCharacter(released(Qt::Key_A, Qt::ShiftModifier)));
-    for (const int key : {int(Qt::Key_5), int(Qt::Key_Plus), int(Qt::Key_Minus)})
-        EXPECT_TRUE(typesCharacter(released(key, Qt::KeypadModifier))) << key;
-    for (const int key : {int(Qt::Key_Slash), int(Qt::Key_Asterisk), int(Qt::Key_Period)})
-        EXPECT_FALSE(typesCharacter(released(key, Qt::KeypadModifier))) << key;
-}
-
-TEST(RightToLeftTyping, StepsBackInTheHebrewVersionsOnly)
+TEST(RightToLeftTyping, StepsBackBehindACharacterInTheHebrewVersionsOnly)
 {
     struct Row
     {
         QString version;
+        Qt::KeyboardModifiers modifiers;
+        QList<Qt::Key> keys;
         int caret;
         int expected;
     };
-    for (const Row& row : {Row{u"BHS"_s, 3, 2}, Row{u"BHS 자음"_s, 1, 0}, Row{u"BHS"_s, 0, 0},
-                           Row{u"KJV"_s, 3, 3}, Row{u"bhs"_s, 3, 3}}) {
-        SCOPED_TRACE(row.version.toStdString());
-        QLineEdit box(u"abc"_s);
-        box.setCursorPosition(row.caret);
-        stepBackAfterTyping(box, released(Qt::Key_A), row.version);
-        EXPECT_EQ(box.cursorPosition(), row.expected);
-    }
+    using enum Qt::Key;
+    const Qt::KeyboardModifiers none;
+    const Row rows[] = {
+        {u"BHS"_s, none, {Key_A, Key_0, Key_Space, Key_QuoteLeft, Key_BraceLeft, Key_Bar}, 3, 2},
+        {u"BHS 자음"_s, Qt::ShiftModifier, {Key_Z}, 1, 0},
+        {u"BHS"_s, none, {Key_A}, 0, 0},
+        {u"BHS"_s,
+         none,
+         {Key_Equal, Key_Plus, Key_Left, Key_Backspace, Key_Return, Key_Shift},
+         3,
+         3},
+        {u"BHS"_s, Qt::ControlModifier, {Key_A}, 3, 3},
+        {u"BHS"_s, Qt::KeypadModifier, {Key_5, Key_Plus, Key_Minus}, 3, 2},
+        {u"BHS"_s, Qt::KeypadModifier, {Key_Slash, Key_Asterisk, Key_Period}, 3, 3},
+        {u"KJV"_s, none, {Key_A}, 3, 3},
+    };
+    for (const Row& row : rows)
+        for (const Qt::Key key : row.keys) {
+            SCOPED_TRACE(row.version.toStdString() + ", key " + std::to_string(key));
+            QLineEdit box(u"abc"_s);
+            box.setCursorPosition(row.caret);
+            stepBackAfterTyping(box, {QEvent::KeyRelease, key, row.modifiers}, row.version);
+            EXPECT_EQ(box.cursorPosition(), row.expected);
+        }
 }
 
 } // namespace

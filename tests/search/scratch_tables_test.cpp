@@ -50,15 +50,6 @@ protected:
     ScratchTables tables{test.jet, test.files, test.state.AppPath};
 };
 
-TEST_F(ScratchTablesTest, AKeyStandsOnceAndInTheOrderOfTheList)
-{
-    ASSERT_TRUE(tables.prepare());
-    tables.StringToDB(u"43요:003:016;01창:001:001;43요:003:016"_s, 2);
-    tables.StringToDB(u"01창:001:001;66계:001:001;"_s, 2);
-    EXPECT_EQ(tables.keys(2),
-              (QStringList{u"43요:003:016"_s, u"01창:001:001"_s, u"66계:001:001"_s, u""_s}));
-}
-
 TEST_F(ScratchTablesTest, PreparingKeepsTheBaseOfASearchWithinResultsAlone)
 {
     fillAll();
@@ -92,19 +83,6 @@ TEST_F(ScratchTablesTest, AFreshStartMendsADamagedFileAndMakesNoMissingOne)
     EXPECT_FALSE(tables.startAfresh());
     EXPECT_FALSE(tables.prepare());
     EXPECT_FALSE(QFile::exists(file()));
-}
-
-TEST_F(ScratchTablesTest, AFileWithoutItsTablesIsNoScratchDatabase)
-{
-    ASSERT_TRUE(QFile::remove(file()));
-    {
-        StoreWriter other(file(), StoreCompare::Binary);
-        other.createTable({u"Table0"_s, {{u"Index"_s, FieldType::Text}}});
-        other.commit();
-    }
-    EXPECT_FALSE(tables.prepare());
-    EXPECT_TRUE(tables.startAfresh());
-    EXPECT_TRUE(tables.prepare());
 }
 
 TEST_F(ScratchTablesTest, AReadOnlyFileIsReplacedWhereTheFolderAllowsIt)

@@ -23,67 +23,33 @@ protected:
     QImage painted() { return window->hflex결과->viewport()->grab().toImage(); }
 };
 
-TEST_F(SearchResultsTest, PagesHoldFiftyRowsAndAFullLastOneIsFollowedByAnEmptyOne)
-{
-    struct Row
-    {
-        QString word;
-        int count;
-        QStringList firstPages;
-        int pages;
-        int rowsOfLastPage;
-    };
-    const Row rows[] = {
-        {u"오십일"_s, 51, {u" 1 ~  50"_s, u" 51 ~  100"_s}, 2, 1},
-        {u"백절"_s, 100, {u" 1 ~  50"_s, u" 51 ~  100"_s}, 3, 0},
-        {u"오백일절"_s, 501, {u" 1 ~  50"_s, u" 51 ~  100"_s}, 11, 1},
-        {u"오십 "_s, 50, {u"1 page"_s}, 1, 50},
-    };
-    open();
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.word.toStdString());
-        // Without the trimmed blank "오십" would find the verses of "오십일" too.
-        type(box(u"tx검색"_s), row.count == 50 ? u"오십 오십일"_s : row.word);
-        click(u"cmd검색"_s);
-        EXPECT_EQ(panel(2), QString::number(row.count) + u"개 검색"_s);
-        ComboBox& pages = combo(u"cb페이지"_s);
-        ASSERT_EQ(pages.ListCount(), row.pages);
-        EXPECT_EQ(pages.List(0), row.firstPages.first());
-        EXPECT_EQ(control<QWidget>(u"pbxPageMover"_s).isVisible(), row.pages > 1);
-        EXPECT_EQ(references().size(), 50);
-        pages.setListIndex(row.pages - 1);
-        EXPECT_EQ(references().size(), row.rowsOfLastPage);
-        EXPECT_EQ(combo(u"cbPPage"_s).ListIndex(), row.pages - 1);
-    }
-}
-
-TEST_F(SearchResultsTest, TurningPagesWrapsRoundAtBothEnds)
-{
-    open();
-    typeAndEnter(u"tx검색"_s, u"오십일"_s);
-    const QString first = references().first();
-    click(u"img이전"_s);
-    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 1);
-    EXPECT_EQ(references(), QStringList{u"창2:1"_s});
-    click(u"img이후"_s);
-    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 0);
-    EXPECT_EQ(combo(u"cbPPage"_s).ListIndex(), 0);
-    EXPECT_EQ(references().first(), first);
-    QTest::keyClick(&*window, Qt::Key_PageDown, Qt::AltModifier);
-    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 1);
-    QTest::keyClick(&*window, Qt::Key_PageDown, Qt::AltModifier);
-    EXPECT_EQ(combo(u"cb페이지"_s).ListIndex(), 0);
-}
-
-TEST_F(SearchResultsTest, ASearchWithoutHitsLeavesTheHeaderAndNoPages)
+TEST_F(SearchResultsTest, PagesGoRoundAndAFullLastOneIsFollowedByAnEmptyOne)
 {
     open();
     typeAndEnter(u"tx검색"_s, u"백절"_s);
-    typeAndEnter(u"tx검색"_s, u"없는말"_s);
+    EXPECT_EQ(panel(2), u"100개 검색"_s);
+    ComboBox& pages = combo(u"cb페이지"_s);
+    ASSERT_EQ(pages.ListCount(), 3);
+    EXPECT_EQ(pages.List(2), u" 101 ~  150"_s);
+    EXPECT_TRUE(control<QWidget>(u"pbxPageMover"_s).isVisible());
+    EXPECT_EQ(references().size(), 50);
+    click(u"img이전"_s);
+    EXPECT_EQ(pages.ListIndex(), 2);
+    EXPECT_EQ(references(), QStringList());
+    click(u"img이후"_s);
+    EXPECT_EQ(references().first(), u"창1:1"_s);
+    QTest::keyClick(&*window, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(references().first(), u"창2:1"_s);
+    EXPECT_EQ(combo(u"cbPPage"_s).ListIndex(), 1);
+
+    // The words "오십 오십일" stand side by side in fifty verses, which is one page.
+    for (const QString& word : {u"오십 오십일"_s, u"없는말"_s}) {
+        typeAndEnter(u"tx검색"_s, word);
+        EXPECT_EQ(references().size(), word == u"없는말" ? 0 : 50);
+        EXPECT_FALSE(control<QWidget>(u"pbxPageMover"_s).isVisible());
+        EXPECT_FALSE(window->atbar.tool(u"ID_NextPage").enabled());
+    }
     EXPECT_EQ(panel(2), u"0개 검색"_s);
-    EXPECT_EQ(window->hflex결과->Rows(), 1);
-    EXPECT_FALSE(control<QWidget>(u"pbxPageMover"_s).isVisible());
-    EXPECT_FALSE(window->atbar.tool(u"ID_NextPage").enabled());
 }
 
 TEST_F(SearchResultsTest, ADoubleClickAndEnterLeadToTheReader)
@@ -157,17 +123,26 @@ TEST_F(SearchResultsTest, HebrewStandsRightInItsFontAndLongVersesAreDivided)
     writeVersion(test.folders.data(u"301.dts"_s), u"BHS"_s,
                  {madeVerse(0, 1, 1, verse.trimmed()), madeVerse(0, 1, 2, u"short word"_s)});
     open();
+    QLineEdit& typed = box(u"tx검색"_s);
+    EXPECT_FALSE(control<QPushButton>(u"cmdKeyboard"_s).isVisible());
     window->atbar_event9(u"ID_대역본0-301"_s);
-    typeAndEnter(u"tx검색"_s, u"word"_s);
-    // The typed letters stand from right to left.
-    EXPECT_EQ(box(u"tx검색"_s).text(), u"drow"_s);
-    box(u"tx검색"_s).setText(u"word"_s);
-    click(u"cmd검색"_s);
+    EXPECT_TRUE(control<QPushButton>(u"cmdKeyboard"_s).isVisible());
+    EXPECT_EQ(typed.font().family(), u"OrvaneHeb"_s);
+    EXPECT_TRUE(typed.alignment().testFlag(Qt::AlignRight));
+    typeAndEnter(u"tx검색"_s, u"drow"_s);
+    EXPECT_EQ(typed.text(), u"word"_s);
     ASSERT_EQ(texts().size(), 2);
     // The end of the stored text is read first, so it stands first.
     EXPECT_TRUE(texts().first().section(u"\r\n"_s, 0, 0).endsWith(u"word59"_s));
     EXPECT_TRUE(texts().first().contains(u"\r\n"_s));
     EXPECT_EQ(texts().last(), u"short word"_s);
+    // The shorter verse leaves the left of its row empty.
+    FlexGrid& grid = *window->hflex결과;
+    const QRect cell = grid.visualRect(grid.model()->index(1, 1));
+    const QImage left = painted().copy(cell.left() + 2, cell.top() + 2, 60, cell.height() - 4);
+    QImage blank(left.size(), left.format());
+    blank.fill(left.pixelColor(0, 0));
+    EXPECT_EQ(left, blank);
 }
 
 } // namespace

@@ -87,25 +87,6 @@ protected:
                      occurrences(u"NSStrongPos"_s, {{430, u"43요:003:016"_s}})});
     }
 
-    /// The verses of each number in the word analysis: short references by "h430", "g26".
-    QMap<QString, QSet<QString>> analysedVerses()
-    {
-        QMap<QString, QSet<QString>> verses;
-        const auto database =
-            test.jet.OpenDatabase(u"C:\\lumenscript\\Data\\z101.dts"_s, false, true,
-                                  QString::fromUtf16(connect_text::kSearch));
-        const auto rows = database->OpenRecordset(u"select * from 원전분해 where Lang = 's'"_s);
-        for (; !rows->Eof(); rows->MoveNext()) {
-            const QString key = Text(rows->Fields(u"index"));
-            const QChar language = key.left(2).toInt() <= kFirstNewTestamentBook ? u'h' : u'g';
-            for (int word = 1; word <= 74; ++word) {
-                const QString stored = Text(rows->Fields(u"Word%1"_s.arg(word)));
-                if (!stored.isEmpty())
-                    verses[language + DES::UnscrambleField(stored)] << BibleCode::IndexToRef(key);
-            }
-        }
-        return verses;
-    }
     frm스트롱관주목록& list(const QString& language, const QString& number)
     {
         if (!window)
@@ -151,101 +132,56 @@ TEST_F(StrongListWindowTest, TheVersesOfANumberStandInTheReadersVersion)
     EXPECT_EQ(column(0), (QStringList{u"창1:1"_s, u"창1:2"_s, u"창1:3"_s}));
     EXPECT_EQ(column(1), (QStringList{u"지어낸 1절"_s, u"지어낸 2절"_s, u"지어낸 3절"_s}));
     EXPECT_EQ(window->statusPanel1->text(), u"히브리어 스트롱 코드 번호: 430   전체 관주 수: 3"_s);
-    EXPECT_EQ(window->flex결과->TextMatrix(0, 0), u"장절"_s);
     EXPECT_EQ(window->flex결과->TextMatrix(0, 1), u"본문 (3개 존재)"_s);
     EXPECT_EQ(pages(), QStringList{u"1 page"_s});
-}
-
-TEST_F(StrongListWindowTest, TheLanguageChoosesTheTableAndTheNumberIsNoPattern)
-{
-    // 0 to 9 become n to w.
-    EXPECT_EQ(strongListQuery(u"히브리어"_s, u"430"_s),
-              u"select * from BHSStrongPos where word like 'rqn'"_s);
-    EXPECT_EQ(strongListQuery(u"헬라어"_s, u"8853"_s),
-              u"select * from NSStrongPos where word like 'vvsq'"_s);
+    // Items may be short references; a verse that the version lacks stands there without a text.
+    list(u"히브리어"_s, u"7"_s);
+    EXPECT_EQ(column(0), (QStringList{u"창1:2"_s, u"창1:3"_s}));
     list(u"헬라어"_s, u"430"_s);
     EXPECT_EQ(column(0), QStringList{u"요3:16"_s});
-    // Not in the version: the verse stands there without a text.
     EXPECT_EQ(column(1), QStringList{QString()});
-
-    for (const QString& pattern : {u"I"_s, u"4I"_s, u"F"_s, u"^"_s, u"' or '1'='1"_s, u"z"_s}) {
-        SCOPED_TRACE(pattern.toStdString());
-        test.messages.expect(u"결과 없음"_s, u"해당하는 스트롱 코드 관주가 없습니다."_s, 64);
-        list(u"히브리어"_s, pattern);
-    }
 }
 
 TEST_F(StrongListWindowTest, ANumberWithoutVersesIsToldAndEmptiesTheWindow)
 {
-    test.messages.expect(u"결과 없음"_s, u"해당하는 스트롱 코드 관주가 없습니다."_s, 64);
-    list(u"히브리어"_s, u"9"_s);
-    EXPECT_FALSE(window->isVisible());
-
     list(u"히브리어"_s, u"100"_s);
-    test.messages.expect(u"결과 없음"_s, u"해당하는 스트롱 코드 관주가 없습니다."_s, 64);
-    list(u"히브리어"_s, QString());
-    EXPECT_EQ(window->flex결과->Rows(), 1);
-    EXPECT_EQ(pages(), QStringList());
-    EXPECT_EQ(window->statusPanel1->text(), QString());
+    for (const QString& number :
+         {u"9"_s, u"I"_s, u"4I"_s, u"^"_s, u"' or '1'='1"_s, u"z"_s, QString()}) {
+        SCOPED_TRACE(number.toStdString());
+        test.messages.expect(u"결과 없음"_s, u"해당하는 스트롱 코드 관주가 없습니다."_s, 64);
+        list(u"히브리어"_s, number);
+        test.messages.verify();
+        EXPECT_EQ(column(0), QStringList());
+        EXPECT_EQ(pages(), QStringList());
+        EXPECT_EQ(window->statusPanel1->text(), QString());
+    }
     QTest::mouseClick(window->mover.next, Qt::LeftButton);
     pickVersion(201);
-    EXPECT_EQ(window->flex결과->Rows(), 1);
+    EXPECT_EQ(column(0), QStringList());
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"z102.dts"_s)));
+    test.messages.expect(
+        u"Lumenscript"_s,
+        u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + test.folders.data(u"z102.dts"_s), 16);
+    list(u"히브리어"_s, u"430"_s);
+    EXPECT_EQ(column(0), QStringList());
 }
 
-TEST_F(StrongListWindowTest, PagesBeginBehindFiftyAndGoRound)
+TEST_F(StrongListWindowTest, PagesGoRoundAndStayOverAnotherVersion)
 {
-    struct Row
-    {
-        QString number;
-        QStringList pages;
-        QList<int> rows; // by page
-    };
-    const QList<Row> table{
-        {u"50"_s, {u"1 page"_s}, {50}},
-        {u"51"_s, {u" 1 ~  50"_s, u" 51 ~  100"_s}, {50, 1}},
-        {u"100"_s, {u" 1 ~  50"_s, u" 51 ~  100"_s, u" 101 ~  150"_s}, {50, 50, 0}},
-        {u"101"_s, {u" 1 ~  50"_s, u" 51 ~  100"_s, u" 101 ~  150"_s}, {50, 50, 1}}};
-    for (const Row& row : table) {
-        SCOPED_TRACE(row.number.toStdString());
-        list(u"히브리어"_s, row.number);
-        EXPECT_EQ(pages(), row.pages);
-        for (const int rows : row.rows) {
-            EXPECT_EQ(window->flex결과->Rows() - 1, rows);
-            EXPECT_EQ(window->flex결과->TextMatrix(0, 1), u"본문 (%1개 존재)"_s.arg(row.number));
-            QTest::mouseClick(window->mover.next, Qt::LeftButton);
-        }
-        EXPECT_EQ(window->mover.pages->ListIndex(), 0);
-        QTest::mouseClick(window->mover.previous, Qt::LeftButton);
-        EXPECT_EQ(window->mover.pages->ListIndex(), row.pages.size() - 1);
-    }
-    list(u"히브리어"_s, u"51"_s);
-    window->mover.pages->setListIndex(1);
-    EXPECT_EQ(column(0), QStringList{u"창3:11"_s});
-}
-
-TEST_F(StrongListWindowTest, AnItemIsAKeyOrAShortReference)
-{
-    EXPECT_EQ(occurrenceKey(u"01창:001:003"_s), u"01창:001:003"_s);
-    EXPECT_EQ(occurrenceKey(u"요일3:16"_s), u"62요일:003:016"_s);
-    EXPECT_EQ(occurrenceKey(QString()), QString());
-    list(u"히브리어"_s, u"7"_s);
-    EXPECT_EQ(column(0), (QStringList{u"창1:2"_s, u"창1:3"_s}));
-    EXPECT_EQ(column(1), (QStringList{u"지어낸 2절"_s, u"지어낸 3절"_s}));
-}
-
-TEST_F(StrongListWindowTest, AnotherVersionFillsTheOpenPageAgain)
-{
-    list(u"히브리어"_s, u"51"_s);
-    window->mover.pages->setListIndex(1);
+    list(u"히브리어"_s, u"101"_s);
+    EXPECT_EQ(pages().last(), u" 101 ~  150"_s);
+    EXPECT_EQ(column(0).size(), 50);
+    QTest::mouseClick(window->mover.next, Qt::LeftButton);
+    EXPECT_EQ(column(0).first(), u"창3:11"_s);
     pickVersion(301);
-    EXPECT_EQ(column(0), QStringList{u"창3:11"_s});
-    EXPECT_EQ(window->mover.pages->ListIndex(), 1);
-
-    window->mover.pages->setListIndex(0);
+    EXPECT_EQ(column(0).first(), u"창3:11"_s);
+    EXPECT_TRUE(column(1).first().contains(u"zyx"_s));
+    QTest::mouseClick(window->mover.previous, Qt::LeftButton);
+    QTest::mouseClick(window->mover.previous, Qt::LeftButton);
+    EXPECT_EQ(column(0), QStringList{u"창6:1"_s});
+    window->atbar_event9(u"ID_NextPage"_s);
     pickVersion(201);
     EXPECT_EQ(column(1).mid(0, 3), (QStringList{u"a made-up verse"_s, QString(), QString()}));
-    EXPECT_EQ(column(0).size(), 50);
-
     // The choice stays for the next number.
     list(u"히브리어"_s, u"43"_s);
     EXPECT_EQ(column(1), QStringList{u"a made-up verse"_s});
@@ -263,6 +199,22 @@ TEST_F(StrongListWindowTest, AnotherVersionKeepsTheRowAnotherPageBeginsAnew)
     window->mover.pages->setListIndex(1);
     EXPECT_EQ(grid.TopRow(), 1);
     EXPECT_EQ(grid.Row(), 1);
+}
+
+TEST_F(StrongListWindowTest, ClosingFreesTheModulesAndTheReadersVersionMayBeAbsent)
+{
+    for (const int code : {0, 102, 305}) {
+        SCOPED_TRACE(code);
+        window.reset();
+        reader.codes = {code};
+        list(u"히브리어"_s, u"43"_s);
+        EXPECT_EQ(column(1), QStringList{u"지어낸 1절"_s});
+        EXPECT_TRUE(test.jet.isOpen(test.folders.data(u"101.dts"_s)));
+        window->atbar_event9(u"ID_닫기"_s);
+        EXPECT_FALSE(window->isVisible());
+        EXPECT_FALSE(test.jet.isOpen(test.folders.data(u"101.dts"_s)));
+        EXPECT_FALSE(test.jet.isOpen(test.folders.data(u"z102.dts"_s)));
+    }
 }
 
 TEST_F(StrongListWindowTest, HebrewLinesAreCutToTheWidthAndReadFromTheEnd)
@@ -287,17 +239,6 @@ TEST_F(StrongListWindowTest, AnAbsentVersionIsToldAndTheFormerOneStays)
     pickVersion(102);
     EXPECT_EQ(window->atbar.tool(u"ID_cb기본버전").combo().Text(), u"개역한글"_s);
     EXPECT_EQ(column(1), QStringList{u"지어낸 1절"_s});
-}
-
-TEST_F(StrongListWindowTest, WithoutTheReadersVersionTheFirstInstalledOneIsShown)
-{
-    for (const int code : {0, 102, 305}) {
-        SCOPED_TRACE(code);
-        window.reset();
-        reader.codes = {code};
-        list(u"히브리어"_s, u"43"_s);
-        EXPECT_EQ(window->atbar.tool(u"ID_cb기본버전").combo().Text(), u"개역한글"_s);
-    }
 }
 
 TEST_F(StrongListWindowTest, AClickAndEnterLeadTheReaderThereAndADoubleClickBringsItUp)
@@ -331,80 +272,6 @@ TEST_F(StrongListWindowTest, TheSelectedRowsAreCopied)
     EXPECT_TRUE(window->atbar.tool(u"ID_복사").enabled());
     window->atbar_event9(u"ID_복사"_s);
     EXPECT_EQ(test.clipboard.content.plain, u"창1:2\t지어낸 2절\r\n창1:3\t지어낸 3절"_s);
-}
-
-TEST_F(StrongListWindowTest, AMissingOrDamagedModuleIsToldAndNothingIsListed)
-{
-    list(u"히브리어"_s, u"430"_s);
-    const QString module = test.folders.data(u"z102.dts"_s);
-    for (const QByteArray& content : {QByteArray(), QByteArray(5000, 'x')}) {
-        SCOPED_TRACE(content.size());
-        QFile::remove(module);
-        if (QFile file(module); !content.isEmpty()) {
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write(content);
-        }
-        QString told;
-        try {
-            test.jet.OpenDatabase(u"C:\\lumenscript\\Data\\z102.dts"_s);
-        } catch (const JetError& error) {
-            told = error.text();
-        }
-        ASSERT_FALSE(told.isEmpty());
-        test.messages.expect(u"Lumenscript"_s, told, 16);
-        list(u"히브리어"_s, u"430"_s);
-        test.messages.verify();
-        EXPECT_EQ(window->flex결과->Rows(), 1);
-        EXPECT_EQ(window->statusPanel1->text(), QString());
-    }
-}
-
-TEST_F(StrongListWindowTest, ClosingFreesTheModules)
-{
-    list(u"히브리어"_s, u"430"_s);
-    EXPECT_FALSE(test.jet.isOpen(test.folders.data(u"z102.dts"_s)));
-    EXPECT_TRUE(test.jet.isOpen(test.folders.data(u"101.dts"_s)));
-    window->atbar_event9(u"ID_닫기"_s);
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_FALSE(test.jet.isOpen(test.folders.data(u"101.dts"_s)));
-    list(u"히브리어"_s, u"430"_s);
-    EXPECT_EQ(column(1).size(), 3);
-}
-
-/// The lists of real modules beside the numbers of the word analysis; runs where a folder of
-/// modules is named.
-TEST_F(StrongListWindowTest, RealListsHoldTheVersesOfTheWordAnalysis)
-{
-    const QString folder = qEnvironmentVariable("LUMENSCRIPT_MODULES");
-    if (!QFile::exists(folder + u"/z102.dts"_s))
-        GTEST_SKIP() << "LUMENSCRIPT_MODULES names no folder with the original languages";
-    for (const QString& name : {u"201.dts"_s, u"z101.dts"_s, u"z102.dts"_s}) {
-        QFile::remove(test.folders.data(name));
-        ASSERT_TRUE(QFile::link(folder + u'/' + name, test.folders.data(name)));
-    }
-    const QMap<QString, QSet<QString>> verses = analysedVerses();
-    reader.codes = {201};
-    for (const QString& number : {u"h430"_s, u"h1254"_s, u"h7965"_s, u"h853"_s, u"g26"_s,
-                                  u"g3056"_s, u"g3588"_s, u"g5547"_s}) {
-        SCOPED_TRACE(number.toStdString());
-        list(number.front() == u'h' ? u"히브리어"_s : u"헬라어"_s, number.mid(1));
-        ASSERT_FALSE(verses[number].isEmpty());
-        EXPECT_TRUE(window->statusPanel1->text().endsWith(
-            u"전체 관주 수: %1"_s.arg(verses[number].size())));
-        QSet<QString> listed;
-        for (int page = 0; page < window->mover.pages->ListCount(); ++page) {
-            window->mover.pages->setListIndex(page);
-            const QStringList texts = column(1);
-            for (const QString& reference : column(0)) {
-                // The KJV counts these two to the verses before them.
-                const bool absent = reference == u"아6:14" || reference == u"요삼1:15";
-                EXPECT_EQ(texts.at(column(0).indexOf(reference)).isEmpty(), absent)
-                    << reference.toStdString();
-                listed << reference;
-            }
-        }
-        EXPECT_EQ(listed, verses[number]);
-    }
 }
 
 TEST_F(StrongListWindowTest, EveryToolHasItsHandlerAndEveryHandlerItsTool)
