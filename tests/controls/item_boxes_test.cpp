@@ -105,6 +105,21 @@ TEST_F(ComboBoxTest, KeysAndWheelPassItemsOverThatThePointerMayPick)
     combo.setParent(nullptr);
 }
 
+TEST_F(ComboBoxTest, TypedLettersFindItemsThatAreNotPassedOver)
+{
+    combo.AddItem(u"BBE"_s, 0, 1);
+    combo.AddItem(u"BHS 자음"_s);
+    setPassedOver(combo, 1);
+    combo.setListIndex(0);
+    QTest::keyClick(&combo, 'b');
+    EXPECT_EQ(combo.Text(), u"BHS"_s);
+    QTest::keyClick(&combo, 'b'); // the next one
+    EXPECT_EQ(combo.Text(), u"BHS 자음"_s);
+    QTest::keyClick(&combo, 'e'); // no "bbe" but that which is passed over
+    EXPECT_EQ(combo.Text(), u"BHS 자음"_s);
+    EXPECT_EQ(clicks, 3);
+}
+
 TEST_F(ComboBoxTest, InsertingAndRemovingKeepTheChoice)
 {
     combo.setListIndex(1);

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/controls/combo_habits.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QProxyStyle>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 namespace lumen {
 namespace {
@@ -71,8 +75,33 @@ private:
         case Qt::Key_End:
             return walk(m_combo.count(), -1);
         default:
-            return false;
+            return searches(event.text());
         }
+    }
+
+    /// Typed letters lead to the next item that begins with them, one letter again and again
+    /// through all of its items.
+    bool searches(const QString& letter)
+    {
+        if (letter.isEmpty() || !letter.front().isPrint())
+            return false;
+        if (!m_typing.isValid() || m_typing.hasExpired(QApplication::keyboardInputInterval()))
+            m_typed.clear();
+        m_typing.start();
+        m_typed += letter;
+        const bool oneLetter = m_typed.count(letter) * letter.size() == m_typed.size();
+        const QString& start = oneLetter ? letter : m_typed;
+        const int count = m_combo.count();
+        const int from = m_combo.currentIndex() + (oneLetter ? 1 : 0);
+        for (int step = 0; step < count; ++step) {
+            const int index = (std::max(from, 0) + step) % count;
+            if (!isPassedOver(index) &&
+                m_combo.itemText(index).startsWith(start, Qt::CaseInsensitive)) {
+                choose(index);
+                break;
+            }
+        }
+        return true;
     }
 
     bool takesWheel(QWheelEvent& event)
@@ -92,17 +121,26 @@ private:
     bool walk(int from, int step)
     {
         int index = from + step;
-        while (index >= 0 && index < m_combo.count() &&
-               m_combo.itemData(index, kPassedOverRole).toBool())
+        while (index >= 0 && index < m_combo.count() && isPassedOver(index))
             index += step;
-        if (index >= 0 && index < m_combo.count() && index != m_combo.currentIndex()) {
-            m_combo.setCurrentIndex(index);
-            Q_EMIT m_combo.activated(index);
-        }
+        if (index >= 0 && index < m_combo.count())
+            choose(index);
         return true;
     }
 
+    bool isPassedOver(int index) const { return m_combo.itemData(index, kPassedOverRole).toBool(); }
+
+    void choose(int index)
+    {
+        if (index == m_combo.currentIndex())
+            return;
+        m_combo.setCurrentIndex(index);
+        Q_EMIT m_combo.activated(index);
+    }
+
     QComboBox& m_combo;
+    QString m_typed; ///< letters in quick succession
+    QElapsedTimer m_typing;
 };
 
 } // namespace
