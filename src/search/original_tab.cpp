@@ -52,6 +52,11 @@ OriginalTab::OriginalTab(Services& services, const AppState& state, QWidget& win
               .passesOverEmptyCells = true}))
 {
     m_results.lstResult->onClick = [this] { lstResult_Click(); };
+    // Any button chooses the verse under it; the panes show the chosen one.
+    m_results.lstResult->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {
+        if (button != Qt::LeftButton && m_results.lstResult->ListIndex() != m_shownVerse)
+            lstResult_Click();
+    };
     m_results.lstResult->onDblClick = [this] { onOpenVerse(m_results.lstResult->Text()); };
 }
 
@@ -183,6 +188,7 @@ void OriginalTab::Proc파싱검색결과채우기()
 
 void OriginalTab::clearVerse()
 {
+    m_shownVerse = -1;
     m_words->forget();
     m_results.flexParsing->Clear();
     m_results.flexParsing->setRows(kEmptyRows);
@@ -198,6 +204,7 @@ void OriginalTab::lstResult_Click()
     const int index = m_results.lstResult->ListIndex();
     if (index < 0 || index >= m_keys.size())
         return;
+    m_shownVerse = index;
     const WaitPointer wait;
     // A missing dictionary doesn't withhold the verse, nor the other way round.
     guarded(m_services, &m_window, [&] { showWords(m_keys.at(index)); });

@@ -74,6 +74,7 @@ private:
     std::unique_ptr<WordAnalysis> m_words;
     QString m_root; ///< AppPath or the CD drive, whichever holds the word analysis
     QStringList m_keys;
+    int m_shownVerse = -1; ///< the list index of the verse in the panes
     std::array<QString, kConditionCount> m_strongNumbers; ///< those of the root conditions
     bool m_fresh = false; ///< the scratch tables hold nothing of an earlier run
 };

@@ -364,6 +364,17 @@ TEST_F(OriginalWindowTest, ADoubleClickOrEnterReadsTheVerse)
     EXPECT_EQ(reader.calls, read + read);
 }
 
+TEST_F(OriginalWindowTest, TheRightButtonShowsTheVerseThatItChooses)
+{
+    openTab();
+    searchFor(ConditionKind::Strong, u"430"_s);
+    ListBox& list = control<ListBox>(u"lstResult"_s);
+    QTest::mouseClick(list.viewport(), Qt::RightButton, {},
+                      list.visualItemRect(list.item(1)).center());
+    EXPECT_EQ(list.ListIndex(), 1);
+    EXPECT_TRUE(shownVerse().startsWith(list.List(1) + u" ("_s));
+}
+
 TEST_F(OriginalWindowTest, ClosingEmptiesAndFreesTheFiles)
 {
     openTab();
