@@ -180,6 +180,7 @@ void frm성서검색::run(SearchKind kind, const QString& criterion, const QStri
             m_foundWords.add(words);
         } else {
             m_search.query(scopedQuery(kind, easy->cb역본->Text(), criterion, m_scopes.scopeTag()));
+            m_resultCode = easy->cb역본->ItemData(easy->cb역본->ListIndex());
             m_foundWords.replace(words);
         }
         statusPanel2->setText(trimmedNumber(m_search.count()) + u"개 검색"_s);
@@ -235,8 +236,7 @@ void frm성서검색::ProcFillResultPage(int page)
     if (m_search.count() < 1)
         return;
     Form_Resize();
-    const int code = power->cbPVersion->ItemData(easy->cb역본->ListIndex());
-    m_results.showPage(*m_search.dacSearch.Recordset(), page, code, m_state.fonts);
+    m_results.showPage(*m_search.dacSearch.Recordset(), page, m_resultCode, m_state.fonts);
 }
 
 void frm성서검색::turnPage(bool forward)

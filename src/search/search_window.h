@@ -115,6 +115,7 @@ private:
     FoundWords m_foundWords;
     ToolDispatch m_tools;
     SearchSettings m_settings;
+    int m_resultCode = 0;   ///< the version of the open result, whichever is chosen since
     bool m_loading = false; ///< the LoadingFlag
     bool m_paged = false;   ///< the PagedFlag: the result spans more than one page
 };

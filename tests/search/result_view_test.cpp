@@ -89,6 +89,20 @@ TEST_F(ResultViewTest, HebrewIsDividedForTheWidthThatTheColumnHas)
     }
 }
 
+TEST_F(ResultViewTest, AResultStaysInItsVersionsLettersWhateverIsChosenSince)
+{
+    open();
+    typeAndEnter(u"tx검색"_s, u"백절"_s);
+    const auto letters = [this] {
+        return grid().model()->index(0, 1).data(Qt::FontRole).value<QFont>().family();
+    };
+    const QString before = letters();
+    window->atbar_event9(u"ID_대역본0-301"_s);
+    click(u"img이후"_s);
+    EXPECT_EQ(letters(), before);
+    EXPECT_NE(before, box(u"tx검색"_s).font().family());
+}
+
 TEST_F(ResultViewTest, ALongListOfBooksIsCutInsteadOfWideningTheWindow)
 {
     open();
