@@ -303,11 +303,13 @@ TEST_F(DataStoreTest, TheNewestSoundBackupComesBackAndTheFaultyFileIsKept)
     ASSERT_TRUE(services.files.writeAll(backup(u"myc.mdb"_s), "damaged too"));
     ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s), "damaged"));
     ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb-journal"_s), "of the damaged one"));
+    ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb.damaged"_s), "damaged earlier"));
     const auto notesLost = lost(user_file::kNotes);
     ASSERT_TRUE(notesLost);
     ASSERT_TRUE(restoreBackup(*notesLost, services.files));
     EXPECT_EQ(notes(path(u"myc.mdb"_s)), QStringList{u"첫째"_s});
-    EXPECT_EQ(bytes(path(u"myc.mdb.damaged"_s)), "damaged");
+    EXPECT_EQ(bytes(path(u"myc.mdb.damaged"_s)), "damaged earlier");
+    EXPECT_EQ(bytes(path(u"myc.mdb.damaged-2"_s)), "damaged");
     EXPECT_FALSE(lost(user_file::kNotes));
 
     QFile::remove(services.folders.data(u"myc.mdb"_s));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/files/qt_file_system.h"
+#include "platform/files/safe_write.h"
 #include "platform/files/virtual_drives.h"
 
 #include <gtest/gtest.h>
@@ -68,6 +69,19 @@ TEST_F(QtFileSystemTest, FilesAreWrittenReadCopiedAndDeletedInAnyCase)
     EXPECT_EQ(content(u"target"_s), "second");
     ASSERT_TRUE(files.DeleteFile(path(u"TARGET"_s)));
     EXPECT_FALSE(files.FileExists(path(u"target"_s)));
+}
+
+TEST_F(QtFileSystemTest, AWrittenFileKeepsItsModesAndStaysBehindItsLink)
+{
+    constexpr auto kShared = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+    const QString kept = folder.filePath(u"elsewhere"_s);
+    ASSERT_TRUE(writeSafely(kept, "former"));
+    ASSERT_TRUE(QFile::setPermissions(kept, kShared));
+    ASSERT_TRUE(QFile::link(kept, native(u"bmk.bmf"_s)));
+    ASSERT_TRUE(files.writeAll(path(u"bmk.bmf"_s), "second"));
+    EXPECT_EQ(content(u"bmk.bmf"_s), "second");
+    EXPECT_EQ(QFile::symLinkTarget(native(u"bmk.bmf"_s)), kept);
+    EXPECT_EQ(QFile::permissions(kept) & (kShared | QFile::ReadOther), kShared);
 }
 
 TEST_F(QtFileSystemTest, WhatIsMissingOrNoFileIsRefused)
