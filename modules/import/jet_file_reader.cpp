@@ -144,12 +144,13 @@ TableSchema JetFileReader::Impl::schemaOf(JetTable& table, const QByteArray& pro
     for (const JetColumn& column : table.columns()) {
         ColumnDef def = storeColumn(column, m_file->isJet3());
         def.required = required.contains(def.name, Qt::CaseInsensitive);
-        def.autonumber =
-            column.autonumber && std::any_of(schema.indexes.begin(), schema.indexes.end(),
-                                             [&def](const IndexDef& index) {
-                                                 return index.primary &&
-                                                        index.columns == QStringList{def.name};
-                                             });
+        const bool isKey = std::any_of(
+            schema.indexes.begin(), schema.indexes.end(), [&def](const IndexDef& index) {
+                return index.primary && index.columns == QStringList{def.name};
+            });
+        def.autonumber = column.autonumber && isKey;
+        // Such a column may hold Nulls and a number twice, so it can't be the key of the store.
+        def.counter = column.autonumber && !isKey;
         schema.columns.push_back(def);
     }
     dropBrokenRequirements(table, schema);

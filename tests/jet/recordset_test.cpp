@@ -2,6 +2,8 @@
 #include "jet/engine_fixture.h"
 #include "platform/jet/recordset.h"
 
+#include <QFile>
+
 namespace lumen {
 
 using namespace Qt::StringLiterals;
@@ -153,6 +155,35 @@ TEST_F(RecordsetTest, AddedRecordsComeLastAndTheOldOneStaysCurrent)
     records->Delete();
     records->AddNew();
     EXPECT_EQ(Number(records->Fields(u"번호")), 4);
+}
+
+TEST_F(RecordsetTest, AnAutonumberThatIsNotTheKeyIsGivenToNewRecordsAndNeverAgain)
+{
+    makeStore(u"myc.mdb"_s, StoreCompare::Text,
+              {.name = u"쪽지"_s,
+               .columns = {{.name = u"title"_s, .size = 20},
+                           {.name = u"번호"_s, .type = FieldType::Long, .counter = true}},
+               .indexes = {{u"PrimaryKey"_s, {u"title"_s}, true, true}}},
+              {{u"a"_s, 7}, {u"b"_s, QVariant()}, {u"c"_s, 3}});
+    for (const int number : {8, 9}) {
+        SCOPED_TRACE(number);
+        const auto former = open(u"myc.mdb"_s);
+        const auto records = former->OpenRecordset(u"select title from 쪽지"_s);
+        records->AddNew();
+        records->Fields(u"title").setValue(u"새 글"_s);
+        records->Update();
+        const auto table = former->OpenRecordset(u"쪽지"_s);
+        table->MoveLast();
+        EXPECT_EQ(Number(table->Fields(u"번호")), number);
+        table->Edit();
+        EXPECT_EQ(errorOf([&] { table->Fields(u"번호").setValue(1); }), 3027);
+        table->Delete();
+        EXPECT_EQ(columnOf(*table, u"번호"), (QStringList{u"7"_s, u"NULL"_s, u"3"_s}));
+        former->Close();
+        engine.CompactDatabase(u"myc.mdb"_s, u"copy.mdb"_s);
+        ASSERT_TRUE(QFile::remove(path(u"myc.mdb"_s)));
+        ASSERT_TRUE(QFile::rename(path(u"copy.mdb"_s), path(u"myc.mdb"_s)));
+    }
 }
 
 TEST_F(RecordsetTest, EditsAreWrittenKeptForAnotherTryOrDropped)

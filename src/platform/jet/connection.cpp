@@ -204,22 +204,15 @@ void Connection::noteTableMade()
     m_schema.forget();
 }
 
-qint64 Connection::takeAutonumber(const TableInfo& table)
+qint64 Connection::takeAutonumber(const TableInfo& table, const ColumnInfo& column)
 {
     qint64& last = m_autonumbers[table.name];
-    const QString name = quotedName(table.name);
-    const auto highest =
-        statement(u"SELECT coalesce(max(%1), 0) FROM %2"_s.arg(table.rowid, name).toUtf8());
+    const auto highest = statement(u"SELECT coalesce(max(%1), 0) FROM %2"_s
+                                       .arg(quotedName(column.name), quotedName(table.name))
+                                       .toUtf8());
     if (highest->step())
         last = std::max(last, highest->integer(0));
-    const auto counted =
-        statement("SELECT count(*) FROM sqlite_schema WHERE name = 'sqlite_sequence'");
-    if (counted->step() && counted->integer(0) > 0) {
-        const auto ever = statement("SELECT seq FROM sqlite_sequence WHERE name = ?");
-        ever->bind(1, table.name);
-        if (ever->step())
-            last = std::max(last, ever->integer(0));
-    }
+    last = std::max(last, notedAutonumber(table, column));
     return ++last;
 }
 
@@ -235,3 +228,26 @@ void Connection::noteUnordered(const QString& table, const QString& column)
 }
 
 } // namespace lumen
+qint64 Connection::notedAutonumber(const TableInfo& table, const ColumnInfo& column)
+{
+    const QString notes =
+        (column.isRowid ? u"sqlite_sequence" : StoreLayout::kStoreTable).toString();
+    const auto there = statement("SELECT count(*) FROM sqlite_schema WHERE name = ?");
+    there->bind(1, notes);
+    if (!there->step() || there->integer(0) == 0)
+        return 0;
+    const auto noted = statement(column.isRowid ? "SELECT seq FROM sqlite_sequence WHERE name = ?"
+                                                : "SELECT value FROM MSysStore WHERE key = ?");
+    noted->bind(1, column.isRowid ? table.name : StoreLayout::counterKey(table.name));
+    return noted->step() ? noted->integer(0) : 0;
+}
+
+void Connection::noteAutonumber(const TableInfo& table, qint64 number)
+{
+    if (m_schema.find(StoreLayout::kStoreTable) == nullptr)
+        return;
+    const auto note = statement("INSERT OR REPLACE INTO MSysStore VALUES (?, ?)");
+    note->bindAll({StoreLayout::counterKey(table.name), number});
+    note->execute();
+}
+

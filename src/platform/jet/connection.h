@@ -68,8 +68,10 @@ public:
     void rollback();
     void commitImplicit();
 
-    /// A number for a new row, above every one that the table has ever had.
-    qint64 takeAutonumber(const TableInfo& table);
+    /// A number for a new row, above every one that the column has ever had.
+    qint64 takeAutonumber(const TableInfo& table, const ColumnInfo& column);
+    /// Keeps the number that a new record took, so that it isn't given again once the record went.
+    void noteAutonumber(const TableInfo& table, qint64 number);
 
     /// True when an earlier query has shown that the column doesn't rise with the stored order.
     bool isKnownUnordered(const QString& table, const QString& column) const;
@@ -94,6 +96,7 @@ private:
     bool m_explicit = false;
     bool m_commitQueued = false;
     quint64 m_changes = 0;
+    qint64 notedAutonumber(const TableInfo& table, const ColumnInfo& column);
     bool m_tablesMade = false; ///< in the open transaction
     std::map<QString, qint64> m_autonumbers;
     QStringList m_unordered;

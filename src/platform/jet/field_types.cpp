@@ -30,6 +30,9 @@ constexpr TypeName kTypeNames[] = {
     {FieldType::Binary, u"BLOB"},
 };
 
+/// Not "INTEGER" alone, which a key of that type would take as the name of the rowid.
+constexpr QStringView kCounter = u"COUNTER INTEGER";
+
 bool has(QStringView declared, QStringView part)
 {
     return declared.contains(part, Qt::CaseInsensitive);
@@ -145,12 +148,16 @@ QString declaration(const ColumnDef& column)
     for (const TypeName& entry : kTypeNames)
         if (entry.type == column.type)
             text = entry.name.toString();
+    if (column.counter)
+        text = kCounter.toString();
     return column.required ? text + u" NOT NULL"_s : text;
 }
 
 DeclaredType readDeclaration(QStringView declared)
 {
     declared = declared.trimmed();
+    if (declared.compare(kCounter, Qt::CaseInsensitive) == 0)
+        return {FieldType::Long, 0, true};
     for (const TypeName& entry : kTypeNames)
         if (declared.compare(entry.name, Qt::CaseInsensitive) == 0)
             return {entry.type, 0};

@@ -19,6 +19,7 @@ struct DeclaredType
 {
     FieldType type = FieldType::Text;
     int size = 0;
+    bool counter = false; ///< see ColumnDef
 };
 
 /// The declaration of a column as it stands in CREATE TABLE, without its name. SQLite takes its

@@ -27,6 +27,10 @@ QVariant newValue(const RecordsetState& state, const ColumnInfo& column)
 
 qint64 insertRecord(RecordsetState& state)
 {
+    // SQLite itself keeps the last number of a rowid.
+    for (const ColumnInfo& column : state.table->columns)
+        if (column.autonumber && !column.isRowid)
+            state.connection->noteAutonumber(*state.table, *state.autonumber);
     QStringList names;
     QStringList marks;
     QVariantList values;
@@ -97,7 +101,7 @@ void Recordset::AddNew()
     m_state->touched.resize(m_state->columns.size());
     for (const ColumnInfo& column : m_state->table->columns)
         if (column.autonumber)
-            m_state->autonumber = m_state->connection->takeAutonumber(*m_state->table);
+            m_state->autonumber = m_state->connection->takeAutonumber(*m_state->table, column);
     for (std::size_t i = 0; i < m_state->columns.size(); ++i) {
         const ColumnInfo& column = *m_state->columns[i].column;
         if (column.autonumber)

@@ -46,7 +46,7 @@ const ColumnInfo& seekColumn(const RecordsetState& state)
             if (const ColumnInfo* column = state.table->column(index->columns.first()))
                 return *column;
     for (const ColumnInfo& column : state.table->columns)
-        if (column.autonumber && state.indexName.compare(u"PrimaryKey", Qt::CaseInsensitive) == 0)
+        if (column.isRowid && state.indexName.compare(u"PrimaryKey", Qt::CaseInsensitive) == 0)
             return column;
     throw jetError(ErrorNumber::kNoSuchIndex, state.indexName);
 }

@@ -15,6 +15,11 @@ inline constexpr QStringView kOriginTable = u"MSysOrigin";
 inline constexpr QStringView kCompareKey = u"compare";
 inline constexpr QStringView kPasswordKey = u"password";
 inline constexpr QStringView kOriginKey = u"origin";
+/// The line that keeps the last number of a table whose autonumber isn't its key.
+inline QString counterKey(const QString& table)
+{
+    return QStringLiteral("counter ") + table;
+}
 } // namespace StoreLayout
 
 /// Index names belong to a table here and to the whole file in SQLite; the table stands before.

@@ -29,14 +29,20 @@ std::vector<ColumnInfo> readColumns(sqlite3* handle, const QString& table)
     while (statement.step()) {
         const QString declared = statement.text(1);
         const DeclaredType type = readDeclaration(declared);
-        ColumnInfo column{statement.text(0), type.type, type.size, false, statement.integer(2) > 0};
+        ColumnInfo column{.name = statement.text(0),
+                          .type = type.type,
+                          .size = type.size,
+                          .autonumber = type.counter,
+                          .key = statement.integer(2) > 0};
         // SQLite makes the rowid's alias of a key that is declared so and not otherwise.
-        column.autonumber = column.key && sameName(declared, u"INTEGER");
+        column.isRowid = column.key && sameName(declared, u"INTEGER");
         keys += column.key ? 1 : 0;
         columns.push_back(std::move(column));
     }
-    for (ColumnInfo& column : columns)
-        column.autonumber = column.autonumber && keys == 1;
+    for (ColumnInfo& column : columns) {
+        column.isRowid = column.isRowid && keys == 1;
+        column.autonumber = column.autonumber || column.isRowid;
+    }
     return columns;
 }
 
@@ -95,7 +101,7 @@ const IndexInfo* TableInfo::index(QStringView indexName) const
 bool TableInfo::startsIndex(const QString& columnName) const
 {
     const ColumnInfo* info = column(columnName);
-    if (info != nullptr && info->autonumber)
+    if (info != nullptr && info->isRowid)
         return true;
     return std::any_of(indexes.begin(), indexes.end(), [&](const IndexInfo& entry) {
         return !entry.columns.isEmpty() && sameName(entry.columns.first(), columnName);

@@ -19,7 +19,8 @@ struct ColumnInfo
     QString name;
     FieldType type = FieldType::Text;
     int size = 0;
-    bool autonumber = false; ///< the key that SQLite itself hands out; it is the rowid
+    bool autonumber = false; ///< numbered for each new record and never changed
+    bool isRowid = false;    ///< the key that SQLite itself hands out; always an autonumber
     bool key = false;        ///< part of the primary key in the table's definition
 };
 

@@ -22,6 +22,7 @@ struct ColumnDef
     FieldType type = FieldType::Text;
     int size = 255;          ///< characters, of Text columns
     bool autonumber = false; ///< a Long that is the primary key
+    bool counter = false; ///< a Long that isn't, and is numbered for each new record all the same
     bool required = false;
 };
 
