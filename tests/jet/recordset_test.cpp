@@ -186,6 +186,39 @@ TEST_F(RecordsetTest, AnAutonumberThatIsNotTheKeyIsGivenToNewRecordsAndNeverAgai
     }
 }
 
+TEST_F(RecordsetTest, ARollbackBringsBackTheRecordsAsTheyStood)
+{
+    make(5);
+    const auto records = all();
+    const auto clone = records->Clone();
+    clone->MoveLast();
+    records->setAbsolutePosition(1);
+    records->Delete();
+    records->MoveNext();
+    records->Delete();
+    records->AddNew();
+    records->Fields(u"title").setValue(u"새 글"_s);
+    records->Update();
+    const QByteArray added = records->LastModified();
+    EXPECT_EQ(records->RecordCount(), 4);
+    engine.rollbackAll();
+
+    EXPECT_EQ(Text(records->Fields(u"title")), u"t3"_s);
+    EXPECT_EQ(records->AbsolutePosition(), 2);
+    EXPECT_EQ(Text(clone->Fields(u"title")), u"t5"_s);
+    EXPECT_EQ(clone->AbsolutePosition(), 4);
+    EXPECT_EQ(errorOf([&] { records->setBookmark(added); }), 3167);
+    const QStringList titles{u"t1"_s, u"t2"_s, u"t3"_s, u"t4"_s, u"t5"_s};
+    EXPECT_EQ(columnOf(*records, u"title"), titles);
+
+    // What was committed since is not undone by a later rollback.
+    records->MoveFirst();
+    records->Delete();
+    engine.commitAll();
+    engine.rollbackAll();
+    EXPECT_EQ(columnOf(*records, u"title"), titles.sliced(1));
+}
+
 TEST_F(RecordsetTest, EditsAreWrittenKeptForAnotherTryOrDropped)
 {
     make(3);

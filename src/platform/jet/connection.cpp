@@ -79,6 +79,16 @@ void Connection::configure()
     sqlite3_db_config(db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     registerJetFunctions(db);
+    // Told by SQLite, since it rolls back by itself when the disc is full.
+    sqlite3_rollback_hook(
+        db,
+        [](void* context) {
+            auto* const self = static_cast<Connection*>(context);
+            self->noteChange();
+            for (TransactionFollower* const follower : self->m_followers)
+                follower->rolledBack();
+        },
+        this);
     m_handle.run("PRAGMA cache_size=-65536; PRAGMA temp_store=MEMORY; PRAGMA cell_size_check=ON");
     if (m_readOnly)
         return;
@@ -182,6 +192,8 @@ void Connection::endTransaction()
     try {
         m_handle.run("COMMIT");
         m_tablesMade = false;
+        for (TransactionFollower* const follower : m_followers)
+            follower->committed();
     } catch (const JetError&) {
         rollback();
         throw;

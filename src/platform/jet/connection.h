@@ -10,10 +10,21 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace lumen {
 
 class JetError;
+
+/// What remembers writes of the open transaction and must forget them when they are undone.
+class TransactionFollower
+{
+public:
+    virtual ~TransactionFollower() = default;
+    virtual void committed() = 0;
+    /// Comes from within SQLite: no statement may run in it.
+    virtual void rolledBack() = 0;
+};
 
 /// Which file a connection is for: the database that the user sees and the store that is read,
 /// which differ for converted modules. Native canonical paths.
@@ -62,6 +73,9 @@ public:
     quint64 changes() const { return m_changes; }
 
     bool inTransaction() const;
+    /// Followers are told of each transaction's end, also when SQLite itself gives it up.
+    void follow(TransactionFollower& follower) { m_followers.push_back(&follower); }
+    void unfollow(TransactionFollower& follower) { std::erase(m_followers, &follower); }
     void begin();
     void commit();
     /// Undoes the writes of the open transaction, implicit or explicit.
@@ -98,6 +112,7 @@ private:
     quint64 m_changes = 0;
     qint64 notedAutonumber(const TableInfo& table, const ColumnInfo& column);
     bool m_tablesMade = false; ///< in the open transaction
+    std::vector<TransactionFollower*> m_followers;
     std::map<QString, qint64> m_autonumbers;
     QStringList m_unordered;
 };

@@ -144,6 +144,12 @@ KeyedRows::KeyedRows(std::shared_ptr<Connection> connection, const TableInfo& ta
       m_rowid(table.rowid.toUtf8()), m_keys(std::move(keys)),
       m_ascending(std::is_sorted(m_keys.begin(), m_keys.end()))
 {
+    m_connection->follow(*this);
+}
+
+KeyedRows::~KeyedRows()
+{
+    m_connection->unfollow(*this);
 }
 
 const Row& KeyedRows::row(int index)
@@ -269,14 +275,40 @@ int KeyedRows::indexOf(qint64 key, int hint) const
 void KeyedRows::append(qint64 key)
 {
     m_ascending = m_ascending && (m_keys.empty() || m_keys.back() < key);
+    m_undo.push_back({Change::Appended, count(), key});
     m_keys.push_back(key);
 }
 
 void KeyedRows::remove(int index)
 {
+    m_undo.push_back({Change::Removed, index, key(index)});
+    takeOut(index);
+}
+
+void KeyedRows::takeOut(int index)
+{
+    const qint64 gone = key(index);
     m_keys.erase(m_keys.begin() + index);
     m_cacheSize = 0;
-    shiftCursors(index);
+    shiftCursors(index, gone);
+}
+
+void KeyedRows::rolledBack()
+{
+    if (m_undo.empty())
+        return;
+    for (; !m_undo.empty(); m_undo.pop_back()) {
+        const UndoStep& step = m_undo.back();
+        if (step.change == Change::Appended) {
+            takeOut(step.index);
+        } else {
+            m_keys.insert(m_keys.begin() + step.index, step.key);
+            restoreCursors(step.index, step.key);
+        }
+    }
+    m_cacheSize = 0;
+    // A key that was appended out of order may be gone again.
+    m_ascending = std::is_sorted(m_keys.begin(), m_keys.end());
 }
 
 std::vector<qint64> KeyedRows::readKeys(Connection& connection, const KeyQuery& query)

@@ -12,11 +12,12 @@ namespace lumen {
 
 /// Rows of one table: the rowids are read at opening, the values when a row is asked for. Walking
 /// reads ahead, since the lock that a read takes costs more than a row.
-class KeyedRows : public RowSet
+class KeyedRows : public RowSet, private TransactionFollower
 {
 public:
     KeyedRows(std::shared_ptr<Connection> connection, const TableInfo& table,
               std::vector<ResultColumn> columns, std::vector<qint64> keys);
+    ~KeyedRows() override;
 
     int count() const override { return static_cast<int>(m_keys.size()); }
     qint64 key(int index) const override { return m_keys[static_cast<std::size_t>(index)]; }
@@ -25,6 +26,7 @@ public:
     int indexOf(qint64 key, int hint) const override;
 
     const std::vector<qint64>& keys() const { return m_keys; }
+    /// Follow a write of the open transaction, and are undone with it.
     void append(qint64 key);
     void remove(int index);
 
@@ -36,6 +38,9 @@ public:
                                         const std::vector<qint64>& keys, const QString& criterion);
 
 private:
+    void committed() override { m_undo.clear(); }
+    void rolledBack() override;
+    void takeOut(int index);
     void fill(int index);
     bool readRow(SqliteStatement& statement, int index);
     QStringList scannedTexts(const QByteArray& column) const;
@@ -48,6 +53,15 @@ private:
     QByteArray m_rowid;
     std::vector<qint64> m_keys;
     bool m_ascending = true;
+
+    enum class Change { Appended, Removed };
+    struct UndoStep
+    {
+        Change change;
+        int index;
+        qint64 key;
+    };
+    std::vector<UndoStep> m_undo; ///< what the open transaction has changed, oldest first
 
     struct CachedRow
     {

@@ -26,14 +26,25 @@ QStringList RowSet::texts(int column)
     return texts;
 }
 
-void RowSet::shiftCursors(int removed) const
+void RowSet::shiftCursors(int removed, qint64 key) const
 {
     for (Cursor* cursor : m_cursors) {
         const bool here = cursor->place == Cursor::Place::Record && cursor->index == removed;
         if (here)
-            cursor->place = Cursor::Place::Deleted;
+            *cursor = {Cursor::Place::Deleted, removed, key};
         else if (cursor->index > removed)
             --cursor->index;
+    }
+}
+
+void RowSet::restoreCursors(int index, qint64 key) const
+{
+    for (Cursor* cursor : m_cursors) {
+        const bool deleted = cursor->place == Cursor::Place::Deleted;
+        if (deleted && cursor->index == index && cursor->deletedKey == key)
+            cursor->place = Cursor::Place::Record;
+        else if (cursor->index > index || (cursor->index == index && !deleted))
+            ++cursor->index;
     }
 }
 

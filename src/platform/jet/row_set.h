@@ -21,6 +21,7 @@ struct Cursor
 
     Place place = Place::Nowhere;
     int index = 0;
+    qint64 deletedKey = 0; ///< of the row that was here
 };
 
 using Row = std::vector<QVariant>;
@@ -48,12 +49,14 @@ public:
     /// Tells this set of rows from all others of the process; part of each bookmark.
     quint32 serial() const { return m_serial; }
 
-    /// Cursors that are moved on when a row goes.
+    /// Cursors that are moved on when a row goes or comes back.
     void attach(Cursor& cursor) { m_cursors.push_back(&cursor); }
     void detach(Cursor& cursor) { std::erase(m_cursors, &cursor); }
 
 protected:
-    void shiftCursors(int removed) const;
+    void shiftCursors(int removed, qint64 key) const;
+    /// Undoes shiftCursors(): who stood on the row stands on it again.
+    void restoreCursors(int index, qint64 key) const;
 
 private:
     quint32 m_serial;
