@@ -131,14 +131,51 @@ TEST_F(DataControlTest, BoundColumnsFollowTheRecordAndAreWrittenWithIt)
     records.setBookmark(records.LastModified());
     EXPECT_EQ(shown, QVariant(u"새 날씨"_s));
 
-    typed = u"버림"_s;
-    control.boundChanged();
     records.MoveFirst();
-    EXPECT_EQ(shown, QVariant(u"맑음"_s));
     records.MovePrevious();
     EXPECT_TRUE(shown.isNull());
     EXPECT_EQ(columnOf(records, u"분류"),
               (QStringList{u"맑음"_s, u"천둥 번개"_s, u"맑음"_s, u"새 날씨"_s}));
+}
+
+TEST_F(DataControlTest, AMoveStoresWhatTheUserChangedInABoundControlAndNothingElse)
+{
+    DataControl control(engine);
+    QString typed;
+    for (const QString& column : {u"분류"_s, u"글"_s})
+        control.bind({column,
+                      [&, column](const QVariant& value) {
+                          if (column == u"분류"_s)
+                              typed = value.toString();
+                      },
+                      [&, column] { return column == u"분류"_s ? typed : u"손대지 않음"_s; }});
+    show(control, u"qt.mdb"_s, u"select * from QT"_s);
+    Recordset& records = *control.Recordset();
+    const auto type = [&](const QString& text) {
+        typed = text;
+        control.boundChanged();
+    };
+    type(u"눈"_s);
+    records.MoveNext();
+    EXPECT_EQ(typed, u"흐림"_s);
+
+    type(u"비"_s);
+    records.CancelUpdate();
+    EXPECT_EQ(typed, u"흐림"_s);
+    records.Edit();
+    records.Fields(u"글").setValue(u"버림"_s);
+    records.MoveNext();
+
+    // What can't be stored stays in the control, on its record.
+    type(QString(21, u'x'));
+    EXPECT_EQ(errorOf([&] { records.MovePrevious(); }), 3163);
+    EXPECT_EQ(records.AbsolutePosition(), 2);
+    EXPECT_EQ(typed.size(), 21);
+    type(u"안개"_s);
+    records.AddNew();
+    records.CancelUpdate();
+    EXPECT_EQ(columnOf(records, u"분류"), (QStringList{u"눈"_s, u"흐림"_s, u"안개"_s}));
+    EXPECT_EQ(columnOf(records, u"글"), QStringList(3, u"qt.mdb"_s));
 }
 
 } // namespace

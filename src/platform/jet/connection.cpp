@@ -228,18 +228,6 @@ qint64 Connection::takeAutonumber(const TableInfo& table, const ColumnInfo& colu
     return ++last;
 }
 
-bool Connection::isKnownUnordered(const QString& table, const QString& column) const
-{
-    return m_unordered.contains(storedIndexName(table, column));
-}
-
-void Connection::noteUnordered(const QString& table, const QString& column)
-{
-    if (!isKnownUnordered(table, column))
-        m_unordered << storedIndexName(table, column);
-}
-
-} // namespace lumen
 qint64 Connection::notedAutonumber(const TableInfo& table, const ColumnInfo& column)
 {
     const QString notes =
@@ -263,3 +251,15 @@ void Connection::noteAutonumber(const TableInfo& table, qint64 number)
     note->execute();
 }
 
+bool Connection::isKnownUnordered(const QString& table, const QString& column) const
+{
+    return m_unordered.contains(storedIndexName(table, column));
+}
+
+void Connection::noteUnordered(const QString& table, const QString& column)
+{
+    if (!isKnownUnordered(table, column))
+        m_unordered << storedIndexName(table, column);
+}
+
+} // namespace lumen

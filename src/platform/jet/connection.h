@@ -96,6 +96,7 @@ private:
     void readStoreTable();
     void endTransaction();
     void commitLater();
+    qint64 notedAutonumber(const TableInfo& table, const ColumnInfo& column);
 
     ConnectionPlace m_place;
     CommitFailed m_commitFailed;
@@ -110,7 +111,6 @@ private:
     bool m_explicit = false;
     bool m_commitQueued = false;
     quint64 m_changes = 0;
-    qint64 notedAutonumber(const TableInfo& table, const ColumnInfo& column);
     bool m_tablesMade = false; ///< in the open transaction
     std::vector<TransactionFollower*> m_followers;
     std::map<QString, qint64> m_autonumbers;

@@ -5,6 +5,8 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace lumen {
 
 DataControl::~DataControl()
@@ -48,7 +50,10 @@ void DataControl::adopt(std::unique_ptr<lumen::Recordset> recordset)
 {
     m_recordset = std::move(recordset);
     if (m_recordset)
-        m_recordset->setWatch({[this] { reposition(); }, [this] { writeBound(); }});
+        m_recordset->setWatch({.onReposition = [this] { reposition(); },
+                               .beforeMove = [this] { storeChanged(); },
+                               .beforeUpdate = [this] { writeBound(); },
+                               .onEditEnded = [this] { showBound(); }});
     reposition();
 }
 
@@ -64,7 +69,8 @@ void DataControl::Close()
 
 void DataControl::bind(BoundColumn column)
 {
-    m_bound.push_back(std::move(column));
+    const QVariant held = column.read();
+    m_bound.push_back({std::move(column), held});
 }
 
 void DataControl::boundChanged()
@@ -76,20 +82,40 @@ void DataControl::boundChanged()
 
 void DataControl::reposition()
 {
-    {
-        const QScopedValueRollback showing(m_showing, true);
-        const bool hasRecord = m_recordset && m_recordset->AbsolutePosition() >= 0;
-        for (const BoundColumn& column : m_bound)
-            column.show(hasRecord ? m_recordset->Fields(column.dataField).Value() : QVariant());
-    }
+    showBound();
     if (onReposition)
         onReposition();
 }
 
+void DataControl::showBound()
+{
+    const QScopedValueRollback showing(m_showing, true);
+    const bool hasRecord = m_recordset && m_recordset->AbsolutePosition() >= 0;
+    for (auto& [column, held] : m_bound) {
+        column.show(hasRecord ? m_recordset->Fields(column.dataField).Value() : QVariant());
+        held = column.read();
+    }
+}
+
 void DataControl::writeBound()
 {
-    for (const BoundColumn& column : m_bound)
-        m_recordset->Fields(column.dataField).setValue(column.read());
+    // The controls still show the record from which a new one was begun.
+    const bool isNew = m_recordset->editMode() == EditMode::Add;
+    for (const Bound& bound : m_bound)
+        if (isNew || bound.isChanged())
+            m_recordset->Fields(bound.column.dataField).setValue(bound.column.read());
+}
+
+bool DataControl::isBoundChanged() const
+{
+    return std::any_of(m_bound.begin(), m_bound.end(),
+                       [](const Bound& bound) { return bound.isChanged(); });
+}
+
+void DataControl::storeChanged()
+{
+    if (isBoundChanged())
+        m_recordset->Update();
 }
 
 } // namespace lumen

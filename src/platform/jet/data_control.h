@@ -44,8 +44,9 @@ public:
     /// Closes recordset and database, so that the file is free.
     void Close();
 
-    /// Shows the column at each reposition, and writes what the control holds into the edit buffer
-    /// at each Update, whatever began the edit.
+    /// Shows the column's value at each reposition and behind each edit. What the user changed goes
+    /// into the edit buffer at each Update, whatever began the edit; a move with such a change
+    /// stores the record first. A new record gets what the control holds, changed or not.
     void bind(BoundColumn column);
     /// To be called when the user changed a bound control: begins an edit when none runs.
     void boundChanged();
@@ -56,7 +57,10 @@ public:
 private:
     void adopt(std::unique_ptr<lumen::Recordset> recordset);
     void reposition();
+    void showBound();
     void writeBound();
+    bool isBoundChanged() const;
+    void storeChanged();
 
     JetEngine& m_engine;
     std::unique_ptr<lumen::Database> m_database;
@@ -64,7 +68,14 @@ private:
     QString m_openName;
     QString m_openConnect;
     bool m_openReadOnly = false;
-    std::vector<BoundColumn> m_bound;
+    struct Bound
+    {
+        BoundColumn column;
+        QVariant held{}; ///< what the control made of the value that it was given
+
+        bool isChanged() const { return column.read() != held; }
+    };
+    std::vector<Bound> m_bound;
     bool m_showing = false; ///< controls that report their filling are not the user
 };
 

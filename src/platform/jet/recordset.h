@@ -36,8 +36,10 @@ class Recordset;
 /// What a data control is told by its recordset.
 struct RecordsetWatch
 {
-    std::function<void()> onReposition; ///< behind each move
-    std::function<void()> beforeUpdate; ///< bound columns go into the edit buffer here
+    std::function<void()> onReposition{}; ///< behind each move
+    std::function<void()> beforeMove{};   ///< before each move and AddNew, while an edit runs
+    std::function<void()> beforeUpdate{}; ///< bound columns go into the edit buffer here
+    std::function<void()> onEditEnded{};  ///< behind Update and CancelUpdate
 };
 
 /// One column of the current record (or of the edit buffer while an edit runs). A light value that

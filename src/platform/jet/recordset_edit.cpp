@@ -96,6 +96,7 @@ EditMode Recordset::editMode() const
 void Recordset::AddNew()
 {
     m_state->writable();
+    m_state->storeChanged();
     m_state->dropEdit();
     m_state->buffer.resize(m_state->columns.size());
     m_state->touched.resize(m_state->columns.size());
@@ -138,12 +139,16 @@ void Recordset::Update()
     m_state->connection->noteChange();
     m_state->lastModified = m_state->bookmarkOf(edited >= 0 ? edited : rows.count() - 1);
     m_state->dropEdit();
+    if (m_state->watch.onEditEnded)
+        m_state->watch.onEditEnded();
 }
 
 void Recordset::CancelUpdate()
 {
     m_state->needOpen();
     m_state->dropEdit();
+    if (m_state->watch.onEditEnded)
+        m_state->watch.onEditEnded();
 }
 
 void Recordset::Delete()

@@ -152,10 +152,17 @@ int RecordsetState::currentIndex() const
 
 void RecordsetState::moveTo(Cursor target)
 {
+    storeChanged();
     dropEdit();
     cursor = target;
     if (watch.onReposition)
         watch.onReposition();
+}
+
+void RecordsetState::storeChanged() const
+{
+    if (editMode != EditMode::None && watch.beforeMove)
+        watch.beforeMove();
 }
 
 void RecordsetState::dropEdit()

@@ -58,9 +58,12 @@ public:
 
     /// The index of the current record; errors 3021 without one, 3167 when it was deleted.
     int currentIndex() const;
-    /// Moves the cursor, drops a pending edit and tells the data control.
+    /// Moves the cursor and tells the data control. A pending edit is dropped unless the data
+    /// control writes it; when that fails, the cursor stays and so does the edit.
     void moveTo(Cursor target);
     void goTo(int index) { moveTo({Cursor::Place::Record, index}); }
+    /// Lets the data control write a pending edit in which the user changed a bound control.
+    void storeChanged() const;
     void dropEdit();
     void close();
 
