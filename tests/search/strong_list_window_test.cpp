@@ -229,6 +229,11 @@ TEST_F(StrongListWindowTest, HebrewLinesAreCutToTheWidthAndReadFromTheEnd)
     QStringList backwards(lines.rbegin(), lines.rend());
     EXPECT_EQ(backwards.join(QString()).simplified(),
               (u"cba "_s.repeated(40) + u"zyx"_s).simplified());
+
+    window->resize(window->width() / 2, window->height());
+    QCoreApplication::processEvents();
+    window->flex결과->onResizeEnded();
+    EXPECT_GT(column(1).first().split(u"\r\n"_s).size(), lines.size());
 }
 
 TEST_F(StrongListWindowTest, AnAbsentVersionIsToldAndTheFormerOneStays)
