@@ -3,6 +3,7 @@
 
 #include "platform/jet/jet_error.h"
 #include "platform/jet/jet_importer.h"
+#include "platform/path_resolver.h"
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,13 @@ inline void writeBytes(const QString& path, const QByteArray& bytes)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << qPrintable(path);
     ASSERT_EQ(file.write(bytes), bytes.size());
 }
+
+/// The paths of these tests are native ones.
+class NativePaths : public PathResolver
+{
+public:
+    QString nativePath(const QString& path) const override { return path; }
+};
 
 /// A folder for databases and one for the cache, both of the test's own.
 class ImportTest : public testing::Test

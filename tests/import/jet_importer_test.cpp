@@ -112,13 +112,6 @@ private:
     bool m_dropped;
 };
 
-/// The paths of these tests are native ones.
-class NativePaths : public PathResolver
-{
-public:
-    QString nativePath(const QString& path) const override { return path; }
-};
-
 QString titleIn(Database& database)
 {
     return Text(database.OpenRecordset(u"설교"_s)->Fields(u"제목"));

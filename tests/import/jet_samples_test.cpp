@@ -2,6 +2,7 @@
 #include "import/import_fixture.h"
 #include "import/jet_conversion.h"
 #include "import/jet_file_reader.h"
+#include "platform/jet/jet_engine.h"
 #include "platform/jet/jet_header.h"
 #include "platform/jet/store_inspection.h"
 
@@ -285,6 +286,28 @@ TEST_F(JetSampleImportTest, AUserDatabaseIsTakenOverInPlace)
     EXPECT_EQ(store.compare, u"text"_s);
     EXPECT_FALSE(store.hasPassword);
     EXPECT_EQ(filesLeft().size(), 2);
+}
+
+TEST_F(JetSampleImportTest, NewRecordsAreNumberedWhereTheFileNumbersThem)
+{
+    // The notes have no key; their long column becomes an autonumber by a bit of its definition.
+    QByteArray bytes = fileBytes(sample(u"myc-made.mdb"_s));
+    constexpr qsizetype kFlagsOfSeq = 0x18067;
+    ASSERT_EQ(bytes[kFlagsOfSeq], 3);
+    bytes[kFlagsOfSeq] = 7;
+    const QString path = dataFile(u"myc.mdb"_s);
+    writeBytes(path, bytes);
+    const NativePaths paths;
+    JetEngine engine(paths, options);
+    const auto database = engine.OpenDatabase(path);
+    const auto notes = database->OpenRecordset(u"select * from myc order by seq desc"_s);
+    const int highest = Number(notes->Fields(u"seq"));
+    notes->AddNew();
+    notes->Fields(u"Index").setValue(u"창1"_s);
+    notes->Update();
+    notes->setBookmark(notes->LastModified());
+    EXPECT_EQ(Number(notes->Fields(u"seq")), highest + 1);
+    EXPECT_EQ(notes->RecordCount(), 7);
 }
 
 TEST_F(JetSampleImportTest, FilesCutAtAnyPlaceAreRefused)
