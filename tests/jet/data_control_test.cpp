@@ -138,7 +138,7 @@ TEST_F(DataControlTest, BoundColumnsFollowTheRecordAndAreWrittenWithIt)
               (QStringList{u"맑음"_s, u"천둥 번개"_s, u"맑음"_s, u"새 날씨"_s}));
 }
 
-TEST_F(DataControlTest, AMoveStoresWhatTheUserChangedInABoundControlAndNothingElse)
+TEST_F(DataControlTest, OnlyChangedControlsAreStoredByAMoveButAllInANewRecord)
 {
     DataControl control(engine);
     QString typed;
@@ -173,9 +173,10 @@ TEST_F(DataControlTest, AMoveStoresWhatTheUserChangedInABoundControlAndNothingEl
     EXPECT_EQ(typed.size(), 21);
     type(u"안개"_s);
     records.AddNew();
-    records.CancelUpdate();
-    EXPECT_EQ(columnOf(records, u"분류"), (QStringList{u"눈"_s, u"흐림"_s, u"안개"_s}));
-    EXPECT_EQ(columnOf(records, u"글"), QStringList(3, u"qt.mdb"_s));
+    records.Update();
+    EXPECT_EQ(columnOf(records, u"분류"), (QStringList{u"눈"_s, u"흐림"_s, u"안개"_s, u"안개"_s}));
+    EXPECT_EQ(columnOf(records, u"글"),
+              (QStringList{u"qt.mdb"_s, u"qt.mdb"_s, u"qt.mdb"_s, u"손대지 않음"_s}));
 }
 
 } // namespace

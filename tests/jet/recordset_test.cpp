@@ -215,6 +215,8 @@ TEST_F(RecordsetTest, ARollbackBringsBackTheRecordsAsTheyStood)
     records->MoveFirst();
     records->Delete();
     engine.commitAll();
+    records->MoveNext();
+    records->Delete();
     engine.rollbackAll();
     EXPECT_EQ(columnOf(*records, u"title"), titles.sliced(1));
 }
