@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/focus_mark.h"
 #include "search/keyboard_window.h"
 #include "support/active_window.h"
 #include "support/test_services.h"
@@ -119,18 +118,6 @@ TEST_F(KeyboardWindowTest, RealCapsLockIsKnownFromWhatIsTyped)
     EXPECT_EQ(typed(), u"QWw7"_s);
 }
 
-TEST_F(KeyboardWindowTest, ShiftIsForTheRealKeyboardOnly)
-{
-    test.messages.expect(u"안내"_s,
-                         u"쉬프트(Shift)키는 마우스로 사용할 수 없습니다.\r\n"
-                         "직접 키보드로 누르시기 바랍니다."_s,
-                         64);
-    const QString before = captions();
-    press(keyboard.cmdKeyShift);
-    EXPECT_EQ(captions(), before);
-    EXPECT_EQ(typed(), QString());
-}
-
 TEST_F(KeyboardWindowTest, CharactersTypedElsewhereReachTheBoxAndCommandsStay)
 {
     press(keyboard.opGrk);
@@ -185,20 +172,6 @@ TEST_F(KeyboardWindowTest, InputFillsTheSearchBoxAndCloses)
     EXPECT_EQ(searchBox.font().pointSize(), 13);
     EXPECT_FALSE(keyboard.isVisible());
     EXPECT_EQ(keyboard.result(), QDialog::Accepted);
-}
-
-TEST(FocusMark, StaysOnTheBoxThatHadTheFocusLast)
-{
-    QWidget window;
-    auto* first = new QLineEdit(&window);
-    auto* second = new QLineEdit(&window);
-    auto* button = new QPushButton(&window);
-    const auto* mark = new FocusMark({first, second}, &window);
-    EXPECT_EQ(mark->box(), first);
-    showActive(window);
-    second->setFocus();
-    button->setFocus();
-    EXPECT_EQ(mark->box(), second);
 }
 
 } // namespace

@@ -8,14 +8,12 @@
 #include "search/search_fixture.h"
 
 #include <QDir>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
 namespace lumen {
 namespace {
-
-const QString kScratchLost = u"Data 디렉토리내의 z199.dts 파일이 손실되었습니다. 검색 작업이 "
-                             u"불가능하므로 재설치 하십시요."_s;
 
 /// The third tab of the real window over made-up originals.
 class OriginalWindowTest : public SearchFixture
@@ -29,12 +27,6 @@ protected:
     }
 
     QString dataFolder() const { return test.folders.program() + u"/Data"_s; }
-
-    void openTab()
-    {
-        open();
-        QTest::keyClick(&*window, Qt::Key_3, Qt::ControlModifier);
-    }
 
     /// Fills a condition as a user does, on its own page.
     void ask(int condition, ConditionKind kind, const QString& text)
@@ -79,13 +71,6 @@ protected:
         return expected(question);
     }
 
-    void expectMissing(const QString& module)
-    {
-        test.messages.expect(
-            u"Lumenscript"_s,
-            u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + test.folders.data(module), 16);
-    }
-
     /// The bar of the dialog that a search shows while it runs.
     QProgressBar* progressBar() const
     {
@@ -104,7 +89,7 @@ protected:
 
 TEST_F(OriginalWindowTest, ASearchListsItsVersesAndShowsTheChosenOneInKorean)
 {
-    openTab();
+    openParsing();
     bool progressSeen = false;
     test.modal.whileEventsRun = [&] { progressSeen |= progressBar() != nullptr; };
     const QStringList references = expected(OriginalCondition{ConditionKind::Root, u"<yhla"_s, {}});
@@ -124,11 +109,14 @@ TEST_F(OriginalWindowTest, ASearchListsItsVersesAndShowsTheChosenOneInKorean)
     const QString reference = bookAbbreviation(chosen->book) + u"1:1"_s;
     list.setListIndex(static_cast<int>(references.indexOf(reference)));
     EXPECT_EQ(shownVerse(), reference + u" ("_s + *chosen->cont + u")"_s);
+    contextMenu(*control<FlexGrid>(u"flexParsing"_s).viewport());
+    EXPECT_TRUE(window->atbar.menu(u"ID_편집")->isVisible());
+    window->atbar.menu(u"ID_편집")->hide();
 }
 
 TEST_F(OriginalWindowTest, TheWordsOfTheVerseStandBelowAndTheSearchedRootsAreMarked)
 {
-    openTab();
+    openParsing();
     // A number isn't a root that was looked up: nothing stands out.
     for (const ConditionKind kind : {ConditionKind::Root, ConditionKind::Strong}) {
         searchFor(kind, kind == ConditionKind::Root ? u"<yhla"_s : u"430"_s);
@@ -159,7 +147,7 @@ TEST_F(OriginalWindowTest, TheWordsOfTheVerseStandBelowAndTheSearchedRootsAreMar
 
 TEST_F(OriginalWindowTest, FiveConditionsOfALanguageAreReadFromTheirControls)
 {
-    openTab();
+    openParsing();
     combo(u"cbParVer"_s).setListIndex(1);
     const QList<OriginalCondition> conditions{{ConditionKind::Strong, u"3056"_s, {}},
                                               {ConditionKind::Parsing, {}, u"$n__s"_s},
@@ -191,7 +179,7 @@ TEST_F(OriginalWindowTest, FiveConditionsOfALanguageAreReadFromTheirControls)
 
 TEST_F(OriginalWindowTest, TypedHebrewGrowsToTheLeftWhateverVersionTheOtherTabsSearch)
 {
-    openTab();
+    openParsing();
     QLineEdit& word = box(u"txHGSearch(0)"_s);
     EXPECT_TRUE(word.hasFocus());
     type(word, u"bra"_s);
@@ -208,21 +196,20 @@ TEST_F(OriginalWindowTest, TypedHebrewGrowsToTheLeftWhateverVersionTheOtherTabsS
 
 TEST_F(OriginalWindowTest, EnterSearchesAndBlanksOrGapsAreTold)
 {
-    openTab();
-    const QString title = u"검색 문자열이 없음"_s;
-    const QString text = u"첫번째 검색 대상은 반드시 입력되어야 합니다. 검색하고자 하는 문자열을 "
-                         u"입력한 후 [검색] 단추를 누르시기 바랍니다."_s;
-    ask(0, ConditionKind::Root, u"  "_s);
-    test.messages.expect(title, text, 64);
-    QTest::keyClick(&box(u"txHGSearch(0)"_s), Qt::Key_Return);
-    test.messages.verify();
+    openParsing();
     // A pattern counts by its code, a word that stands behind it doesn't.
     ask(0, ConditionKind::Root, u"arb"_s);
-    ask(0, ConditionKind::Parsing, QString());
-    test.messages.expect(title, text, 64);
-    click(u"cmdParsingSearch"_s);
-    test.messages.verify();
-
+    for (const ConditionKind kind : {ConditionKind::Parsing, ConditionKind::Root}) {
+        ask(0, kind, kind == ConditionKind::Root ? u"  "_s : QString());
+        test.messages.expect(
+            u"검색 문자열이 없음"_s,
+            u"첫번째 검색 대상은 반드시 입력되어야 합니다. 검색하고자 하는 문자열을 "
+            u"입력한 후 [검색] 단추를 누르시기 바랍니다."_s,
+            64);
+        kind == ConditionKind::Root ? QTest::keyClick(&box(u"txHGSearch(0)"_s), Qt::Key_Return)
+                                    : click(u"cmdParsingSearch"_s);
+        test.messages.verify();
+    }
     ask(0, ConditionKind::Root, u"arb"_s);
     ask(3, ConditionKind::Strong, u"430"_s);
     test.messages.expect(
@@ -231,12 +218,11 @@ TEST_F(OriginalWindowTest, EnterSearchesAndBlanksOrGapsAreTold)
     click(u"cmdParsingSearch"_s);
     test.messages.verify();
     EXPECT_EQ(listed(), QStringList());
-    EXPECT_EQ(panel(2), QString());
 }
 
 TEST_F(OriginalWindowTest, SearchesWithinResultsNarrowUntilNothingIsLeft)
 {
-    openTab();
+    openParsing();
     const QList<OriginalCondition> steps{
         {ConditionKind::Parsing, {}, u"@n____S___E_H_R_"_s},
         {ConditionKind::Root, u"ba"_s, {}},
@@ -262,40 +248,34 @@ TEST_F(OriginalWindowTest, SearchesWithinResultsNarrowUntilNothingIsLeft)
     EXPECT_EQ(control<FlexGrid>(u"flexParsing"_s).Cols(), 2);
 }
 
-TEST_F(OriginalWindowTest, LostFilesAreToldAndNothingIsSearched)
+TEST_F(OriginalWindowTest, WithoutTheAnalysisNothingIsSearchedAndTheFirstVersionComesBack)
 {
-    openTab();
-    ASSERT_TRUE(QFile::rename(test.folders.data(u"z101.dts"_s), dataFolder() + u"/away"_s));
-    window->sstSearch->setTab(0);
-    combo(u"cb역본"_s).setListIndex(combo(u"cb역본"_s).findItemData(201));
+    open();
+    window->atbar_event9(u"ID_대역본0-201"_s);
     window->sstSearch->setTab(2);
+    ASSERT_TRUE(QFile::remove(test.folders.data(u"z101.dts"_s)));
     test.messages.expect(
         u"파일 손실"_s,
         u"z101.dts 파일을 찾을 수 없습니다. 루멘 스크립트를 재설치하시기 바랍니다."_s, 48);
     searchFor(ConditionKind::Strong, u"430"_s);
-    test.messages.verify();
     EXPECT_EQ(combo(u"cb역본"_s).ListIndex(), 0);
-    EXPECT_EQ(panel(2), QString());
-    ASSERT_TRUE(QFile::rename(dataFolder() + u"/away"_s, test.folders.data(u"z101.dts"_s)));
-
-    ASSERT_TRUE(QFile::remove(test.folders.data(u"z199.dts"_s)));
-    test.messages.expect(u"파일 손실"_s, kScratchLost, 16);
-    click(u"cmdParsingSearch"_s);
-    test.messages.verify();
     EXPECT_EQ(listed(), QStringList());
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(panel(2), QString());
 }
 
 TEST_F(OriginalWindowTest, ADamagedScratchFileIsToldOnceAndThenMadeAnew)
 {
-    openTab();
+    openParsing();
     searchFor(ConditionKind::Strong, u"430"_s);
     const QStringList found = listed();
     QFile damaged(test.folders.data(u"z199.dts"_s));
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
     damaged.write(QByteArray(5000, 'x'));
     damaged.close();
-    test.messages.expect(u"파일 손실"_s, kScratchLost, 16);
+    test.messages.expect(u"파일 손실"_s,
+                         u"Data 디렉토리내의 z199.dts 파일이 손실되었습니다. 검색 작업이 "
+                         u"불가능하므로 재설치 하십시요."_s,
+                         16);
     searchFor(ConditionKind::Strong, u"1254"_s);
     test.messages.verify();
     EXPECT_EQ(listed(), found);
@@ -319,7 +299,7 @@ TEST_F(OriginalWindowTest, WhatAKilledRunLeftIsNoBaseOfASearchWithinResults)
         if (heldOpen)
             holder = test.jet.OpenDatabase(u"C:\\lumenscript\\Data\\z199.dts"_s, false, false,
                                            u";pwd=qolvetrinam"_s);
-        openTab();
+        openParsing();
         EXPECT_EQ(listed(), QStringList());
         pick(u"cbParRange"_s, 1);
         searchFor(ConditionKind::Strong, u"430"_s);
@@ -330,7 +310,7 @@ TEST_F(OriginalWindowTest, WhatAKilledRunLeftIsNoBaseOfASearchWithinResults)
 
 TEST_F(OriginalWindowTest, AMissingModuleIsToldAndTheListStays)
 {
-    openTab();
+    openParsing();
     searchFor(ConditionKind::Strong, u"430"_s);
     const QStringList found = listed();
     for (const QString& name : {u"310.dts"_s, u"101.dts"_s, u"StrongDicG.dts"_s})
@@ -351,7 +331,7 @@ TEST_F(OriginalWindowTest, AMissingModuleIsToldAndTheListStays)
 
 TEST_F(OriginalWindowTest, ADoubleClickOrEnterReadsTheVerse)
 {
-    openTab();
+    openParsing();
     searchFor(ConditionKind::Strong, u"430"_s);
     ListBox& list = control<ListBox>(u"lstResult"_s);
     const VersePlace place = BibleCode::ParseRef(list.List(0));
@@ -366,7 +346,7 @@ TEST_F(OriginalWindowTest, ADoubleClickOrEnterReadsTheVerse)
 
 TEST_F(OriginalWindowTest, TheRightButtonShowsTheVerseThatItChooses)
 {
-    openTab();
+    openParsing();
     searchFor(ConditionKind::Strong, u"430"_s);
     ListBox& list = control<ListBox>(u"lstResult"_s);
     QTest::mouseClick(list.viewport(), Qt::RightButton, {},
@@ -377,7 +357,7 @@ TEST_F(OriginalWindowTest, TheRightButtonShowsTheVerseThatItChooses)
 
 TEST_F(OriginalWindowTest, ClosingEmptiesAndFreesTheFiles)
 {
-    openTab();
+    openParsing();
     searchFor(ConditionKind::Parsing, u"@n____S___E_H_R_"_s);
     window->close();
     for (const QString& file : QDir(dataFolder()).entryList(QDir::Files))

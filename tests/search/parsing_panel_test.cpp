@@ -10,13 +10,7 @@ namespace {
 class ParsingPanelTest : public SearchFixture
 {
 protected:
-    ParsingPanelTest() { openTab(); }
-
-    void openTab()
-    {
-        open();
-        QTest::keyClick(&*window, Qt::Key_3, Qt::ControlModifier);
-    }
+    ParsingPanelTest() { openParsing(); }
 };
 
 TEST_F(ParsingPanelTest, APatternTakesThePlaceOfTheWord)
@@ -57,7 +51,7 @@ TEST_F(ParsingPanelTest, ThePanesComeBackInTheirSizes)
     // A window whose third tab is never opened keeps the sizes.
     open();
     window->close();
-    openTab();
+    openParsing();
     EXPECT_EQ(window->parsingResults.splitParsing->paneTwips(0), width);
     EXPECT_EQ(window->parsingResults.verseSplitter->paneTwips(0), height);
 }

@@ -239,64 +239,6 @@ TEST_F(ParsingWizardTest, EveryChoiceMeansWhatTheDecoderReads)
     EXPECT_GT(choices, 200);
 }
 
-TEST_F(ParsingWizardTest, AspectOpensWhatItsFormsCarry)
-{
-    const QStringList fields{u"cbvInching"_s, u"cbvSung"_s, u"cbvSu"_s, u"cbvHyungtae"_s};
-    const std::pair<QString, QString> rows[] = {
-        {u"모두"_s, u"1111"_s},          {u"완료"_s, u"1110"_s},   {u"미완료"_s, u"1110"_s},
-        {u"와우계속"_s, u"1110"_s},      {u"명령형"_s, u"1110"_s}, {u"부정사 연계형"_s, u"0000"_s},
-        {u"부정사 절대형"_s, u"0000"_s}, {u"분사"_s, u"0111"_s},   {u"Qal 수동분사"_s, u"0111"_s}};
-    goToPart(3);
-    press(wizard.cmdNext);
-    for (const auto& [aspect, expected] : rows) {
-        ASSERT_TRUE(choose(u"cbvSang"_s, aspect));
-        QString open;
-        for (const QString& name : fields)
-            open += list(name).isEnabled() ? u'1' : u'0';
-        EXPECT_EQ(open, expected) << aspect.toStdString();
-    }
-}
-
-TEST_F(ParsingWizardTest, MoodDecidesTensesFieldsAndLengthOfAGreekVerb)
-{
-    struct Row
-    {
-        QString mood;
-        QStringList tenses;
-        QString fields; ///< case, gender, number, person
-        QString code;   ///< with the last tense of the list
-    };
-    const QString present = u"현재"_s;
-    const QString aorist = u"과거"_s;
-    const Row rows[] = {
-        {u"분사"_s, {present, u"미래"_s, aorist, u"완료"_s}, u"1110"_s, u"$vpx____"_s},
-        {u"부정사"_s, {present, u"미래"_s, aorist, u"완료"_s}, u"0000"_s, u"$vnx_"_s},
-        {u"직설법"_s,
-         {present, u"미래"_s, aorist, u"미완료"_s, u"완료"_s, u"과거완료"_s},
-         u"0011"_s,
-         u"$viy___"_s},
-        {u"명령법"_s, {present, aorist, u"완료"_s, u"부사적 명령"_s}, u"0011"_s, u"$vdv___"_s},
-        {u"가정법"_s, {present, aorist, u"완료"_s}, u"0011"_s, u"$vsx___"_s},
-        {u"소원법"_s, {present, aorist}, u"0011"_s, u"$voa___"_s}};
-    goToPart(3, Testament::New);
-    press(wizard.cmdNext);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.mood.toStdString());
-        ASSERT_TRUE(choose(u"NcbvBup"_s, row.mood));
-        QStringList tenses;
-        for (int index = 0; index < list(u"NcbvSije"_s).ListCount(); ++index)
-            tenses << list(u"NcbvSije"_s).List(index);
-        EXPECT_EQ(tenses, QStringList{u"모두"_s} + row.tenses);
-        QString open;
-        for (const QString& name : {u"NcbvGyeok"_s, u"NcbvSung"_s, u"NcbvSu"_s, u"NcbvInching"_s})
-            open += list(name).isEnabled() ? u'1' : u'0';
-        EXPECT_EQ(open, row.fields);
-        ASSERT_TRUE(choose(u"NcbvSije"_s, row.tenses.last()));
-        EXPECT_EQ(done(), row.code);
-        showActive(wizard);
-    }
-}
-
 TEST_F(ParsingWizardTest, GreekVerbPutsItsFieldsBehindTheVoice)
 {
     goToPart(3, Testament::New);

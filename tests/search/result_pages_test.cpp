@@ -10,24 +10,17 @@ namespace {
 
 TEST(ResultPages, AFullLastPageOpensOneMoreEmptyPage)
 {
-    struct Row
-    {
-        int records;
-        int pages;
-    };
-    for (const Row& row : {Row{0, 1}, Row{1, 1}, Row{50, 1}, Row{51, 2}, Row{99, 2}, Row{100, 3},
-                           Row{101, 3}, Row{501, 11}}) {
-        SCOPED_TRACE(row.records);
-        EXPECT_EQ(ResultPages(row.records).count(), row.pages);
-        EXPECT_EQ(ResultPages(row.records).labels().size(), row.pages);
+    const QStringList two{u" 1 ~  50"_s, u" 51 ~  100"_s};
+    const std::pair<int, QStringList> rows[] = {{0, {u"1 page"_s}},
+                                                {50, {u"1 page"_s}},
+                                                {51, two},
+                                                {99, two},
+                                                {100, two + QStringList{u" 101 ~  150"_s}}};
+    for (const auto& [records, labels] : rows) {
+        SCOPED_TRACE(records);
+        EXPECT_EQ(ResultPages(records).count(), labels.size());
+        EXPECT_EQ(ResultPages(records).labels(), labels);
     }
-}
-
-TEST(ResultPages, LabelsTellTheRecordsWithALeadingBlankToEachNumber)
-{
-    EXPECT_EQ(ResultPages(50).labels(), QStringList{u"1 page"_s});
-    EXPECT_EQ(ResultPages(51).labels(), (QStringList{u" 1 ~  50"_s, u" 51 ~  100"_s}));
-    EXPECT_EQ(ResultPages(100).labels().last(), u" 101 ~  150"_s);
 }
 
 TEST(ResultPages, MovingWrapsRoundAtBothEnds)

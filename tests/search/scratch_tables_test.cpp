@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
 #include "platform/jet/jet_error.h"
-#include "platform/jet/store_writer.h"
 #include "search/scratch_tables.h"
 #include "support/test_services.h"
 
@@ -9,8 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -50,16 +47,11 @@ protected:
     ScratchTables tables{test.jet, test.files, test.state.AppPath};
 };
 
-TEST_F(ScratchTablesTest, PreparingKeepsTheBaseOfASearchWithinResultsAlone)
+TEST_F(ScratchTablesTest, PreparingKeepsTheBaseOfASearchWithinResultsAFreshStartNothing)
 {
     fillAll();
     ASSERT_TRUE(tables.prepare());
     EXPECT_EQ(counts(), (QList<qsizetype>{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 2}));
-}
-
-TEST_F(ScratchTablesTest, AFreshStartForgetsWhatAKilledRunLeft)
-{
-    fillAll();
     EXPECT_TRUE(tables.startAfresh());
     EXPECT_EQ(counts(), QList<qsizetype>(11, 0));
 }
@@ -83,23 +75,6 @@ TEST_F(ScratchTablesTest, AFreshStartMendsADamagedFileAndMakesNoMissingOne)
     EXPECT_FALSE(tables.startAfresh());
     EXPECT_FALSE(tables.prepare());
     EXPECT_FALSE(QFile::exists(file()));
-}
-
-TEST_F(ScratchTablesTest, AReadOnlyFileIsReplacedWhereTheFolderAllowsIt)
-{
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "root may write to every file";
-    ASSERT_TRUE(QFile::setPermissions(file(), QFile::ReadOwner));
-    EXPECT_FALSE(tables.prepare());
-    EXPECT_TRUE(tables.startAfresh());
-    EXPECT_TRUE(tables.prepare());
-    tables.close();
-    ASSERT_TRUE(QFile::setPermissions(file(), QFile::ReadOwner));
-    const QString folder = QFileInfo(file()).path();
-    ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
-    EXPECT_FALSE(tables.startAfresh());
-    EXPECT_FALSE(tables.prepare());
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 TEST_F(ScratchTablesTest, TheEndEmptiesAllTablesAndMakesTheFileSmallAgain)

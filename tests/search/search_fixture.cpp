@@ -4,6 +4,7 @@
 #include "canon/canon_table.h"
 #include "data/check_data.h"
 
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 
 using namespace Qt::StringLiterals;
@@ -72,6 +73,12 @@ frm성서검색& SearchFixture::open()
     return *window;
 }
 
+void SearchFixture::openParsing()
+{
+    open();
+    QTest::keyClick(&*window, Qt::Key_3, Qt::ControlModifier);
+}
+
 void SearchFixture::click(const QString& button)
 {
     QTest::mouseClick(&control<QAbstractButton>(button), Qt::LeftButton);
@@ -106,6 +113,26 @@ void SearchFixture::pick(const QString& comboName, int index)
     QTest::keyClick(&list, Qt::Key_Home);
     for (int step = 0; step < index; ++step)
         QTest::keyClick(&list, Qt::Key_Down);
+}
+
+void SearchFixture::contextMenu(QWidget& widget)
+{
+    const QPoint place = widget.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, widget.mapToGlobal(place));
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void SearchFixture::expectMissing(const QString& module)
+{
+    test.messages.expect(u"Lumenscript"_s,
+                         u"데이터베이스 파일을 찾을 수 없습니다.\n"_s + test.folders.data(module),
+                         16);
+}
+
+void SearchFixture::expectNoDisc()
+{
+    test.messages.expect(u"CD 삽입 후 재실행 요망"_s,
+                         u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s, 48);
 }
 
 QStringList SearchFixture::column(int col)

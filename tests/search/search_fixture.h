@@ -37,6 +37,9 @@ protected:
     /// Loads and shows the window; without a call there is none.
     frm성서검색& open();
 
+    /// The same on the third tab.
+    void openParsing();
+
     QLineEdit& box(const QString& name) { return control<QLineEdit>(name); }
     ComboBox& combo(const QString& name) { return control<ComboBox>(name); }
     void click(const QString& button);
@@ -44,6 +47,10 @@ protected:
     void type(QLineEdit& box, const QString& text);
     void typeAndEnter(const QString& boxName, const QString& text);
     void pick(const QString& comboName, int index);
+    /// Asks a widget for its menu, as the key does.
+    static void contextMenu(QWidget& widget);
+    void expectMissing(const QString& module);
+    void expectNoDisc();
     QString panel(int number)
     {
         return control<QLabel>(QStringLiteral("sb상황판(%1)").arg(number)).text();

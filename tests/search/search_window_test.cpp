@@ -3,7 +3,6 @@
 #include "platform/jet/jet_error.h"
 #include "search/search_fixture.h"
 
-#include <QContextMenuEvent>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
@@ -16,11 +15,6 @@ const QString kHead = u"select Chap, Verse, Cont, index from [개역한글] wher
 class SearchWindowTest : public SearchFixture
 {
 protected:
-    void expectNoDisc()
-    {
-        test.messages.expect(u"CD 삽입 후 재실행 요망"_s,
-                             u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s, 48);
-    }
     /// What the engine says of a file that it can't open.
     QString errorOf(const QString& file)
     {
@@ -292,13 +286,8 @@ TEST_F(SearchWindowTest, TheEditMenuOffersWhatTheFocusedControlTakes)
     typeAndEnter(u"tx검색"_s, u"은혜"_s);
     QMenu& edit = *window->atbar.menu(u"ID_편집");
     QLineEdit& word = box(u"tx검색"_s);
-    const auto contextMenu = [](QWidget* widget) {
-        const QPoint place = widget->rect().center();
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, widget->mapToGlobal(place));
-        QCoreApplication::sendEvent(widget, &event);
-    };
     word.selectAll();
-    contextMenu(&word);
+    contextMenu(word);
     EXPECT_TRUE(edit.isVisible());
     EXPECT_TRUE(window->atbar.tool(u"ID_잘라내기").enabled());
     edit.hide();
@@ -309,7 +298,7 @@ TEST_F(SearchWindowTest, TheEditMenuOffersWhatTheFocusedControlTakes)
 
     window->hflex결과->setFocus();
     window->hflex결과->setRow(1);
-    contextMenu(window->hflex결과->viewport());
+    contextMenu(*window->hflex결과->viewport());
     EXPECT_TRUE(edit.isVisible());
     EXPECT_FALSE(window->atbar.tool(u"ID_잘라내기").enabled());
     EXPECT_FALSE(window->atbar.tool(u"ID_붙여넣기").enabled());
