@@ -121,7 +121,7 @@ TEST_F(SearchResultsTest, HebrewStandsRightInItsFontAndLongVersesAreDivided)
     for (int word = 0; word < 60; ++word)
         verse += u"word%1 "_s.arg(word);
     writeVersion(test.folders.data(u"301.dts"_s), u"BHS"_s,
-                 {madeVerse(0, 1, 1, verse.trimmed()), madeVerse(0, 1, 2, u"short word"_s)});
+                 {madeVerse(0, 1, 1, u"short word"_s), madeVerse(0, 1, 2, verse.trimmed())});
     open();
     QLineEdit& typed = box(u"tx검색"_s);
     EXPECT_FALSE(control<QPushButton>(u"cmdKeyboard"_s).isVisible());
@@ -133,12 +133,13 @@ TEST_F(SearchResultsTest, HebrewStandsRightInItsFontAndLongVersesAreDivided)
     EXPECT_EQ(typed.text(), u"word"_s);
     ASSERT_EQ(texts().size(), 2);
     // The end of the stored text is read first, so it stands first.
-    EXPECT_TRUE(texts().first().section(u"\r\n"_s, 0, 0).endsWith(u"word59"_s));
-    EXPECT_TRUE(texts().first().contains(u"\r\n"_s));
-    EXPECT_EQ(texts().last(), u"short word"_s);
+    EXPECT_TRUE(texts().last().section(u"\r\n"_s, 0, 0).endsWith(u"word59"_s));
+    EXPECT_TRUE(texts().last().contains(u"\r\n"_s));
+    EXPECT_EQ(texts().first(), u"short word"_s);
     // The shorter verse leaves the left of its row empty.
     FlexGrid& grid = *window->hflex결과;
-    const QRect cell = grid.visualRect(grid.model()->index(1, 1));
+    const QRect cell = grid.visualRect(grid.model()->index(0, 1));
+    ASSERT_TRUE(grid.viewport()->rect().contains(cell));
     const QImage left = painted().copy(cell.left() + 2, cell.top() + 2, 60, cell.height() - 4);
     QImage blank(left.size(), left.format());
     blank.fill(left.pixelColor(0, 0));
