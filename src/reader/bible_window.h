@@ -6,6 +6,7 @@
 #include "forms/edit_commands.h"
 #include "forms/reader_place.h"
 #include "forms/services.h"
+#include "forms/verse_copy.h"
 #include "panel/reference_panel.h"
 #include "platform/controls/active_tool_bars.h"
 #include "platform/controls/flex_grid.h"
@@ -18,7 +19,6 @@
 #include "reader/quick_move_pane.h"
 #include "reader/table_view.h"
 #include "reader/text_view.h"
-#include "reader/verse_copy.h"
 #include "reader/version_slots.h"
 #include "text/hebrew_division.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "reader/verse_copy.h"
+#include "forms/verse_copy.h"
 #include "text/rtf_reader.h"
 
 #include <gtest/gtest.h>
