@@ -5,6 +5,7 @@
 #include "text/original_unicode.h"
 #include "text/rtf_tables.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -106,6 +107,12 @@ QString unicodeText(int code, const QString& stored)
         break;
     }
     return stored;
+}
+
+QString unicodeOfFont(const QString& stored, const QString& family)
+{
+    const auto row = std::ranges::find(kFontRows, family, &FontRow::family);
+    return row == kFontRows.end() || family.isEmpty() ? stored : unicodeText(row->first, stored);
 }
 
 FontSettings defaultFontSettings()

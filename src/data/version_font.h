@@ -31,6 +31,9 @@ Script scriptOf(int code);
 /// A stored text (unscrambled) as any other program reads it: Hebrew and Greek as Unicode in
 /// reading order.
 QString unicodeText(int code, const QString& stored);
+/// The same for a text that is drawn in a font: other fonts than those of Hebrew and Greek leave
+/// it.
+QString unicodeOfFont(const QString& stored, const QString& family);
 
 /// The font of one user slot; the size is kept as the text that the settings hold.
 struct UserFont

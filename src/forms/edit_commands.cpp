@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "forms/edit_commands.h"
 
+#include "data/version_font.h"
 #include "platform/controls/active_tool_bars.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/dialogs/clipboard.h"
@@ -90,7 +91,7 @@ void runOnText(EditCommand command, TextBox& box)
 void runOnGrid(EditCommand command, FlexGrid& grid, Clipboard& clipboard)
 {
     if (command == EditCommand::Copy)
-        clipboard.set({grid.selectionText(), {}, {}});
+        clipboard.set({grid.selectionText(unicodeOfFont), {}, {}});
     else if (command == EditCommand::SelectAll)
         grid.selectAll();
 }

@@ -41,8 +41,8 @@ EditState editStateOf(const QWidget* control);
 /// Enables a window's edit tools accordingly.
 void showEditState(const ActiveToolBars& bars, const EditState& state, const EditToolIds& ids = {});
 /// Runs a command on a control; nothing happens where editStateOf does not offer it. Text boxes use
-/// the desktop's clipboard themselves; what a grid copies (FlexGrid::selectionText) goes to
-/// `clipboard`.
+/// the desktop's clipboard themselves; what a grid copies (FlexGrid::selectionText, Hebrew and
+/// Greek as Unicode) goes to `clipboard`.
 void runEditCommand(EditCommand command, QWidget* control, Clipboard& clipboard);
 /// The control of a window that edit commands act on: the one with the focus, or its combo when
 /// it is the text part of one.

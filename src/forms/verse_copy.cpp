@@ -12,14 +12,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr RgbLong kNumberColor = RGB(0, 0, 255);
+constexpr RgbLong kLabelColor = RGB(0, 0, 255);
 
 QString unicodeOf(const CopiedVerse& verse)
 {
     return unicodeText(verse.code, verse.text);
 }
 
-/// What stands behind a verse number: as in the text view, where stored Hebrew runs from the right.
+/// What stands behind a label: as in the text view, where stored Hebrew runs from the right.
 QString separator(const CopiedVerse& verse, OriginalText originals)
 {
     const bool fromRight =
@@ -32,8 +32,8 @@ QString plainText(const std::vector<CopiedVerse>& verses, OriginalText originals
     QStringList lines;
     for (const CopiedVerse& verse : verses) {
         QString line;
-        if (verse.verse > 0)
-            line = QString::number(verse.verse) + separator(verse, originals);
+        if (!verse.label.isEmpty())
+            line = verse.label + separator(verse, originals);
         lines << line + (originals == OriginalText::Unicode ? unicodeOf(verse) : verse.text);
     }
     return lines.join(u"\r\n"_s);
@@ -61,11 +61,11 @@ QString htmlVerse(const CopiedVerse& verse)
     // The program's own fonts draw codes: Unicode is left to the fonts of the reading program.
     if (scriptOf(verse.code) == Script::Other)
         style.prepend(u"font-family:'%1';"_s.arg(QString(verse.font).remove(u'\'')));
-    QString number;
-    if (verse.verse > 0)
-        number = u"<span style=\"color:%1\">%2</span>&#160;"_s.arg(htmlColor(kNumberColor))
-                     .arg(verse.verse);
-    return u"%1<span style=\"%2\">"_s.arg(number, style.toHtmlEscaped()) +
+    QString label;
+    if (!verse.label.isEmpty())
+        label = u"<span style=\"color:%1\">%2</span>&#160;"_s.arg(htmlColor(kLabelColor),
+                                                                  verse.label.toHtmlEscaped());
+    return u"%1<span style=\"%2\">"_s.arg(label, style.toHtmlEscaped()) +
            htmlText(unicodeOf(verse)) + u"</span>"_s;
 }
 
@@ -126,7 +126,7 @@ QString rtfText(const QString& text, bool western)
 class RtfCopy
 {
 public:
-    explicit RtfCopy(OriginalText originals) : m_originals(originals) { colorNumber(kNumberColor); }
+    explicit RtfCopy(OriginalText originals) : m_originals(originals) { colorNumber(kLabelColor); }
 
     void add(const CopiedVerse& verse, const QString& ending)
     {
@@ -134,9 +134,9 @@ public:
             m_originals == OriginalText::Unicode && scriptOf(verse.code) != Script::Other;
         const bool western = isWesternFont(verse) && !unicode;
         m_body += u"\\pard"_s + paragraph(verse);
-        if (verse.verse > 0)
-            m_body +=
-                u"{\\cf1 %1}"_s.arg(verse.verse) + rtfText(separator(verse, m_originals), false);
+        if (!verse.label.isEmpty())
+            m_body += u"{\\cf1 "_s + rtfText(verse.label, false) + u'}' +
+                      rtfText(separator(verse, m_originals), false);
         m_body += u"{"_s;
         if (!unicode)
             m_body += u"\\f%1"_s.arg(fontNumber(verse.font, western));

@@ -14,7 +14,7 @@ namespace lumen {
 struct CopiedVerse
 {
     int code = 0;  ///< of the version
-    int verse = 0; ///< 0 leaves the number out
+    QString label; ///< stands before the text: verse number or reference; "" for none
     QString text;  ///< unscrambled; Hebrew and Greek in the codes of their fonts, as stored
     QString font;
     int halfPoints = 0;

@@ -373,7 +373,8 @@ void frm성서::copySelection(OriginalText originals)
     for (const SelectedVerse& verse : selected) {
         const VersionFont font = GetVersionFont(verse.code, m_state.fonts);
         const auto slot = static_cast<std::size_t>(verse.slot);
-        copied.push_back({verse.code, verse.verse, verse.text, font.font,
+        const QString label = verse.verse > 0 ? QString::number(verse.verse) : QString();
+        copied.push_back({verse.code, label, verse.text, font.font,
                           scaledSize(font.factor, rtfSizes(m_settings.FontSize).text),
                           verse.slot == 0 ? m_settings.colors.DefVerColor
                                           : m_settings.colors.verColors[slot - 1]});

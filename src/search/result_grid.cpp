@@ -2,10 +2,14 @@
 #include "search/result_grid.h"
 
 #include "canon/verse_index.h"
+#include "forms/verse_copy.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/jet/recordset.h"
 #include "search/result_pages.h"
 #include "text/field_scramble.h"
+
+#include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -14,6 +18,7 @@ namespace {
 
 constexpr int kReferenceTwips = 1100;
 constexpr int kTextPoints = 10;
+constexpr RgbLong kTextColor = RGB(0, 0, 0); // of a copy, whatever the desktop's colours are
 
 CellStyle cellStyle(const QString& family, int points, GridAlign align)
 {
@@ -88,6 +93,19 @@ void ResultGrid::showVerses(const QList<ResultVerse>& verses, int code, const Fo
     // Enter opens the current row, also when the keys have just come to the grid.
     m_grid.setRow(current);
     m_grid.setTopRow(top);
+}
+
+void ResultGrid::copyTo(Clipboard& clipboard) const
+{
+    const auto [first, last] = std::minmax({m_grid.Row(), m_grid.RowSel()});
+    std::vector<CopiedVerse> copied;
+    for (int row = std::max(first, 1); row <= last && row <= m_verses.size(); ++row) {
+        const ResultVerse& verse = m_verses.at(row - 1);
+        copied.push_back({m_code, verse.reference, verse.text, m_font.font,
+                          scaledSize(m_font.factor, 2 * kTextPoints), kTextColor});
+    }
+    if (!copied.empty())
+        clipboard.set(composeVerseCopy(copied, {}, OriginalText::Unicode));
 }
 
 void ResultGrid::divideAnew()

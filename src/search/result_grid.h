@@ -10,6 +10,7 @@
 
 namespace lumen {
 
+class Clipboard;
 class FlexGrid;
 class Recordset;
 
@@ -51,6 +52,9 @@ public:
     void divideAnew();
     /// Leaves the header alone.
     void clear();
+    /// Copies the selected rows as whole verses behind their references, Hebrew and Greek as
+    /// Unicode. Without a selection the clipboard stays as it is.
+    void copyTo(Clipboard& clipboard) const;
 
 private:
     QString cellText(const QString& text) const;

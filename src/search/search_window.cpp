@@ -326,7 +326,11 @@ void frm성서검색::showToolStates()
 
 void frm성서검색::edit(EditCommand command)
 {
-    runEditCommand(command, editTarget(*this), m_services.clipboard);
+    QWidget* target = editTarget(*this);
+    if (command == EditCommand::Copy && target == hflex결과)
+        m_results.copyTo(m_services.clipboard);
+    else
+        runEditCommand(command, target, m_services.clipboard);
 }
 
 void frm성서검색::UpdateEditMenu()

@@ -80,9 +80,7 @@ void frm스트롱관주목록::layOut()
 
 void frm스트롱관주목록::bindTools()
 {
-    const auto copy = [this] {
-        runEditCommand(EditCommand::Copy, editTarget(*this), m_services.clipboard);
-    };
+    const auto copy = [this] { m_results.copyTo(m_services.clipboard); };
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_편집",
                [this] { atbar.tool(u"ID_복사").setEnabled(editStateOf(editTarget(*this)).copy); });

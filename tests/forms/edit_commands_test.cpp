@@ -58,6 +58,14 @@ TEST_F(EditCommandsTest, AGridCopiesItsRowsToTheWindowsClipboard)
     EXPECT_EQ(editStateOf(&grid), (EditState{.copy = true, .selectAll = true}));
     run(EditCommand::Copy, grid);
     EXPECT_EQ(clipboard.content.plain, u"창1:1\t글\r\n창1:2\t둘째 글"_s);
+
+    // Words in the program's own fonts are readable elsewhere as Unicode alone.
+    grid.setCellStyle(2, 0, {.family = u"OrvaneHeb"_s});
+    grid.setTextMatrix(2, 0, u"ba"_s);
+    grid.setCellStyle(2, 1, {.family = u"OrvaneGrk"_s});
+    grid.setTextMatrix(2, 1, u"logoj"_s);
+    run(EditCommand::Copy, grid);
+    EXPECT_EQ(clipboard.content.plain, u"창1:1\t글\r\nאב\tλογος"_s);
 }
 
 TEST_F(EditCommandsTest, CommandsWorkOnAllKindsOfTextBoxes)

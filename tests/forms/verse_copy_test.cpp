@@ -13,20 +13,20 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-CopiedVerse korean(int verse, const QString& text)
+CopiedVerse korean(const QString& label, const QString& text)
 {
-    return {101, verse, text, u"굴림"_s, 20, RGB(1, 2, 3)};
+    return {101, label, text, u"굴림"_s, 20, RGB(1, 2, 3)};
 }
 
 CopiedVerse hebrew()
 {
     // The word for "in the beginning" as its font draws it, from the left.
-    return {301, 1, u"tyi`va2r;5b"_s, u"OrvaneHeb"_s, 32, RGB(136, 33, 28)};
+    return {301, u"1"_s, u"tyi`va2r;5b"_s, u"OrvaneHeb"_s, 32, RGB(136, 33, 28)};
 }
 
 CopiedVerse greek()
 {
-    return {306, 1, u"lo2goj"_s, u"OrvaneGrk"_s, 24, RGB(0, 89, 53)};
+    return {306, u"1"_s, u"lo2goj"_s, u"OrvaneGrk"_s, 24, RGB(0, 89, 53)};
 }
 
 const QString kHebrewWord = u"בְּרֵאשִׁית"_s.normalized(QString::NormalizationForm_C);
@@ -34,8 +34,9 @@ const QString kGreekWord = u"λο\u0314γος"_s.normalized(QString::Normalizati
 
 TEST(VerseCopyTest, EachVerseIsALineAndTheEndingFollowsTheLast)
 {
-    const ClipboardContent copy = composeVerseCopy({korean(1, u"하나"_s), korean(2, u"둘"_s)},
-                                                   u" (창1:1~2)"_s, OriginalText::FontCodes);
+    const ClipboardContent copy =
+        composeVerseCopy({korean(u"1"_s, u"하나"_s), korean(u"2"_s, u"둘"_s)}, u" (창1:1~2)"_s,
+                         OriginalText::FontCodes);
     EXPECT_EQ(copy.plain, u"1\t하나\r\n2\t둘 (창1:1~2)"_s);
     EXPECT_EQ(rtfToPlainText(copy.rtf).trimmed(), u"1\t하나\n2\t둘 (창1:1~2)"_s);
     EXPECT_EQ(QTextDocumentFragment::fromHtml(copy.html).toPlainText(),
@@ -68,10 +69,10 @@ TEST(VerseCopyTest, TheUnicodeCopyIsUnicodeThroughout)
 TEST(VerseCopyTest, SignsOfTheFormatsAreText)
 {
     const QString text = u"<b> & \\par {x} é\" 한"_s;
-    CopiedVerse western = korean(0, text);
+    CopiedVerse western = korean({}, text);
     western.code = 218;
     western.font = u"OrvaneFra"_s;
-    for (const CopiedVerse& verse : {korean(0, text), western}) {
+    for (const CopiedVerse& verse : {korean({}, text), western}) {
         const ClipboardContent copy = composeVerseCopy({verse}, QString(), OriginalText::FontCodes);
         EXPECT_EQ(copy.plain, text);
         EXPECT_EQ(QTextDocumentFragment::fromHtml(copy.html).toPlainText(), text);

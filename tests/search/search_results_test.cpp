@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/search_fixture.h"
+#include "text/original_unicode.h"
+#include "text/rtf_reader.h"
 
 #include <QSignalSpy>
 
@@ -115,7 +117,7 @@ TEST_F(SearchResultsTest, NarrowedResultsMarkTheWordsOfAllSteps)
               (QList<TextRange>{{7, 3}, {11, 2}}));
 }
 
-TEST_F(SearchResultsTest, HebrewStandsRightInItsFontAndLongVersesAreDivided)
+TEST_F(SearchResultsTest, LongHebrewVersesAreDividedButCopiedWhole)
 {
     QString verse;
     for (int word = 0; word < 60; ++word)
@@ -144,6 +146,16 @@ TEST_F(SearchResultsTest, HebrewStandsRightInItsFontAndLongVersesAreDivided)
     QImage blank(left.size(), left.format());
     blank.fill(left.pixelColor(0, 0));
     EXPECT_EQ(left, blank);
+
+    // A copy has neither the lines of the screen nor the codes of the font.
+    window->hflex결과->setFocus();
+    window->hflex결과->select(2, 1);
+    QTest::keyClick(window->hflex결과, Qt::Key_C, Qt::ControlModifier);
+    const ClipboardContent& copy = test.clipboard.content;
+    EXPECT_EQ(copy.plain, u"창1:1\t"_s + hebrewToUnicode(u"short word") + u"\r\n창1:2\t"_s +
+                              hebrewToUnicode(verse.trimmed()));
+    EXPECT_EQ(rtfToPlainText(copy.rtf).trimmed(), QString(copy.plain).remove(u'\r'));
+    EXPECT_TRUE(copy.html.contains(u"dir=\"rtl\""));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "search/strong_list_window.h"
 #include "support/active_window.h"
 #include "text/field_scramble.h"
+#include "text/original_unicode.h"
 
 #include <QContextMenuEvent>
 #include <QFile>
@@ -213,6 +214,12 @@ TEST_F(StrongListWindowTest, TheSelectedRowsAreCopied)
     strongs->atbar_event9(u"ID_복사"_s);
     EXPECT_EQ(test.clipboard.content.plain,
               u"창1:2\t%1\r\n창1:3\t%2"_s.arg(*korean.at(1).cont, *korean.at(2).cont));
+
+    pickVersion(301);
+    strongs->flex결과->setFocus();
+    strongs->flex결과->setRow(1);
+    QTest::keyClick(strongs->flex결과, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(test.clipboard.content.plain, u"창1:1\t"_s + hebrewToUnicode(u"abc def"_s));
 }
 
 TEST_F(StrongListWindowTest, EveryToolHasItsHandlerAndEveryHandlerItsTool)

@@ -115,8 +115,10 @@ public:
 
     const QString& Tag() const { return m_tag; }
     void setTag(const QString& tag) { m_tag = tag; }
+    /// How a cell's text reads in other programs, when the font that draws it is none of theirs.
+    using ReadableText = std::function<QString(const QString& text, const QString& family)>;
     /// The selected cells: columns parted by tabs, rows by "\r\n", hidden columns left out.
-    QString selectionText() const;
+    QString selectionText(const ReadableText& readable = {}) const;
 
     /// Ranges of a cell that are painted as found words; the text stays as it is.
     std::function<QList<TextRange>(int row, int col, const QString& text)> highlight;

@@ -97,7 +97,7 @@ void FlexGrid::setSelectionMode(GridSelection mode)
     QTableView::setSelectionMode(ContiguousSelection);
 }
 
-QString FlexGrid::selectionText() const
+QString FlexGrid::selectionText(const ReadableText& readable) const
 {
     const QItemSelection ranges = selectionModel()->selection();
     if (ranges.isEmpty())
@@ -107,8 +107,10 @@ QString FlexGrid::selectionText() const
     for (int row = first; row <= last; ++row) {
         QStringList cells;
         for (int col = ranges.first().left(); col <= ranges.first().right(); ++col)
-            if (!isColumnHidden(col))
-                cells << m_model->text(row, col);
+            if (!isColumnHidden(col)) {
+                const QString& text = m_model->text(row, col);
+                cells << (readable ? readable(text, m_model->style(row, col).family) : text);
+            }
         lines << cells.join(u'\t');
     }
     return lines.join(QStringLiteral("\r\n"));
