@@ -2,8 +2,8 @@
 // What users feel of the database engine: searching a whole Bible, a chapter, a verse, opening and
 // making a module. Searches stand beside one memmem a verse over the same bytes, in one piece and
 // warm. LUMENSCRIPT_MODULES names a folder whose 201.dts is measured besides the made-up Bible.
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/store_writer.h"
+#include "jet/engine.h"
+#include "jet/store/store_writer.h"
 #include "text/field_scramble.h"
 #include "text/query_literal.h"
 

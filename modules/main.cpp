@@ -4,7 +4,7 @@
 #include "common/console.h"
 #include "common/interruption.h"
 #include "import/import_command.h"
-#include "platform/jet/jet_error.h"
+#include "jet/error.h"
 #include "platform/log.h"
 #include "sources/fault_texts.h"
 #include "sources/sword_process.h"

@@ -4,8 +4,8 @@
 #include "build/module_stamp.h"
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/store_inspection.h"
+#include "jet/error.h"
+#include "jet/store/store_inspection.h"
 
 #include <QFileInfo>
 

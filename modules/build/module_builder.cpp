@@ -5,7 +5,7 @@
 #include "build/module_stamp.h"
 #include "build/version_module_writer.h"
 #include "common/row_digest.h"
-#include "platform/jet/jet_error.h"
+#include "jet/error.h"
 #include "sources/fault_texts.h"
 
 #include <QDate>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/module_stamp.h"
 
-#include "platform/jet/jet_error.h"
-#include "platform/jet/store_inspection.h"
-#include "platform/jet/store_layout.h"
+#include "jet/error.h"
+#include "jet/store/store_inspection.h"
+#include "jet/store/store_layout.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 
 #include "build/module_stamp.h"
 #include "common/row_digest.h"
-#include "platform/jet/jet_error.h"
+#include "jet/error.h"
 #include "sources/fault_texts.h"
 
 #include <QCryptographicHash>

@@ -4,7 +4,7 @@
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
 #include "common/row_digest.h"
-#include "platform/jet/store_writer.h"
+#include "jet/store/store_writer.h"
 #include "text/field_scramble.h"
 
 #include <QVariant>

@@ -5,10 +5,10 @@
 #include "common/arguments.h"
 #include "common/console.h"
 #include "common/row_digest.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/jet_header.h"
-#include "platform/jet/jet_import.h"
-#include "platform/jet/store_inspection.h"
+#include "jet/error.h"
+#include "jet/import/conversion.h"
+#include "jet/import/jet_header.h"
+#include "jet/store/store_inspection.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "common/row_digest.h"
 
-#include "platform/jet/jet_error.h"
-#include "platform/jet/store_inspection.h"
+#include "jet/error.h"
+#include "jet/store/store_inspection.h"
 
 namespace lumen {
 

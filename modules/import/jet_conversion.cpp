@@ -2,8 +2,8 @@
 #include "import/jet_conversion.h"
 
 #include "common/interruption.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/jet_header.h"
+#include "jet/error.h"
+#include "jet/import/jet_header.h"
 
 namespace lumen {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "import/jet_file_reader.h"
-#include "platform/jet/jet_import.h"
+#include "jet/import/conversion.h"
 
 namespace lumen {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "import/jet_handle.h"
-#include "platform/jet/store_writer.h"
+#include "jet/store/store_writer.h"
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/row_digest.h"
-#include "platform/jet/store_writer.h"
+#include "jet/store/store_writer.h"
 
 #include <QString>
 #include <QVariant>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/services.h"
+#include "jet/engine.h"
 #include "platform/dialogs/file_html_help.h"
 #include "platform/dialogs/qt_clipboard.h"
 #include "platform/dialogs/qt_file_dialogs.h"
@@ -13,7 +14,6 @@
 #include "platform/files/qt_file_system.h"
 #include "platform/files/system_clock.h"
 #include "platform/files/virtual_drives.h"
-#include "platform/jet/jet_engine.h"
 #include "platform/registry/registry_store.h"
 
 namespace lumen {

@@ -3,7 +3,7 @@
 
 #include "canon/verse_index.h"
 #include "data/data_store.h"
-#include "platform/jet/data_control.h"
+#include "jet/data_control.h"
 #include "text/field_scramble.h"
 
 using namespace Qt::StringLiterals;

@@ -4,9 +4,9 @@
 #include "data/data_store.h"
 #include "data/module_path.h"
 #include "data/version_catalogue.h"
+#include "jet/engine.h"
+#include "jet/error.h"
 #include "platform/files/drives.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
 #include "platform/log.h"
 
 #include <array>

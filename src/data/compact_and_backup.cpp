@@ -2,10 +2,10 @@
 #include "data/compact_and_backup.h"
 
 #include "data/module_path.h"
+#include "jet/engine.h"
+#include "jet/error.h"
+#include "jet/import/jet_header.h"
 #include "platform/aside_name.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/jet_header.h"
 #include "platform/log.h"
 
 using namespace Qt::StringLiterals;

@@ -2,10 +2,10 @@
 #include "data/data_store.h"
 
 #include "data/module_path.h"
-#include "platform/jet/field_types.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/store_writer.h"
+#include "jet/engine.h"
+#include "jet/error.h"
+#include "jet/store/field_types.h"
+#include "jet/store/store_writer.h"
 #include "platform/log.h"
 
 using namespace Qt::StringLiterals;

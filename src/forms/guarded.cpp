@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "forms/guarded.h"
 
+#include "jet/engine.h"
 #include "platform/dialogs/message_boxes.h"
-#include "platform/jet/jet_engine.h"
 #include "platform/log.h"
 
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/services.h"
-#include "platform/jet/jet_error.h"
+#include "jet/error.h"
 
 #include <concepts>
 

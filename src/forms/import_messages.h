@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/import_talk.h"
+#include "jet/import/import_talk.h"
 
 #include <QHash>
 #include <QSet>

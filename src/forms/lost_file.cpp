@@ -4,8 +4,8 @@
 #include "data/app_state.h"
 #include "data/compact_and_backup.h"
 #include "forms/services.h"
+#include "jet/engine.h"
 #include "platform/dialogs/message_boxes.h"
-#include "platform/jet/jet_engine.h"
 
 namespace lumen {
 namespace {

@@ -5,8 +5,8 @@
 #include "data/compact_and_backup.h"
 #include "data/module_path.h"
 #include "forms/services.h"
+#include "jet/engine.h"
 #include "platform/dialogs/message_boxes.h"
-#include "platform/jet/jet_engine.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,11 +3,11 @@
 
 #include "data/app_state.h"
 #include "forms/services.h"
+#include "jet/data_control.h"
 #include "panel/panel_tab.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
 #include "platform/controls/text_control.h"
-#include "platform/jet/data_control.h"
 #include "text/hebrew_division.h"
 
 #include <QWidget>

@@ -4,7 +4,7 @@
 #include "canon/canon_table.h"
 #include "data/app_state.h"
 #include "forms/services.h"
-#include "platform/jet/data_control.h"
+#include "jet/data_control.h"
 
 #include <QString>
 

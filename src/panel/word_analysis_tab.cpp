@@ -7,7 +7,7 @@
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "forms/wait_pointer.h"
-#include "platform/jet/jet_engine.h"
+#include "jet/engine.h"
 #include "text/basic_text.h"
 
 #include <QHBoxLayout>

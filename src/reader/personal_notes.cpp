@@ -2,7 +2,7 @@
 #include "reader/personal_notes.h"
 
 #include "canon/canon_table.h"
-#include "platform/jet/data_control.h"
+#include "jet/data_control.h"
 
 namespace lumen {
 

@@ -4,7 +4,7 @@
 #include "data/chapter_reader.h"
 #include "data/data_store.h"
 #include "forms/services.h"
-#include "platform/jet/jet_error.h"
+#include "jet/error.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 
 #include "data/version_catalogue.h"
 #include "forms/version_choice.h"
-#include "platform/jet/data_control.h"
+#include "jet/data_control.h"
 #include "reader/chapter_document.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/data_control.h"
+#include "jet/data_control.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/original_search.h"
 
-#include "platform/jet/recordset.h"
+#include "jet/rows/recordset.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,8 @@
 
 #include "canon/verse_index.h"
 #include "forms/verse_copy.h"
+#include "jet/rows/recordset.h"
 #include "platform/controls/flex_grid.h"
-#include "platform/jet/recordset.h"
 #include "search/result_pages.h"
 #include "text/field_scramble.h"
 

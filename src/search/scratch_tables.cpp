@@ -4,9 +4,9 @@
 #include "data/compact_and_backup.h"
 #include "data/data_store.h"
 #include "data/module_path.h"
+#include "jet/engine.h"
+#include "jet/error.h"
 #include "platform/files/file_system.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
 #include "platform/log.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/database.h"
+#include "jet/database.h"
 
 #include <QString>
 #include <QStringList>

@@ -4,7 +4,7 @@
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
 #include "data/version_font.h"
-#include "platform/jet/recordset.h"
+#include "jet/rows/recordset.h"
 #include "text/basic_text.h"
 #include "text/codepage949.h"
 #include "text/field_scramble.h"

@@ -4,9 +4,9 @@
 #include "data/settings_table.h"
 #include "forms/services.h"
 #include "forms/version_choice.h"
+#include "jet/data_control.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
-#include "platform/jet/data_control.h"
 #include "tools/verse_extract.h"
 
 #include <QCheckBox>

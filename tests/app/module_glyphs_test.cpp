@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
 #include "data/version_font.h"
+#include "jet/engine.h"
 #include "platform/files/app_fonts.h"
 #include "platform/files/virtual_drives.h"
-#include "platform/jet/jet_engine.h"
 #include "text/field_scramble.h"
 
 #include <gtest/gtest.h>

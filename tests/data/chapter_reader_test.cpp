@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/chapter_reader.h"
-#include "platform/jet/data_control.h"
-#include "platform/jet/jet_error.h"
+#include "jet/data_control.h"
+#include "jet/error.h"
 #include "support/tiny_data.h"
 
 #include <gtest/gtest.h>

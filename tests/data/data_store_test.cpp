@@ -2,9 +2,9 @@
 #include "data/compact_and_backup.h"
 #include "data/data_store.h"
 #include "data/leftovers.h"
-#include "platform/jet/import_talk.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
+#include "jet/engine.h"
+#include "jet/error.h"
+#include "jet/import/import_talk.h"
 #include "support/jet_header_maker.h"
 #include "support/test_services.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/chapter_reader.h"
 #include "fonts/drawn_text.h"
+#include "jet/database.h"
+#include "jet/engine.h"
 #include "platform/controls/grid_layout.h"
 #include "platform/controls/text_control.h"
 #include "platform/controls/twips.h"
-#include "platform/jet/database.h"
-#include "platform/jet/jet_engine.h"
 #include "reader/chapter_document.h"
 #include "support/test_services.h"
 #include "text/field_scramble.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
+#include "jet/engine.h"
+#include "jet/store/store_writer.h"
 #include "platform/controls/flex_grid.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/store_writer.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/jet_error.h"
-#include "platform/jet/jet_importer.h"
+#include "jet/error.h"
+#include "jet/import/openable_store.h"
 #include "platform/path_resolver.h"
 
 #include <gtest/gtest.h>

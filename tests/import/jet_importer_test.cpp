@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "import/import_fixture.h"
-#include "platform/jet/import_talk.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_header.h"
-#include "platform/jet/jet_import.h"
+#include "jet/engine.h"
+#include "jet/import/conversion.h"
+#include "jet/import/import_talk.h"
+#include "jet/import/jet_header.h"
 #include "support/jet_header_maker.h"
 
 #include <QFileInfo>

@@ -2,9 +2,9 @@
 #include "import/import_fixture.h"
 #include "import/jet_conversion.h"
 #include "import/jet_file_reader.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_header.h"
-#include "platform/jet/store_inspection.h"
+#include "jet/engine.h"
+#include "jet/import/jet_header.h"
+#include "jet/store/store_inspection.h"
 
 #include <QFileInfo>
 #include <QtEndian>

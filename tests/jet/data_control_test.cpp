@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "jet/data_control.h"
 #include "jet/engine_fixture.h"
-#include "platform/jet/data_control.h"
 
 namespace lumen {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/store_writer.h"
+#include "jet/engine.h"
+#include "jet/error.h"
+#include "jet/store/store_writer.h"
 
 #include <gtest/gtest.h>
 

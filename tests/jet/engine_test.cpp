@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Opening, sharing, committing and compacting databases.
+#include "jet/engine.h"
 #include "jet/engine_fixture.h"
 #include "jet/sqlite_probe.h"
-#include "platform/jet/jet_engine.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "jet/file_damage.h"
 
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
+#include "jet/engine.h"
+#include "jet/error.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/jet/jet_header.h"
+#include "jet/import/jet_header.h"
 #include "support/jet_header_maker.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/jet/byte_search.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/like_pattern.h"
+#include "jet/error.h"
+#include "jet/store/byte_search.h"
+#include "jet/store/like_pattern.h"
 
 #include <gtest/gtest.h>
 

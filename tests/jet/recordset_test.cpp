@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "jet/engine_fixture.h"
-#include "platform/jet/recordset.h"
+#include "jet/rows/recordset.h"
 
 #include <QFile>
 

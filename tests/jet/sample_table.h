@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/database.h"
-#include "platform/jet/store_writer.h"
+#include "jet/database.h"
+#include "jet/store/store_writer.h"
 
 #include <QString>
 #include <QStringList>

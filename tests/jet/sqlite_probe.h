@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/sqlite_statement.h"
+#include "jet/store/sqlite_statement.h"
 
 #include <QString>
 #include <QStringList>

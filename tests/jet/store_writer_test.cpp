@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "jet/error.h"
 #include "jet/sqlite_probe.h"
-#include "platform/jet/jet_error.h"
-#include "platform/jet/store_writer.h"
+#include "jet/store/store_writer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
 
-#include "platform/jet/sqlite_statement.h"
+#include "jet/store/sqlite_statement.h"
 #include "text/field_scramble.h"
 
 #include <QDir>

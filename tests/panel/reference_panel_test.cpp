@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "jet/error.h"
 #include "panel/reference_panel.h"
-#include "platform/jet/jet_error.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>

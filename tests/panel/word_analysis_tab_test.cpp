@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/check_data.h"
+#include "jet/error.h"
 #include "panel/reference_panel.h"
 #include "panel/word_analysis_tab.h"
-#include "platform/jet/jet_error.h"
 #include "support/active_window.h"
 #include "support/fake_reader.h"
 #include "support/module_files.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
 #include "dying_writer.h"
-#include "platform/jet/data_control.h"
-#include "platform/jet/jet_engine.h"
-#include "platform/jet/jet_error.h"
+#include "jet/data_control.h"
+#include "jet/engine.h"
+#include "jet/error.h"
 #include "reader/personal_notes.h"
 #include "support/test_services.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
-#include "platform/jet/jet_error.h"
+#include "jet/error.h"
 #include "search/scratch_tables.h"
 #include "support/test_services.h"
 

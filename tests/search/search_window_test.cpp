@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/canon_table.h"
-#include "platform/jet/jet_error.h"
+#include "jet/error.h"
 #include "search/search_fixture.h"
 
 #include <QMenu>

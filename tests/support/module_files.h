@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/jet/store_writer.h"
+#include "jet/store/store_writer.h"
 
 #include <QList>
 #include <QString>

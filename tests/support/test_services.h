@@ -3,9 +3,9 @@
 
 #include "data/app_state.h"
 #include "forms/services.h"
+#include "jet/engine.h"
 #include "platform/files/qt_file_system.h"
 #include "platform/files/virtual_drives.h"
-#include "platform/jet/jet_engine.h"
 #include "platform/registry/registry_store.h"
 #include "support/scripted_dialogs.h"
 #include "support/scripted_message_boxes.h"

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "jet/database.h"
+#include "platform/open_files.h"
+#include "platform/path_resolver.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace lumen {
+
+class ConnectionPool;
+class ImportTalk;
+class JetError;
+
+/// Where the engine finds its import program and keeps what it converted.
+struct JetEngineOptions
+{
+    /// Native path of lumen-modules; "" looks beside the program, then in the libexec folder.
+    QString importProgram;
+    QString cacheFolder; ///< native; "" is $XDG_CACHE_HOME/lumenscript/modules
+    /// Without one nothing incomplete takes the place of a user database, and nobody is told.
+    ImportTalk* talk = nullptr;
+};
+
+/// The database engine (the DBEngine of the program). Paths go through the resolver. A genuine
+/// Jet file is converted on opening: a module into the cache folder, a user database in place after
+/// the original was put aside as "<name>.jet". A user database that can't be replaced is read only.
+class JetEngine : public OpenFiles
+{
+public:
+    explicit JetEngine(const PathResolver& paths, JetEngineOptions options = {});
+    ~JetEngine() override;
+
+    /// 3024 no file, 3343 no database, 3031 password, 3045 when `exclusive` and open already.
+    std::unique_ptr<Database> OpenDatabase(const QString& path, bool exclusive = false,
+                                           bool readOnly = false, const QString& connect = {});
+    /// A compact copy of `src` under `dst`; nothing is left of a failed one. `locale` may carry
+    /// ";pwd=..." for the copy, `password` opens the source.
+    void CompactDatabase(const QString& src, const QString& dst, const QString& locale = {},
+                         const QString& password = {});
+
+    /// Looks a whole file through: throws what OpenDatabase throws, and 3049 when the check finds a
+    /// fault. A file that is open stays open.
+    void CheckDatabase(const QString& path, const QString& password = {});
+
+    /// Who speaks with the user about imports; must outlive the engine's use, nullptr for nobody.
+    void setImportTalk(ImportTalk* talk) { m_options.talk = talk; }
+
+    void setDefaultUser(const QString& user) { m_defaultUser = user; }
+    void setDefaultPassword(const QString& password) { m_defaultPassword = password; }
+    const QString& DefaultUser() const { return m_defaultUser; }
+    const QString& DefaultPassword() const { return m_defaultPassword; }
+
+    /// Ends the implicit transaction that writes outside an explicit one have opened. The window
+    /// guard calls the second when a handler failed.
+    void commitAll();
+    void rollbackAll();
+
+    /// What tells where a file of the program lies.
+    const PathResolver& paths() const { return m_paths; }
+    bool isOpen(const QString& nativePath) const override;
+    void commitPending(const QString& nativePath) override;
+
+    /// The shared connection of a file; for data controls. Whether its user may write is that
+    /// user's own affair.
+    std::shared_ptr<Connection> connect(const QString& path, const QString& connect);
+
+    /// Is told when writes could not be brought to disk behind a handler's back, on return to the
+    /// event loop; without it the failure only goes to the log. The writes are undone.
+    void setCommitFailed(std::function<void(const JetError&)> report);
+
+private:
+    QString existingFile(const QString& path) const;
+    QString storeOf(const QString& native, const QString& password);
+
+    const PathResolver& m_paths;
+    JetEngineOptions m_options;
+    std::unique_ptr<ConnectionPool> m_pool;
+    std::function<void(const JetError&)> m_commitFailed;
+    bool m_opening = false;
+    QString m_defaultUser;
+    QString m_defaultPassword;
+};
+
+} // namespace lumen
