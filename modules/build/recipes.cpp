@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/recipes.h"
 
-#include "data/version_catalogue.h"
+#include "data/version_lists.h"
 #include "original/original_versions.h"
 #include "sources/psalm_titles.h"
 #include "sources/text_mending.h"

@@ -3,13 +3,14 @@
 
 #include "data/data_store.h"
 #include "data/module_path.h"
-#include "data/version_catalogue.h"
+#include "data/version_lists.h"
 #include "jet/engine.h"
 #include "jet/error.h"
 #include "platform/files/drives.h"
 #include "platform/log.h"
 
-#include <array>
+#include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -18,13 +19,6 @@ namespace {
 
 constexpr int kDriveBuffer = 64;
 constexpr int kCdRom = 5;
-
-// The groups in which the modules are looked at; the first version found follows their order.
-constexpr std::array kFirstGroup{101, 102, 104, 103, 105, 106, 107, 108, 109, 201,
-                                 202, 204, 205, 209, 210, 211, 212, 213, 215, 214};
-constexpr std::array kSecondGroup{203, 206, 207, 208, 216, 217, 218, 219, 220, 221, 222, 223,
-                                  224, 225, 226, 227, 228, 401, 301, 304, 305, 306, 310};
-constexpr std::array kThirdGroup{302, 303, 307, 308, 309, 311};
 
 class Check
 {
@@ -43,12 +37,7 @@ private:
     {
         return m_files.FileExists(joinedPath(m_state.AppPath, relative));
     }
-    template <typename Codes>
-    void versions(const Codes& codes)
-    {
-        for (const int code : codes)
-            version(code);
-    }
+    void versions();
     void version(int code);
     void userVersion(int code);
     void referenceModules();
@@ -62,13 +51,19 @@ private:
 
 void Check::run()
 {
-    versions(kFirstGroup);
+    versions();
     referenceModules();
-    versions(kSecondGroup);
-    for (int slot = 0; slot < kUserVersionCount; ++slot)
-        userVersion(kFirstUserVersion + slot);
-    m_state.installed.z101 = exists(u"\\Data\\z101.dts");
-    versions(kThirdGroup);
+}
+
+void Check::versions()
+{
+    std::vector<VersionRow> rows(versionRows().begin(), versionRows().end());
+    std::ranges::stable_sort(rows, {}, &VersionRow::checked);
+    for (const VersionRow& row : rows)
+        if (row.group == VersionGroup::User)
+            userVersion(row.code);
+        else
+            version(row.code);
 }
 
 void Check::referenceModules()
@@ -80,6 +75,7 @@ void Check::referenceModules()
     installed.mhcc = exists(u"\\data\\mhcc.dts");
     installed.wesley = exists(u"\\data\\Wesley.dts");
     installed.myc = exists(u"\\data\\myc.mdb");
+    installed.z101 = exists(u"\\Data\\z101.dts");
 }
 
 void Check::version(int code)

@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
-static_assert(kUserVersionCount == kUserFontCount);
-
 constexpr int kGridLeftTop = 0;
 constexpr int kGridLeftCenter = 1;
 constexpr int kGridRightTop = 6;
@@ -23,46 +21,6 @@ constexpr int kGridRightCenter = 7;
 // The size at which a user font has the factor 1.
 constexpr double kUserSizeUnit = 10;
 constexpr double kPlainPrintSize = 10;
-// Up to this code the user's main font holds.
-constexpr int kLastMainFontCode = 217;
-
-constexpr QStringView kLeft = u"\\ql";
-constexpr QStringView kRight = u"\\qr";
-constexpr QStringView kLeftToRight = u"\\ltrpar\\ql";
-
-// One row of codes that share a font; an empty family stands for the main font.
-struct FontRow
-{
-    int first = 0;
-    int last = 0;
-    QStringView family;
-    double factor = 1;
-    int rtfFont = 0;
-    QStringView paragraph;
-};
-
-constexpr std::array kFontRows{
-    FontRow{-32768, kLastMainFontCode, {}, 1, 2, kLeftToRight},
-    FontRow{218, 218, u"OrvaneFra", 1, 11, kLeft},
-    FontRow{219, 221, u"OrvaneGrm", 1, 12, kLeft},
-    FontRow{222, 222, u"OrvaneIta", 1, 13, kLeft},
-    FontRow{223, 223, u"OrvaneSpa", 1, 14, kLeft},
-    FontRow{224, 224, u"굴림", 1.2, 3, kLeftToRight},
-    FontRow{225, 225, u"OrvaneSwe", 1, 15, kLeft},
-    FontRow{226, 228, u"굴림", 1, 3, kLeftToRight},
-    FontRow{301, 301, u"OrvaneHeb", 1.6, 8, kRight},
-    FontRow{302, 303, u"OrvaneHebC", 1.6, 9, kRight},
-    FontRow{304, 320, u"OrvaneGrk", 1.2, 10, kLeft},
-    FontRow{401, 401, u"MS Song", 1.2, 16, kLeft},
-};
-
-const FontRow* rowOf(int code)
-{
-    for (const FontRow& row : kFontRows)
-        if (code >= row.first && code <= row.last)
-            return &row;
-    return nullptr;
-}
 
 const UserFont& userFont(int code, const FontSettings& settings)
 {
@@ -80,21 +38,11 @@ VersionFont screenFont(int code, const FontSettings& settings)
         const UserFont& font = userFont(code, settings);
         return {font.font, userFactor(font)};
     }
-    const FontRow* row = rowOf(code);
-    if (row == nullptr)
-        return {u"굴림"_s, 1};
-    return {row->family.isEmpty() ? settings.mainFont : row->family.toString(), row->factor};
+    const Typeface& face = *versionRow(code).face;
+    return {face.family.isEmpty() ? settings.mainFont : face.family.toString(), face.factor};
 }
 
 } // namespace
-
-Script scriptOf(int code)
-{
-    if (isHebrewVersion(code))
-        return Script::Hebrew;
-    const FontRow* row = rowOf(code);
-    return row != nullptr && row->family == u"OrvaneGrk" ? Script::Greek : Script::Other;
-}
 
 QString unicodeText(int code, const QString& stored)
 {
@@ -111,8 +59,10 @@ QString unicodeText(int code, const QString& stored)
 
 QString unicodeOfFont(const QString& stored, const QString& family)
 {
-    const auto row = std::ranges::find(kFontRows, family, &FontRow::family);
-    return row == kFontRows.end() || family.isEmpty() ? stored : unicodeText(row->first, stored);
+    for (const VersionRow& row : versionRows())
+        if (row.script != Script::Other && row.face->family == family)
+            return unicodeText(row.code, stored);
+    return stored;
 }
 
 FontSettings defaultFontSettings()
@@ -142,11 +92,12 @@ std::optional<VersionRtfFont> GetVersionRtfFont(int code, const FontSettings& se
 {
     if (isUserVersion(code))
         return VersionRtfFont{kFirstUserRtfFont + code - kFirstUserVersion,
-                              userFactor(userFont(code, settings)), kLeft.toString()};
-    const FontRow* row = rowOf(code);
-    if (row == nullptr)
+                              userFactor(userFont(code, settings)),
+                              versionRow(code).face->paragraph.toString()};
+    const Typeface& face = *versionRow(code).face;
+    if (face.rtfFont == 0)
         return {};
-    return VersionRtfFont{row->rtfFont, row->factor, row->paragraph.toString()};
+    return VersionRtfFont{face.rtfFont, face.factor, face.paragraph.toString()};
 }
 
 VersionPrintFont GetVersionPrintFont(int code, const FontSettings& settings)
@@ -155,12 +106,11 @@ VersionPrintFont GetVersionPrintFont(int code, const FontSettings& settings)
         const UserFont& font = userFont(code, settings);
         return {font.font, Val(font.size)};
     }
-    // Printing doesn't know the main font, nor any Greek code behind those of the catalogue.
-    constexpr int kLastGreekVersion = 311;
-    const FontRow* row = rowOf(code);
-    if (row == nullptr || row->family.isEmpty() || (row->rtfFont == 10 && code > kLastGreekVersion))
+    // Printing doesn't know the main font.
+    const Typeface& face = *versionRow(code).face;
+    if (face.family.isEmpty() || !face.printed)
         return {u"굴림"_s, kPlainPrintSize};
-    return {row->family.toString(), row->factor * kPlainPrintSize};
+    return {face.family.toString(), face.factor * kPlainPrintSize};
 }
 
 int scaledSize(double factor, int size)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "data/versions.h"
+
 #include <QString>
 
 #include <array>
@@ -8,26 +10,6 @@
 
 namespace lumen {
 
-inline constexpr int kUserVersionCount = 15;
-/// The code of user slot 1; slot i has the code 900 + i.
-inline constexpr int kFirstUserVersion = 901;
-
-/// True for the codes 901 to 915.
-constexpr bool isUserVersion(int code)
-{
-    return code >= kFirstUserVersion && code < kFirstUserVersion + kUserVersionCount;
-}
-
-/// True for the Hebrew versions, which hold a verse in display order: it is divided into lines in
-/// the font of the version.
-constexpr bool isHebrewVersion(int code)
-{
-    return code >= 301 && code <= 303;
-}
-
-/// In which letters a version is stored: Hebrew and Greek as codes of the program's fonts.
-enum class Script { Hebrew, Greek, Other };
-Script scriptOf(int code);
 /// A stored text (unscrambled) as any other program reads it: Hebrew and Greek as Unicode in
 /// reading order.
 QString unicodeText(int code, const QString& stored);
@@ -82,7 +64,7 @@ struct VersionPrintFont
 VersionFont GetVersionFont(int code, const FontSettings& settings);
 /// The same with the alignment 7 for Hebrew and 1 otherwise.
 VersionFont GetVersionFontEx(int code, const FontSettings& settings);
-/// Nothing for a code outside the catalogue's ranges.
+/// Nothing for a code that no version can have.
 std::optional<VersionRtfFont> GetVersionRtfFont(int code, const FontSettings& settings);
 VersionPrintFont GetVersionPrintFont(int code, const FontSettings& settings);
 

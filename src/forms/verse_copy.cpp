@@ -96,14 +96,6 @@ QString htmlDocument(const std::vector<CopiedVerse>& verses, const QString& endi
 
 // RTF
 
-/// Fonts whose bytes a word processor must not take for code page 949.
-bool isWesternFont(const CopiedVerse& verse)
-{
-    const int code = verse.code;
-    return (code >= 218 && code <= 225 && code != 224) || (code >= 301 && code <= 320) ||
-           code >= 906;
-}
-
 QString rtfText(const QString& text, bool western)
 {
     QString rtf;
@@ -132,7 +124,7 @@ public:
     {
         const bool unicode =
             m_originals == OriginalText::Unicode && scriptOf(verse.code) != Script::Other;
-        const bool western = isWesternFont(verse) && !unicode;
+        const bool western = versionRow(verse.code).face->western && !unicode;
         m_body += u"\\pard"_s + paragraph(verse);
         if (!verse.label.isEmpty())
             m_body += u"{\\cf1 "_s + rtfText(verse.label, false) + u'}' +

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "data/app_state.h"
-#include "data/version_catalogue.h"
+#include "data/version_lists.h"
 
 #include <QString>
 

@@ -111,8 +111,8 @@ void Composer::row(const ChapterSource& source, const ChapterVerse& verse)
 
     ComposedRow shown{source.slot, source.code, verse.verse, m_position, 0, 0, verse.cont};
     const QString number = QString::number(verse.verse);
-    // The codes 300 to 303 run from the right: a tab would throw the text to the other side.
-    const QString separator = source.code >= 300 && source.code <= 303 ? u"   "_s : u"\t"_s;
+    // Where the text runs from the right, a tab would throw it to the other side.
+    const QString separator = isHebrewVersion(source.code) ? u"   "_s : u"\t"_s;
     m_rtf += look.font.paragraph +
              u"{\\f5\\fs%1\\cf5 %2}"_s.arg(rtfSizes(m_style.rtf.fontSize).verseNumber).arg(number);
     m_rtf += separator + u"\\f%1\\cf%2\\fs%3 "_s.arg(look.font.font)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "data/version_catalogue.h"
+#include "data/version_lists.h"
 #include "forms/version_choice.h"
 #include "jet/data_control.h"
 #include "reader/chapter_document.h"

@@ -2,6 +2,8 @@
 #include "search/original_query.h"
 
 #include "canon/canon_table.h"
+#include "data/module_path.h"
+#include "data/versions.h"
 #include "search/easy_search.h"
 #include "search/search_scope.h"
 #include "text/basic_text.h"
@@ -84,13 +86,14 @@ QString patternLiteral(const QString& code)
     return literal.replace(u'@', u'?');
 }
 
-QStringView conditionModule(ConditionKind kind, OriginalLanguage language)
+QString conditionModule(ConditionKind kind, OriginalLanguage language)
 {
     if (kind == ConditionKind::Parsing)
-        return u"\\Data\\z103.dts";
+        return u"\\Data\\z103.dts"_s;
     if (kind != ConditionKind::Literal)
-        return u"\\Data\\z102.dts";
-    return language == OriginalLanguage::Hebrew ? u"\\Data\\301.dts" : u"\\Data\\310.dts";
+        return u"\\Data\\z102.dts"_s;
+    return versionFile(versionFor(language == OriginalLanguage::Hebrew ? VersionDuty::HebrewSearch
+                                                                       : VersionDuty::GreekSearch));
 }
 
 QString conditionQuery(ConditionKind kind, OriginalLanguage language, const QString& literal)

@@ -54,7 +54,7 @@ QString conditionLiteral(const QString& word);
 QString patternLiteral(const QString& code);
 
 /// The module that a condition is looked up in, such as "\Data\z102.dts".
-QStringView conditionModule(ConditionKind kind, OriginalLanguage language);
+QString conditionModule(ConditionKind kind, OriginalLanguage language);
 
 /// The query of a condition; `literal` is what conditionLiteral or patternLiteral gave.
 QString conditionQuery(ConditionKind kind, OriginalLanguage language, const QString& literal);

@@ -4,6 +4,7 @@
 #include "canon/verse_index.h"
 #include "data/data_store.h"
 #include "data/module_path.h"
+#include "data/versions.h"
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
 #include "jet/engine.h"
@@ -230,13 +231,15 @@ bool OriginalTab::wasSearched(const QString& strongNumber) const
 void OriginalTab::showKoreanVerse(const QString& key)
 {
     m_results.txBibleVerse->setText({});
-    const auto path = findModule(m_services.files, m_state, u"\\data\\101.dts");
+    const int korean = versionFor(VersionDuty::KoreanVerse);
+    const auto path = findModule(m_services.files, m_state, versionFile(korean));
     if (!path)
         return;
     const auto database =
         m_services.jet.OpenDatabase(*path, false, true, QString::fromUtf16(connect_text::kSearch));
-    const auto verse = database->OpenRecordset(u"select cont from 개역한글 where index like '"_s +
-                                               EscapeLikeText(key, true) + u"'"_s);
+    const auto verse =
+        database->OpenRecordset(u"select cont from "_s + versionRow(korean).name.toString() +
+                                u" where index like '"_s + EscapeLikeText(key, true) + u"'"_s);
     if (verse->RecordCount() > 0)
         m_results.txBibleVerse->setText(m_results.lstResult->Text() + u" ("_s +
                                         DES::UnscrambleField(Text(verse->Fields(u"cont"))) +

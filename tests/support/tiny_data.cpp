@@ -4,7 +4,7 @@
 #include "canon/canon_table.h"
 #include "data/check_data.h"
 #include "data/data_store.h"
-#include "data/version_catalogue.h"
+#include "data/version_lists.h"
 #include "support/module_files.h"
 
 #include <gtest/gtest.h>

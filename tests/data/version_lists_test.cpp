@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "data/version_catalogue.h"
+#include "data/version_lists.h"
 
 #include <gtest/gtest.h>
 

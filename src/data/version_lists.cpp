@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "data/version_catalogue.h"
+#include "data/version_lists.h"
 
 #include "data/messages.h"
-#include "text/rtf_tables.h"
 
 #include <algorithm>
 
@@ -12,16 +11,6 @@ namespace lumen {
 namespace {
 
 constexpr QStringView kAbsentSuffix = u"(없음)";
-// All codes above are the user's own versions and don't come with the disc.
-constexpr int kLastDiscCode = 900;
-
-static_assert([] {
-    for (std::size_t i = 0; i < kVersionCatalogue.size(); ++i)
-        for (std::size_t k = 0; k < i; ++k)
-            if (kVersionCatalogue[i].code == kVersionCatalogue[k].code)
-                return false;
-    return kVersionCatalogue.size() == 49;
-}());
 
 int userSlot(int code)
 {
@@ -48,25 +37,14 @@ QString comboName(int code, bool present, const InstalledFlags& installed)
     return versionName(code, installed) + kAbsentSuffix.toString();
 }
 
-QString menuCaption(int code, bool present, const InstalledFlags& installed)
+QString menuCaption(const VersionRow& row, bool present, const InstalledFlags& installed)
 {
-    if (present || !isUserVersion(code))
-        return versionName(code, installed);
-    const int slot = userSlot(code);
-    return u"사용자역본"_s + QString::number(slot) +
-           (slot <= kKoreanUserFonts ? u" 한글용"_s : u" 영문용"_s);
+    return present ? versionName(row.code, installed) : row.name.toString();
 }
 
-// The codes that a combo offers, in their order.
-QList<int> offeredCodes(const InstalledFlags& installed)
+bool isOffered(const VersionRow& row, const InstalledFlags& installed)
 {
-    QList<int> codes;
-    for (const VersionRow& row : kVersionCatalogue)
-        if (row.offeredWhenAbsent || installed.hasVersion(row.code))
-            codes << row.code;
-    for (int slot = 0; slot < kUserVersionCount; ++slot)
-        codes << kFirstUserVersion + slot;
-    return codes;
+    return row.offered == Offered::Always || installed.hasVersion(row.code);
 }
 
 } // namespace
@@ -75,10 +53,7 @@ QString versionName(int code, const InstalledFlags& installed)
 {
     if (isUserVersion(code))
         return installed.userTables[static_cast<std::size_t>(code - kFirstUserVersion)];
-    for (const VersionRow& row : kVersionCatalogue)
-        if (row.code == code)
-            return row.name.toString();
-    return {};
+    return versionRow(code).name.toString();
 }
 
 QList<VersionItem> SetClassicCombo(const InstalledFlags& installed, int number)
@@ -87,9 +62,11 @@ QList<VersionItem> SetClassicCombo(const InstalledFlags& installed, int number)
     QList<VersionItem> items;
     if (number >= 1)
         items << VersionItem{prefix + u"없음"_s, 0, true, 0};
-    for (const int code : offeredCodes(installed)) {
-        const bool present = installed.hasVersion(code);
-        items << VersionItem{prefix + comboName(code, present, installed), code, present,
+    for (const VersionRow& row : versionRows()) {
+        if (!isOffered(row, installed))
+            continue;
+        const bool present = installed.hasVersion(row.code);
+        items << VersionItem{prefix + comboName(row.code, present, installed), row.code, present,
                              static_cast<int>(items.size())};
     }
     return items;
@@ -101,21 +78,18 @@ QList<VersionTool> SetupMenu(const InstalledFlags& installed, int number)
     if (number >= 1)
         tools << VersionTool{toolId(number, u"없음"_s), u"없음"_s, 0, true, true, 0};
     int itemNumber = number >= 1 ? 1 : 0;
-    const auto add = [&](int code, bool offered, bool visible) {
-        const bool present = installed.hasVersion(code);
-        tools << VersionTool{toolId(number, QString::number(code)),
-                             menuCaption(code, present, installed),
-                             code,
-                             present,
-                             visible,
-                             offered ? itemNumber++ : -1};
-    };
-    for (const VersionRow& row : kVersionCatalogue) {
-        const bool offered = row.offeredWhenAbsent || installed.hasVersion(row.code);
-        add(row.code, offered, offered);
+    for (const VersionRow& row : versionRows()) {
+        const bool present = installed.hasVersion(row.code);
+        const bool offered = isOffered(row, installed);
+        tools << VersionTool{
+            .id = toolId(number, QString::number(row.code)),
+            .caption = menuCaption(row, present, installed),
+            .code = row.code,
+            .enabled = present,
+            .visible = row.group == VersionGroup::User ? present : offered,
+            .itemNumber = offered ? itemNumber++ : -1,
+        };
     }
-    for (int slot = 0; slot < kUserVersionCount; ++slot)
-        add(kFirstUserVersion + slot, true, installed.hasVersion(kFirstUserVersion + slot));
     return tools;
 }
 
@@ -138,14 +112,9 @@ int nextVersionIndex(const QList<VersionItem>& items, int index)
     return index + 1 < items.size() ? index + 1 : 0;
 }
 
-bool comesWithDisc(int code)
-{
-    return code != 203 && (code < 206 || code > 208) && code != 305 && code <= kLastDiscCode;
-}
-
 MessageText absentVersionMessage(int code, AbsentVersion how)
 {
-    if (!comesWithDisc(code))
+    if (versionRow(code).source == Source::Elsewhere)
         return messages::kVersionNotInstalled;
     return how == AbsentVersion::BaseFile ? messages::kInsertCdBase : messages::kInsertCd;
 }
