@@ -2,7 +2,7 @@
 #pragma once
 
 #include "data/app_state.h"
-#include "data/settings_table.h"
+#include "data/settings.h"
 #include "forms/edit_commands.h"
 #include "forms/reader_place.h"
 #include "forms/services.h"

@@ -242,8 +242,7 @@ void frm성서::bindWindowTools()
                [this] { m_windows.open(WindowId::UserVersionPreferences); });
     m_tools.on(u"ID_루멘스크립트에대하여", [this] { m_windows.open(WindowId::About); });
     m_tools.on(u"ID_인터넷", [this] {
-        m_services.registry.OpenKey(settingsPath(settings_key::kBible));
-        const QString own = m_services.registry.GetValue(u"HomePage"_s, ValueKind::String);
+        const QString& own = m_settings.HomePage;
         openPage(own.isEmpty() ? kHomePage : QStringView(own));
     });
     for (const ReferencePage& page : kReferencePages)

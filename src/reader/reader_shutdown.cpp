@@ -49,8 +49,9 @@ void frm성서::SaveBibleSettings()
     m_settings.TabNum = panel->sst관주사전->Tab();
     m_settings.RefBarMode = panel->state();
     saveFormGeometry(m_services.registry, geometry::kBible, *this);
-    saveReaderSettings(m_services.registry, m_settings, m_state.AppPath);
-    m_services.registry.SetValue(u"TableColumns"_s, hflex본문->StretchShares(), ValueKind::String);
+    m_settings.TableColumns = hflex본문->StretchShares();
+    m_settings.Path = m_state.AppPath;
+    saveSettings(m_services.registry, readerTable(), m_settings);
     const Result<Done> stored = m_services.registry.flush();
     m_notStored = stored ? QStringList() : QStringList{stored.failure().detail};
 }

@@ -68,8 +68,7 @@ bool frm성서::Form_Load(StartupProgress& splash)
     splash.setProgress(kProgressColors);
     m_state.fonts.mainFont = m_settings.MainFont;
     applyColors();
-    m_services.registry.OpenKey(settingsPath(settings_key::kBible));
-    hflex본문->setStretchShares(m_services.registry.GetValue(u"TableColumns"_s, ValueKind::String));
+    hflex본문->setStretchShares(m_settings.TableColumns);
     loadPlace();
     loadVersions();
     hflex본문->setTag(u"1"_s);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "data/settings_table.h"
+#include "data/settings.h"
 #include "data/version_font.h"
 #include "reader/chapter_document.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "data/settings.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
@@ -8,7 +9,6 @@
 #include "platform/controls/tab_control.h"
 #include "platform/controls/text_control.h"
 #include "search/original_query.h"
-#include "search/search_settings.h"
 
 #include <QLabel>
 #include <QLineEdit>

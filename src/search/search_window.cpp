@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/search_window.h"
 
+#include "data/settings.h"
 #include "forms/form_geometry.h"
 #include "forms/guarded.h"
 #include "forms/page_failure.h"
@@ -14,7 +15,6 @@
 #include "platform/registry/registry_store.h"
 #include "search/messages.h"
 #include "search/right_to_left_typing.h"
-#include "search/search_settings.h"
 #include "search/search_tools.h"
 
 #include <QApplication>
@@ -218,7 +218,7 @@ void frm성서검색::Form_Load()
 {
     m_loading = true;
     Proc시동크기위치설정(m_services.registry, geometry::kBibleSearch, *this);
-    m_settings = readSearchSettings(m_services.registry);
+    m_settings = readSettings(m_services.registry, searchTable());
     m_paged = true;
     sstSearch->setTab(static_cast<int>(SearchTab::Easy));
     Proc성서검색창버전설정();
@@ -251,7 +251,7 @@ void frm성서검색::Form_Unload()
 {
     saveFormGeometry(m_services.registry, geometry::kBibleSearch, *this);
     parsingResults.store(m_settings);
-    saveSearchSettings(m_services.registry, m_settings);
+    saveSettings(m_services.registry, searchTable(), m_settings);
     ignoreFailure(m_services.registry.flush(), "unsaved settings never keep the window open");
     m_search.close();
     m_original.Form_Unload();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "data/app_state.h"
+#include "data/settings.h"
 #include "forms/edit_commands.h"
 #include "forms/services.h"
 #include "forms/version_choice.h"
@@ -20,7 +21,6 @@
 #include "search/result_grid.h"
 #include "search/scope_choice.h"
 #include "search/search_scope.h"
-#include "search/search_settings.h"
 #include "text/hebrew_division.h"
 
 #include <QLabel>

@@ -170,7 +170,11 @@ void dlog환경설정::cmd초기값_Click()
 
 void dlog환경설정::save()
 {
-    savePreferences(m_services.registry, cb본문서체->Text(), shownColors(), shownOptions());
+    ReaderSettings settings;
+    settings.MainFont = cb본문서체->Text();
+    settings.colors = shownColors();
+    settings.copy = shownOptions();
+    saveSettings(m_services.registry, readerTable(), settings, Writer::Preferences);
     if (!m_services.registry.flush())
         m_services.messages.show(this, messages::kSettingsNotSaved);
     guarded(m_services, this, [this] { m_reader.applySettings(); });

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "data/settings_table.h"
+#include "data/settings.h"
 #include "forms/services.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"

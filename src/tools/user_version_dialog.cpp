@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tools/user_version_dialog.h"
 
-#include "data/settings_table.h"
+#include "data/settings.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "platform/dialogs/message_boxes.h"
@@ -132,10 +132,11 @@ void dlogUserVersionPref::layOut()
 
 void dlogUserVersionPref::save()
 {
-    std::array<UserFont, kUserVersionCount> fonts;
+    FontSettings fonts;
     for (int index = 0; index < kUserVersionCount; ++index)
-        fonts[static_cast<std::size_t>(index)] = {cbFont(index)->Text(), cbSize(index)->Text()};
-    saveUserFonts(m_services.registry, fonts);
+        fonts.userFonts[static_cast<std::size_t>(index)] = {cbFont(index)->Text(),
+                                                            cbSize(index)->Text()};
+    saveSettings(m_services.registry, userFontTable(), fonts, Writer::Preferences);
     if (!m_services.registry.flush())
         m_services.messages.show(this, messages::kSettingsNotSaved);
     guarded(m_services, this, [this] { m_reader.applySettings(); });

@@ -157,7 +157,7 @@ void VerseRangeDialog::done(int result)
     m_settings.AtchVerNum = chkVerNum->isChecked();
     m_settings.VerLf = chkVerLf->isChecked();
     m_settings.Tail = chkTail->isChecked();
-    saveExtractSettings(m_services.registry, m_settings);
+    saveSettings(m_services.registry, extractTable(), m_settings);
     saveFormPosition(m_services.registry, geometry::kExtract, *this);
     ignoreFailure(m_services.registry.flush(), "unsaved settings never keep a dialog open");
     dac기본.Close();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "data/settings_table.h"
+#include "data/settings.h"
 #include "support/test_services.h"
 #include "support/tiny_data.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/windows.h"
-#include "data/settings_table.h"
+#include "data/settings.h"
 #include "forms/startup_progress.h"
 #include "platform/controls/twips.h"
 #include "reader/bible_window.h"

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "data/settings_table.h"
+#include "data/settings.h"
 #include "data/window_geometry.h"
 #include "platform/registry/registry_store.h"
 
 #include <gtest/gtest.h>
+
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +14,7 @@ namespace {
 
 constexpr int kTabs = 11;
 
-class SettingsTableTest : public testing::Test
+class SettingsTest : public testing::Test
 {
 protected:
     void set(const QString& name, const QString& text, const QString& key = u"Bible"_s)
@@ -32,7 +34,7 @@ protected:
     RegistryStore registry{QString()};
 };
 
-TEST_F(SettingsTableTest, ValuesOutsideTheirLimitsFallBack)
+TEST_F(SettingsTest, ValuesOutsideTheirLimitsFallBack)
 {
     const auto fontSize = [](const ReaderSettings& s) { return double(s.FontSize); };
     const auto ratio = [](const ReaderSettings& s) { return s.RefBarRatio; };
@@ -99,7 +101,7 @@ TEST_F(SettingsTableTest, ValuesOutsideTheirLimitsFallBack)
     }
 }
 
-TEST_F(SettingsTableTest, AChapterIndexIsCheckedAgainstItsOwnBook)
+TEST_F(SettingsTest, AChapterIndexIsCheckedAgainstItsOwnBook)
 {
     set(u"BookNum"_s, u"30"_s); // one chapter
     set(u"ChapNum"_s, u"1"_s);
@@ -109,11 +111,13 @@ TEST_F(SettingsTableTest, AChapterIndexIsCheckedAgainstItsOwnBook)
     EXPECT_EQ(read().ChapNum, 149);
 }
 
-TEST_F(SettingsTableTest, WhatTheReaderSavesItReadsBack)
+TEST_F(SettingsTest, WhatTheReaderSavesItReadsBack)
 {
-    savePreferences(registry, u"바탕체"_s,
-                    {RGB(1, 2, 3), {RGB(4, 5, 6), 7, 8}, 9, RGB(255, 254, 253)},
-                    {false, false, true, true, false, true});
+    ReaderSettings chosen;
+    chosen.MainFont = u"바탕체"_s;
+    chosen.colors = {RGB(1, 2, 3), {RGB(4, 5, 6), 7, 8}, 9, RGB(255, 254, 253)};
+    chosen.copy = {false, false, true, true, false, true};
+    saveSettings(registry, readerTable(), chosen, Writer::Preferences);
     ReaderSettings settings = read();
     settings.FontSize = 5;
     settings.ViewMode = ViewMode::Table;
@@ -127,7 +131,10 @@ TEST_F(SettingsTableTest, WhatTheReaderSavesItReadsBack)
     settings.TabNum = 3;
     settings.LineSpacing = 200;
     settings.BookToolbar = false;
-    saveReaderSettings(registry, settings, u"C:\\lumenscript"_s);
+    settings.MainFont = u"of the preferences"_s;
+    settings.HomePage = u"of the user"_s;
+    settings.Path = u"C:\\lumenscript"_s;
+    saveSettings(registry, readerTable(), settings);
 
     const ReaderSettings again = read();
     EXPECT_EQ(again.FontSize, 5);
@@ -153,9 +160,58 @@ TEST_F(SettingsTableTest, WhatTheReaderSavesItReadsBack)
     EXPECT_EQ(get(u"DefVerColor"_s), u"197121"_s);
     EXPECT_EQ(get(u"cpaddversion"_s), u"0"_s);
     EXPECT_EQ(get(u"Path"_s), u"C:\\lumenscript"_s);
+    EXPECT_EQ(get(u"HomePage"_s), QString());
 }
 
-TEST_F(SettingsTableTest, WindowsComeUpWhereTheyFitTheScreen)
+TEST_F(SettingsTest, ASizeThatIsNotKnownLeavesTheStoredOne)
+{
+    saveSettings(registry, searchTable(), {.ResultWidth = 3000, .MarkHits = false});
+    saveSettings(registry, searchTable(), {.VerseHeight = 900, .MarkHits = false});
+    set(u"ParsingHeight"_s, u"150001"_s, u"BibleSearch"_s);
+    const SearchSettings again = readSettings(registry, searchTable());
+    EXPECT_EQ(again.ResultWidth, 3000);
+    EXPECT_EQ(again.VerseHeight, 900);
+    EXPECT_EQ(again.ParsingHeight, 0);
+    EXPECT_FALSE(again.MarkHits);
+}
+
+/// The rows of one key as docs/settings.md tells them: name, default.
+template <typename Group>
+void expectToldInTheDocs(const QString& docs, const SettingTable<Group>& table, Group standard)
+{
+    const qsizetype head = docs.indexOf(u"## Key `%1`"_s.arg(table.key));
+    ASSERT_GE(head, 0) << table.key.toString().toStdString();
+    const QString section = docs.mid(head, docs.indexOf(u"\n## "_s, head + 1) - head);
+    for (const SettingRow<Group>& row : table.rows) {
+        const QString name = u'`' + settingName(row.name, 0) + u'`';
+        SCOPED_TRACE(name.toStdString());
+        QStringList columns;
+        for (const QString& line : section.split(u'\n'))
+            if (line.startsWith(u"| `"_s) && line.section(u'|', 1, 1).contains(name))
+                columns = line.split(u'|');
+        ASSERT_GE(columns.size(), 4);
+        const QString told = columns.at(3).trimmed();
+        const QString value = settingText(row.place(standard, 0));
+        const bool isKept = !value.isEmpty() && !row.rule.absentAsZero && value != u"-1"_s;
+        EXPECT_TRUE(!isKept || told.startsWith(value) || told == u'0' + value)
+            << told.toStdString();
+    }
+}
+
+TEST_F(SettingsTest, TheDocumentationTellsEachValueWithItsDefault)
+{
+    QFile file(QStringLiteral(LUMEN_SETTINGS_DOC));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString docs = QString::fromUtf8(file.readAll());
+    expectToldInTheDocs(docs, readerTable(), {});
+    expectToldInTheDocs(docs, userFontTable(), defaultFontSettings());
+    expectToldInTheDocs(docs, searchTable(), {});
+    expectToldInTheDocs(docs, extractTable(), {});
+    expectToldInTheDocs(docs, previewTable(), {});
+    expectToldInTheDocs(docs, mailTable(), {});
+}
+
+TEST_F(SettingsTest, WindowsComeUpWhereTheyFitTheScreen)
 {
     struct Row
     {
