@@ -5,6 +5,7 @@
 // the original languages' fonts in those.
 #include "canon/canon_table.h"
 #include "data/check_data.h"
+#include "jet/data_control.h"
 #include "panel/reference_panel.h"
 #include "panel/word_analysis_tab.h"
 #include "support/fake_reader.h"
@@ -74,7 +75,8 @@ public:
             writeDictionary(test.folders.data(u"StrongDicG.dts"_s), u"TDNT"_s);
         }
         CheckData(test.state, test.files, test.jet);
-        auto made = std::make_unique<WordAnalysisTab>(test.services, test.state, reader, dacRefTab);
+        auto made = std::make_unique<WordAnalysisTab>(
+            PanelHost{test.services, test.state, reader, dacRefTab});
         tab = made.get();
         panel.addTab(std::move(made));
         panel.resize(900, 700);

@@ -2,13 +2,11 @@
 #include "panel/cross_references.h"
 
 #include "canon/verse_index.h"
-#include "data/data_store.h"
-#include "data/module_path.h"
 #include "data/version_font.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "forms/wait_pointer.h"
-#include "jet/engine.h"
+#include "jet/data_control.h"
 #include "text/field_scramble.h"
 
 #include <QHBoxLayout>
@@ -37,10 +35,8 @@ QStringList keysOf(const QString& references)
 
 } // namespace
 
-CrossReferences::CrossReferences(Services& services, const AppState& state, ReaderPlace& reader,
-                                 DataControl& dacRefTab, BaseModule baseModule)
-    : m_page(new QWidget), m_services(services), m_state(state), m_reader(reader),
-      m_dacRefTab(dacRefTab), m_baseModule(std::move(baseModule))
+CrossReferences::CrossReferences(const PanelHost& host)
+    : ModuleTab(host, kModule, &InstalledFlags::cRef)
 {
     lst정렬->setSorted(true);
     lst정렬->setParent(m_page);
@@ -49,25 +45,21 @@ CrossReferences::CrossReferences(Services& services, const AppState& state, Read
     layout->addWidget(lst관주목록, 1);
     layout->addWidget(tx관주본문, 2);
 
-    lst관주목록->onClick = [this] { guarded(m_services, m_page, [this] { DispCRefCont(); }); };
+    lst관주목록->onClick = [this] { guarded(m_host.services, m_page, [this] { DispCRefCont(); }); };
     lst관주목록->onDblClick = [this] { openChosen(); };
     tx관주본문->onResizeEnded = [this] {
         // The lines of a Hebrew verse are cut to the width of the box.
-        if (isHebrewVersion(m_reader.versionCode(0)))
-            guarded(m_services, m_page, [this] { DispCRefCont(); });
+        if (isHebrewVersion(m_host.reader.versionCode(0)))
+            guarded(m_host.services, m_page, [this] { DispCRefCont(); });
     };
 }
 
 void CrossReferences::Proc관주표시()
 {
-    m_page->setEnabled(m_state.installed.cRef);
-    if (!m_state.installed.cRef) {
-        setStatus(QString());
+    if (!takeStock())
         return;
-    }
-    const Place place{BibleCode::GetChapKey(m_reader.book(), m_reader.chapter()),
-                      m_reader.GetCurVerse()};
-    if (place.verse < 1)
+    const std::optional<VersePlace> place = readerPlace();
+    if (!place)
         return;
     if (place == m_shown) {
         // "관주 없음" is an item too: coming back to such a verse tells 1.
@@ -79,22 +71,13 @@ void CrossReferences::Proc관주표시()
     m_shown = place;
     // Before the query: one that fails leaves no references of another verse.
     ClearCRefArea();
-    openReferences(place);
-    const Recordset& rows = *m_dacRefTab.Recordset();
-    if (rows.RecordCount() > 0 && !Text(m_dacRefTab.Recordset()->Fields(u"cref")).isEmpty())
+    Recordset& rows = ask(u"select cref from cref where chap = '"_s +
+                          BibleCode::GetChapKey(place->book, place->chapter) + u"' and verse = "_s +
+                          QString::number(place->verse));
+    if (rows.RecordCount() > 0 && !Text(rows.Fields(u"cref")).isEmpty())
         FillCRefArea();
     else
         lst관주목록->AddItem(kNoReferences.toString());
-}
-
-void CrossReferences::openReferences(const Place& place)
-{
-    m_dacRefTab.DatabaseName = modulePath(m_services.files, m_state, kModule);
-    m_dacRefTab.Connect = QString::fromUtf16(connect_text::kDataControl);
-    m_dacRefTab.ReadOnly = true;
-    m_dacRefTab.RecordSource = u"select cref from cref where chap = '"_s + place.chapter +
-                               u"' and verse = "_s + QString::number(place.verse);
-    m_dacRefTab.Refresh();
 }
 
 void CrossReferences::ClearCRefArea()
@@ -102,12 +85,12 @@ void CrossReferences::ClearCRefArea()
     lst관주목록->Clear();
     lst정렬->Clear();
     tx관주본문->setText(QString());
-    setStatus(QString());
+    tell(QString());
 }
 
 void CrossReferences::FillCRefArea()
 {
-    Recordset& rows = *m_dacRefTab.Recordset();
+    Recordset& rows = *m_host.dacRefTab.Recordset();
     rows.MoveFirst();
     lst정렬->Clear();
     for (const QString& key : keysOf(DES::UnscrambleField(Text(rows.Fields(u"cref")))))
@@ -122,7 +105,7 @@ void CrossReferences::FillCRefArea()
 
 void CrossReferences::tellCount()
 {
-    setStatus(u"검색된 관주 수: "_s + QString::number(lst관주목록->ListCount()));
+    tell(u"검색된 관주 수: "_s + QString::number(lst관주목록->ListCount()));
 }
 
 void CrossReferences::DispCRefCont()
@@ -132,17 +115,17 @@ void CrossReferences::DispCRefCont()
         return;
     const WaitPointer wait;
     const std::optional<QString> verse = readVerse(BibleCode::RefToIndex(reference));
-    showText(verse.value_or(QString()), m_reader.versionCode(0));
+    showText(verse.value_or(QString()), m_host.reader.versionCode(0));
 }
 
 std::optional<QString> CrossReferences::readVerse(const QString& key) const
 {
     // By a recordset of its own: the one of the data control is the chapter that the reader shows,
     // and moves and bookmarks count its rows.
-    Database* const module = m_baseModule();
+    Database* const module = m_host.baseModule();
     if (module == nullptr || module->isClosed())
         return {};
-    const auto rows = module->OpenRecordset(u"select * from ["_s + m_reader.versionName(0) +
+    const auto rows = module->OpenRecordset(u"select * from ["_s + m_host.reader.versionName(0) +
                                             u"] where index = '"_s + key + u"'"_s);
     if (rows->RecordCount() == 0)
         return {};
@@ -151,7 +134,7 @@ std::optional<QString> CrossReferences::readVerse(const QString& key) const
 
 void CrossReferences::showText(const QString& verse, int code)
 {
-    const VersionFont versionFont = GetVersionFont(code, m_state.fonts);
+    const VersionFont versionFont = GetVersionFont(code, m_host.state.fonts);
     const int points = scaledSize(versionFont.factor, kTextPoints);
     QFont font(versionFont.font);
     font.setPointSize(points);
@@ -170,7 +153,7 @@ void CrossReferences::openChosen()
     if (reference.isEmpty() || reference == kNoReferences)
         return;
     const VersePlace place = BibleCode::ParseRef(reference);
-    m_reader.goTo(place.book, place.chapter, place.verse);
+    m_host.reader.goTo(place.book, place.chapter, place.verse);
 }
 
 } // namespace lumen

@@ -2,8 +2,6 @@
 #include "panel/word_analysis_tab.h"
 
 #include "canon/verse_index.h"
-#include "data/data_store.h"
-#include "data/module_path.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "forms/wait_pointer.h"
@@ -30,17 +28,15 @@ constexpr int kLargestNumber = 99999;
 
 } // namespace
 
-WordAnalysisTab::WordAnalysisTab(Services& services, const AppState& state,
-                                 const ReaderPlace& reader, DataControl& dacRefTab)
-    : m_page(new QWidget), m_services(services), m_state(state), m_reader(reader),
-      m_dacRefTab(dacRefTab), m_analysis(services, state,
-                                         {.grid = *flex원전분해,
-                                          .txParsing = *txParsing,
-                                          .dictionary = *tx스트롱,
-                                          .popUpEditMenu = [this] {
-                                              if (popUpEditMenu)
-                                                  popUpEditMenu();
-                                          }})
+WordAnalysisTab::WordAnalysisTab(const PanelHost& host)
+    : ModuleTab(host, kModule, &InstalledFlags::z101), m_analysis(host.services, host.state,
+                                                                  {.grid = *flex원전분해,
+                                                                   .txParsing = *txParsing,
+                                                                   .dictionary = *tx스트롱,
+                                                                   .popUpEditMenu = [this] {
+                                                                       if (m_host.popUpEditMenu)
+                                                                           m_host.popUpEditMenu();
+                                                                   }})
 {
     // Digits and the point alone, of which the integer part counts; the keys that edit pass.
     txCodeNum->setValidator(
@@ -95,34 +91,23 @@ void WordAnalysisTab::wire()
 
 void WordAnalysisTab::enter()
 {
-    setStatus(QString());
-    m_page->setEnabled(m_state.installed.z101);
+    tell(QString());
+    takeStock();
     Proc원전분해표시();
 }
 
 void WordAnalysisTab::Proc원전분해표시()
 {
-    if (!m_state.installed.z101)
-        return;
-    const Place place{BibleCode::GetChapKey(m_reader.book(), m_reader.chapter()),
-                      m_reader.GetCurVerse()};
-    if (place.verse < 1 || place == m_shown)
+    const std::optional<VersePlace> place = readerPlace();
+    if (!m_host.state.installed.z101 || !place || place == m_shown)
         return;
     m_shown = place;
     const WaitPointer wait;
-    openVerse(place);
-    if (m_dacRefTab.Recordset()->RecordCount() > 0)
-        m_analysis.Proc원전분해결과채우기(*m_dacRefTab.Recordset(), testamentOf(m_reader.book()));
-}
-
-void WordAnalysisTab::openVerse(const Place& place)
-{
-    m_dacRefTab.DatabaseName = modulePath(m_services.files, m_state, kModule);
-    m_dacRefTab.Connect = QString::fromUtf16(connect_text::kDataControl);
-    m_dacRefTab.ReadOnly = true;
-    m_dacRefTab.RecordSource = u"select * from 원전분해 where chap = '"_s + place.chapter +
-                               u"' and verse = "_s + QString::number(place.verse);
-    m_dacRefTab.Refresh();
+    Recordset& rows = ask(u"select * from 원전분해 where chap = '"_s +
+                          BibleCode::GetChapKey(place->book, place->chapter) + u"' and verse = "_s +
+                          QString::number(place->verse));
+    if (rows.RecordCount() > 0)
+        m_analysis.Proc원전분해결과채우기(rows, testamentOf(place->book));
 }
 
 void WordAnalysisTab::entryShown(const std::optional<QString>& number)
@@ -130,7 +115,7 @@ void WordAnalysisTab::entryShown(const std::optional<QString>& number)
     cmd원어관주->setEnabled(number.has_value());
     txCodeNum->setText(number.value_or(QString()));
     if (!number) {
-        setStatus(QString());
+        tell(QString());
         return;
     }
     // The arrows go on from the entry on show.
@@ -140,17 +125,17 @@ void WordAnalysisTab::entryShown(const std::optional<QString>& number)
 
 void WordAnalysisTab::lookUp(int number)
 {
-    guarded(m_services, m_page, [this, number] {
+    guarded(m_host.services, m_page, [this, number] {
         const WaitPointer wait;
-        m_analysis.entry().Proc스트롱사전표시(number, testamentOf(m_reader.book()));
+        m_analysis.entry().Proc스트롱사전표시(number, testamentOf(m_host.reader.book()));
     });
 }
 
 void WordAnalysisTab::openList()
 {
-    const bool hebrew = testamentOf(m_reader.book()) == Testament::Old;
-    if (onStrongList)
-        onStrongList(hebrew ? u"히브리어"_s : u"헬라어"_s, txCodeNum->text());
+    const bool hebrew = testamentOf(m_host.reader.book()) == Testament::Old;
+    if (m_host.openStrongList)
+        m_host.openStrongList(hebrew ? u"히브리어"_s : u"헬라어"_s, txCodeNum->text());
 }
 
 } // namespace lumen

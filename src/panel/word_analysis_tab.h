@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "panel/panel_tab.h"
+#include "panel/module_tab.h"
 #include "panel/word_analysis.h"
 #include "platform/controls/flat_spin.h"
 #include "platform/controls/flex_grid.h"
@@ -10,25 +10,19 @@
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QWidget>
 
 #include <optional>
 
 namespace lumen {
 
-class ReaderPlace;
-
 /// The tab "원전분해": the reader's verse word by word, with analysis and dictionary of the chosen
 /// word and a box that looks up any Strong's number.
-class WordAnalysisTab : public PanelTab
+class WordAnalysisTab : public ModuleTab
 {
 public:
-    /// `dacRefTab` is shared by the tabs and pointed anew by each.
-    WordAnalysisTab(Services& services, const AppState& state, const ReaderPlace& reader,
-                    DataControl& dacRefTab);
+    explicit WordAnalysisTab(const PanelHost& host);
 
     QStringView caption() const override { return panel_caption::kWordAnalysis; }
-    QWidget* page() override { return m_page; }
     void enter() override;
     void showPlace() override { Proc원전분해표시(); }
 
@@ -36,16 +30,6 @@ public:
     /// as it was.
     void Proc원전분해표시();
 
-    /// The verses of a Strong's number are asked for: language "히브리어" or "헬라어", the number
-    /// as the box holds it.
-    std::function<void(const QString& language, const QString& number)> onStrongList;
-    /// The right button was used on the grid.
-    std::function<void()> popUpEditMenu;
-
-private:
-    QWidget* m_page; // before the controls, which it takes over
-
-public:
     FlexGrid* flex원전분해 = named<FlexGrid>(u"flex원전분해", u"원전분해");
     TextControl* txParsing = named<TextControl>(u"txParsing", u"파싱");
     TextControl* tx스트롱 = named<TextControl>(u"tx스트롱", u"스트롱 사전");
@@ -54,27 +38,14 @@ public:
     QPushButton* cmd원어관주 = named<QPushButton>(u"cmd원어관주", u"원어 관주(&W)");
 
 private:
-    struct Place
-    {
-        QString chapter;
-        int verse = 0;
-
-        friend bool operator==(const Place&, const Place&) = default;
-    };
-
     void layOut();
     void wire();
-    void openVerse(const Place& place);
     void entryShown(const std::optional<QString>& number);
     void lookUp(int number);
     void openList();
 
-    Services& m_services;
-    const AppState& m_state;
-    const ReaderPlace& m_reader;
-    DataControl& m_dacRefTab;
     WordAnalysis m_analysis;
-    std::optional<Place> m_shown; ///< what was asked for last
+    std::optional<VersePlace> m_shown; ///< what was asked for last
 };
 
 } // namespace lumen

@@ -7,8 +7,8 @@
 #include "forms/guarded.h"
 #include "forms/tool_icons.h"
 #include "forms/window_opener.h"
-#include "panel/cross_references.h"
-#include "panel/word_analysis_tab.h"
+#include "panel/panel_host.h"
+#include "panel/panel_tabs.h"
 #include "platform/controls/combo_habits.h"
 #include "platform/controls/twips.h"
 #include "reader/personal_notes_tab.h"
@@ -175,14 +175,16 @@ void frm성서::wirePanes()
     };
 
     panel->addTab(std::make_unique<PersonalNotesTab>(m_services, m_state, *this, m_dacPersnote));
-    panel->addTab(std::make_unique<CrossReferences>(
-        m_services, m_state, *this, m_dacRefTab, [this] { return m_slots.dacBasis().Database(); }));
-    auto words = std::make_unique<WordAnalysisTab>(m_services, m_state, *this, m_dacRefTab);
-    words->onStrongList = [this](const QString& language, const QString& number) {
-        m_windows.openStrongList(language, number);
-    };
-    words->popUpEditMenu = [this] { atbar.popUp(u"ID_편집"); };
-    panel->addTab(std::move(words));
+    addPanelTabs(*panel, {.services = m_services,
+                          .state = m_state,
+                          .reader = *this,
+                          .dacRefTab = m_dacRefTab,
+                          .baseModule = [this] { return m_slots.dacBasis().Database(); },
+                          .openStrongList =
+                              [this](const QString& language, const QString& number) {
+                                  m_windows.openStrongList(language, number);
+                              },
+                          .popUpEditMenu = [this] { atbar.popUp(u"ID_편집"); }});
     panel->onStatus = [this](const QString& text) { statusPanel1->setText(text); };
     panel->onLayout = [this] { layOutPanel(); };
     m_split->onMoved = [this] {

@@ -2,6 +2,7 @@
 #include "canon/verse_index.h"
 #include "data/check_data.h"
 #include "data/data_store.h"
+#include "jet/data_control.h"
 #include "jet/error.h"
 #include "panel/cross_references.h"
 #include "panel/reference_panel.h"
@@ -54,7 +55,11 @@ protected:
         CheckData(world.state, world.files, world.jet);
         stand(101, u"개역한글"_s);
         auto made = std::make_unique<CrossReferences>(
-            world.services, world.state, reader, dacRefTab, [this] { return dacBasis.Database(); });
+            PanelHost{.services = world.services,
+                      .state = world.state,
+                      .reader = reader,
+                      .dacRefTab = dacRefTab,
+                      .baseModule = [this] { return dacBasis.Database(); }});
         tab = made.get();
         panel.onStatus = [this](const QString& text) { status = text; };
         panel.addTab(std::move(made));

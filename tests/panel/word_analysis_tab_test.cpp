@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/check_data.h"
+#include "jet/data_control.h"
 #include "jet/error.h"
 #include "panel/reference_panel.h"
 #include "panel/word_analysis_tab.h"
@@ -94,12 +95,15 @@ protected:
         writeDictionary(world.folders.data(u"StrongDicH.dts"_s), u"TWOT"_s, u"ba"_s);
         writeDictionary(world.folders.data(u"StrongDicG.dts"_s), u"TDNT"_s, u"lo3goj"_s);
         CheckData(world.state, world.files, world.jet);
-        auto made =
-            std::make_unique<WordAnalysisTab>(world.services, world.state, reader, dacRefTab);
+        auto made = std::make_unique<WordAnalysisTab>(PanelHost{
+            .services = world.services,
+            .state = world.state,
+            .reader = reader,
+            .dacRefTab = dacRefTab,
+            .openStrongList = [this](const QString& language,
+                                     const QString& number) { lists << language + u' ' + number; },
+            .popUpEditMenu = [this] { ++menus; }});
         tab = made.get();
-        tab->onStrongList = [this](const QString& language, const QString& number) {
-            lists << language + u' ' + number;
-        };
         panel.onStatus = [this](const QString& text) { status = text; };
         panel.addTab(std::move(made));
         panel.resize(1000, 500);
@@ -139,6 +143,7 @@ protected:
     QStringList lists;
     DataControl dacRefTab{world.jet};
     QString status;
+    int menus = 0;
     WordAnalysisTab* tab = nullptr;
     ReferencePanel panel{world.services};
 };
@@ -251,8 +256,6 @@ TEST_F(WordAnalysisTabTest, DoubleClickAndButtonAskForTheListOfVerses)
     goTo(kJohn, 1);
     QTest::mouseClick(tab->cmd원어관주, Qt::LeftButton);
     EXPECT_EQ(lists.last(), u"헬라어 8853"_s);
-    int menus = 0;
-    tab->popUpEditMenu = [&menus] { ++menus; };
     click(1, 1, Qt::RightButton);
     EXPECT_EQ(menus, 1);
 }

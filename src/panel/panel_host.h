@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace lumen {
+
+class DataControl;
+class Database;
+class ReaderPlace;
+struct AppState;
+struct Services;
+
+/// What the tabs ask of the window that holds the panel.
+struct PanelHost
+{
+    Services& services;
+    const AppState& state;
+    ReaderPlace& reader;
+    DataControl& dacRefTab; ///< shared by the tabs and pointed anew by each
+    /// The open module of the base version, nullptr while there is none.
+    std::function<Database*()> baseModule = {};
+    /// The verses of a Strong's number are asked for.
+    std::function<void(const QString& language, const QString& number)> openStrongList = {};
+    /// The right button was used on what can be copied.
+    std::function<void()> popUpEditMenu = {};
+};
+
+} // namespace lumen

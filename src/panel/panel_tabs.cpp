@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "panel/panel_tabs.h"
+
+#include "panel/cross_references.h"
+#include "panel/reference_panel.h"
+#include "panel/word_analysis_tab.h"
+
+#include <array>
+#include <memory>
+
+namespace lumen {
+namespace {
+
+template <typename Tab>
+std::unique_ptr<PanelTab> made(const PanelHost& host)
+{
+    return std::make_unique<Tab>(host);
+}
+
+constexpr std::array kMakers{
+    made<CrossReferences>,
+    made<WordAnalysisTab>,
+};
+
+} // namespace
+
+void addPanelTabs(ReferencePanel& panel, const PanelHost& host)
+{
+    for (const auto make : kMakers)
+        panel.addTab(make(host));
+}
+
+} // namespace lumen
