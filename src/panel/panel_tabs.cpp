@@ -3,6 +3,7 @@
 
 #include "panel/cross_references.h"
 #include "panel/reference_panel.h"
+#include "panel/unit_converter.h"
 #include "panel/word_analysis_tab.h"
 
 #include <array>
@@ -20,6 +21,7 @@ std::unique_ptr<PanelTab> made(const PanelHost& host)
 constexpr std::array kMakers{
     made<CrossReferences>,
     made<WordAnalysisTab>,
+    made<UnitConverter>,
 };
 
 } // namespace
