@@ -12,9 +12,6 @@ namespace lumen {
 class Connection; // the shared SQLite connection of one file; connection.h
 class OpenRecordsets;
 
-/// What a table recordset needs to be told apart from a query.
-enum class RecordsetType { Automatic, Table, Dynaset };
-
 struct TableDef
 {
     QString Name;

@@ -5,7 +5,6 @@
 #include "jet/connection_pool.h"
 #include "jet/error.h"
 #include "jet/import/conversion.h"
-#include "jet/import/openable_store.h"
 #include "jet/store/compact.h"
 #include "platform/log.h"
 
@@ -16,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace lumen {
 
-JetEngine::JetEngine(const PathResolver& paths, JetEngineOptions options)
+JetEngine::JetEngine(const PathResolver& paths, ImportOptions options)
     : m_paths(paths), m_options(std::move(options)),
       m_pool(std::make_unique<ConnectionPool>([this](const JetError& error) {
           qCWarning(jetLog) << "writes were undone:" << error.what();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "jet/database.h"
+#include "jet/import/openable_store.h"
 #include "platform/open_files.h"
 #include "platform/path_resolver.h"
 
@@ -13,18 +14,7 @@
 namespace lumen {
 
 class ConnectionPool;
-class ImportTalk;
 class JetError;
-
-/// Where the engine finds its import program and keeps what it converted.
-struct JetEngineOptions
-{
-    /// Native path of lumen-modules; "" looks beside the program, then in the libexec folder.
-    QString importProgram;
-    QString cacheFolder; ///< native; "" is $XDG_CACHE_HOME/lumenscript/modules
-    /// Without one nothing incomplete takes the place of a user database, and nobody is told.
-    ImportTalk* talk = nullptr;
-};
 
 /// The database engine (the DBEngine of the program). Paths go through the resolver. A genuine
 /// Jet file is converted on opening: a module into the cache folder, a user database in place after
@@ -32,7 +22,7 @@ struct JetEngineOptions
 class JetEngine : public OpenFiles
 {
 public:
-    explicit JetEngine(const PathResolver& paths, JetEngineOptions options = {});
+    explicit JetEngine(const PathResolver& paths, ImportOptions options = {});
     ~JetEngine() override;
 
     /// 3024 no file, 3343 no database, 3031 password, 3045 when `exclusive` and open already.
@@ -78,7 +68,7 @@ private:
     QString storeOf(const QString& native, const QString& password);
 
     const PathResolver& m_paths;
-    JetEngineOptions m_options;
+    ImportOptions m_options;
     std::unique_ptr<ConnectionPool> m_pool;
     std::function<void(const JetError&)> m_commitFailed;
     bool m_opening = false;

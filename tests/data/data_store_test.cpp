@@ -259,7 +259,7 @@ TEST_F(DataStoreTest, OnlyDamageKeepsAGenuineFileFromBeingTakenForSound)
 {
     ASSERT_TRUE(services.files.writeAll(path(u"myc.mdb"_s),
                                         JetHeaderMaker(1).jet4Password({}, 38143).page()));
-    JetEngineOptions options;
+    ImportOptions options;
     ImpatientUser user;
     options.talk = &user;
     options.importProgram = services.folders.root() + u"/import.sh"_s;

@@ -71,7 +71,7 @@ protected:
         }
     }
 
-    JetEngineOptions options;
+    ImportOptions options;
 
 private:
     QTemporaryDir m_root;

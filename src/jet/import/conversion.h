@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "jet/store/store_writer.h"
+#include "jet/store/file_policy.h"
 
 #include <QString>
 #include <QStringList>

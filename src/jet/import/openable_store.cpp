@@ -44,7 +44,7 @@ void removeStaleWorkFolders(const QString& folder)
 /// Runs the conversion in a work folder of `folder` and gives the finished store to `place`.
 template <typename Place>
 void convertInto(const QString& folder, const QString& source, const QString& password,
-                 const JetEngineOptions& options, const Place& place)
+                 const ImportOptions& options, const Place& place)
 {
     const QString program =
         options.importProgram.isEmpty() ? findImportProgram() : options.importProgram;
@@ -89,7 +89,7 @@ void keepOriginal(const QString& source, const QString& name)
 }
 
 /// False when something is missing and the user doesn't want it so: all is as before.
-bool convertInPlace(const QString& source, const QString& password, const JetEngineOptions& options)
+bool convertInPlace(const QString& source, const QString& password, const ImportOptions& options)
 {
     const QString folder = QFileInfo(source).absolutePath();
     bool taken = false;
@@ -112,7 +112,7 @@ bool convertInPlace(const QString& source, const QString& password, const JetEng
     return taken;
 }
 
-QString cacheFolderOf(const JetEngineOptions& options)
+QString cacheFolderOf(const ImportOptions& options)
 {
     if (!options.cacheFolder.isEmpty())
         return options.cacheFolder;
@@ -128,7 +128,7 @@ QString cachePrefix(const QString& canonicalPath)
     return QString::fromLatin1(hash.toHex().left(24)) + u'-';
 }
 
-QString cachedStore(const QString& source, const QString& password, const JetEngineOptions& options)
+QString cachedStore(const QString& source, const QString& password, const ImportOptions& options)
 {
     const QFileInfo info(source);
     const QDir folder(cacheFolderOf(options));
@@ -160,7 +160,7 @@ bool isReplaceable(const QString& nativePath)
 } // namespace
 
 QString openableStore(const QString& nativePath, const QString& password,
-                      const JetEngineOptions& options)
+                      const ImportOptions& options)
 {
     if (!QFileInfo(nativePath).isFile())
         throw jetError(ErrorNumber::kFileNotFound, nativePath);

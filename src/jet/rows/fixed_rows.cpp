@@ -4,6 +4,7 @@
 #include "jet/sql/sql_parser.h"
 #include "jet/store/field_types.h"
 #include "jet/store/functions.h"
+#include "jet/store/store_writer.h"
 
 #include <sqlite3.h>
 

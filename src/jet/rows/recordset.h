@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "jet/store/field_types.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -13,21 +15,8 @@ namespace lumen {
 
 class RecordsetState; // keys, rows read ahead, connection; recordset_state.h
 
-/// The column types of a store.
-enum class FieldType {
-    Boolean,
-    Byte,
-    Short,
-    Long,
-    Single,
-    Double,
-    Currency,
-    Date, ///< a double: days since 1899-12-30, the fraction is the time of day
-    Text,
-    Memo,
-    Guid,
-    Binary
-};
+/// What a table recordset needs to be told apart from a query.
+enum class RecordsetType { Automatic, Table, Dynaset };
 
 enum class EditMode { None = 0, Edit = 1, Add = 2 };
 

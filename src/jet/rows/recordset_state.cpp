@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "jet/rows/recordset_state.h"
 
-#include "jet/database.h"
 #include "jet/error.h"
 #include "jet/sql/sql_parser.h"
 #include "platform/log.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "jet/database.h"
 #include "jet/rows/fixed_rows.h"
 #include "jet/rows/keyed_rows.h"
 #include "jet/rows/recordset.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "jet/sql/sql_scope.h"
-#include "jet/store/store_writer.h"
+#include "jet/store/file_policy.h"
 
 #include <QString>
 #include <QVariantList>

@@ -5,6 +5,7 @@
 #include "jet/sql/sql_expression.h"
 #include "jet/store/field_types.h"
 #include "jet/store/sqlite_statement.h"
+#include "jet/store/store_writer.h"
 
 namespace lumen {
 

@@ -3,7 +3,7 @@
 
 #include "jet/sql/sql_scope.h"
 #include "jet/sql/sql_tree.h"
-#include "jet/store/store_writer.h"
+#include "jet/store/file_policy.h"
 
 #include <QByteArray>
 #include <QVariantList>

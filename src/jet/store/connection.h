@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "jet/store/file_policy.h"
 #include "jet/store/statement_cache.h"
 #include "jet/store/store_schema.h"
-#include "jet/store/store_writer.h"
 
 #include <QString>
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "jet/rows/recordset.h"
-
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
@@ -13,6 +11,22 @@
 namespace lumen {
 
 struct ColumnDef;
+
+/// The column types of a store.
+enum class FieldType {
+    Boolean,
+    Byte,
+    Short,
+    Long,
+    Single,
+    Double,
+    Currency,
+    Date, ///< a double: days since 1899-12-30, the fraction is the time of day
+    Text,
+    Memo,
+    Guid,
+    Binary
+};
 
 /// What a declared column type says: "TEXT(50)" is Text of 50 characters.
 struct DeclaredType

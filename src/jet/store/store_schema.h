@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "jet/rows/recordset.h"
+#include "jet/store/field_types.h"
 
 #include <QString>
 #include <QStringList>

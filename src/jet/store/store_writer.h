@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "jet/rows/recordset.h"
+#include "jet/store/field_types.h"
+#include "jet/store/file_policy.h"
 
 #include <QString>
 #include <QStringList>
@@ -11,10 +12,6 @@
 #include <vector>
 
 namespace lumen {
-
-/// How the texts of a store compare: Binary by code point (modules), Text without regard to case
-/// (user databases).
-enum class StoreCompare { Binary, Text };
 
 struct ColumnDef
 {
