@@ -203,7 +203,7 @@ public:
     }
 
     NativePaths paths;
-    JetEngine engine{paths};
+    JetEngine engine{paths, [](const QString&) { return FilePolicy{.readOnly = true}; }};
     QTemporaryDir folder;
     QList<QVariantList> rows;
     std::vector<Bible> bibles;

@@ -5,6 +5,7 @@
 #include "common/arguments.h"
 #include "common/console.h"
 #include "common/row_digest.h"
+#include "data/user_files.h"
 #include "jet/error.h"
 #include "jet/import/conversion.h"
 #include "jet/import/jet_header.h"
@@ -105,7 +106,7 @@ int checkJetFile(const QString& path, const QString& password)
 {
     const QTemporaryDir work;
     const QString store = work.filePath(u"store"_s);
-    convertJetFile({path, store, password, compareOfFile(path)},
+    convertJetFile({path, store, password, filePolicy(path).compare},
                    QCoreApplication::applicationFilePath());
     printLine(u"Jet 데이터베이스입니다. 가져온 내용:"_s);
     return checkStore(store);

@@ -4,6 +4,7 @@
 #include "common/arguments.h"
 #include "common/console.h"
 #include "common/interruption.h"
+#include "data/user_files.h"
 #include "import/jet_conversion.h"
 
 #include <QFileInfo>
@@ -48,7 +49,7 @@ std::optional<StoreCompare> compareFrom(const Arguments& arguments, const QStrin
         return StoreCompare::Text;
     if (word == u"binary"_s)
         return StoreCompare::Binary;
-    return arguments.has(u"compare"_s) ? std::nullopt : std::optional(compareOfFile(source));
+    return arguments.has(u"compare"_s) ? std::nullopt : std::optional(filePolicy(source).compare);
 }
 
 void tellFaults(const JetFaults& faults)

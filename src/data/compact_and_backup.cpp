@@ -20,12 +20,12 @@ QString inData(const QString& appPath, QStringView name)
     return joinedPath(appPath, QString(u"\\Data"_s + name.toString()));
 }
 
-// The path that is tested for a left-over copy; see UserFile::oddTest.
+// The path that is tested for a left-over copy; see Compacting::WithOddTest.
 QString testedCopy(const QString& appPath, const UserFile& file)
 {
-    if (!file.oddTest)
-        return inData(appPath, file.copy);
-    QString path = appPath + u"\\Data"_s + file.copy.toString();
+    if (file.compacting != Compacting::WithOddTest)
+        return inData(appPath, file.copyName());
+    QString path = appPath + u"\\Data"_s + file.copyName();
     return path.replace(u"\\\\"_s, u" \\"_s);
 }
 
@@ -52,7 +52,7 @@ Compaction compactInPlace(const QString& appPath, const UserFile& file, JetEngin
                           FileSystem& files)
 {
     const QString original = inData(appPath, file.name);
-    const QString copy = inData(appPath, file.copy);
+    const QString copy = inData(appPath, file.copyName());
     if (files.FileExists(testedCopy(appPath, file)))
         ignoreFailure(files.DeleteFile(copy), kSilent);
     // A copy left over from an earlier time must not come over the user's file: only one that was
@@ -63,11 +63,6 @@ Compaction compactInPlace(const QString& appPath, const UserFile& file, JetEngin
     if (files.FileExists(copy))
         ignoreFailure(files.DeleteFile(copy), kSilent);
     return compaction;
-}
-
-bool isDatabase(const UserFile& file)
-{
-    return !file.copy.isEmpty();
 }
 
 // Bookmarks are lines of text: a power cut or a bad sector leaves NUL characters in them.
@@ -96,7 +91,7 @@ bool tellsOfDamage(const JetError& error, const QString& nativePath)
 Soundness soundnessOf(const QString& path, const UserFile& file, JetEngine& jet,
                       const FileSystem& files)
 {
-    if (!isDatabase(file))
+    if (!file.isDatabase())
         return isSoundText(path, files) ? Soundness::Sound : Soundness::Damaged;
     try {
         jet.CheckDatabase(path, file.password.toString());
@@ -132,9 +127,9 @@ QString backUp(const QString& appPath, const UserFile& file, JetEngine& jet, Fil
         if (!made)
             return failureText(made);
     }
-    const QString last = folder + file.backup.toString();
+    const QString last = folder + file.name.toString();
     if (files.FileExists(last) && isSound(last, file, jet, files)) {
-        const Result<Done> kept = files.CopyFile(last, folder + file.formerBackup.toString());
+        const Result<Done> kept = files.CopyFile(last, folder + file.formerBackupName());
         if (!kept)
             return failureText(kept);
     }
@@ -145,8 +140,8 @@ QString newestSoundBackup(const QString& appPath, const UserFile& file, JetEngin
                           const FileSystem& files)
 {
     const QString folder = backupFolder(appPath);
-    for (const QStringView name : {file.backup, file.formerBackup}) {
-        const QString path = folder + name.toString();
+    for (const QString& name : {file.name.toString(), file.formerBackupName()}) {
+        const QString path = folder + name;
         if (files.FileExists(path) && !isEmpty(path, files) && isSound(path, file, jet, files))
             return path;
     }
@@ -164,9 +159,10 @@ QString CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine
                          FileSystem& files)
 {
     const QString original = inData(appPath, file.name);
-    const Compaction compaction =
-        isDatabase(file) ? compactInPlace(appPath, file, jet, files) : Compaction::Failed;
-    if (file.backup.isEmpty() || !files.FileExists(original))
+    const Compaction compaction = file.compacting != Compacting::No
+                                      ? compactInPlace(appPath, file, jet, files)
+                                      : Compaction::Failed;
+    if (!file.backedUp || !files.FileExists(original))
         return {};
     // Who has ended the import is not kept waiting by a second one.
     if (compaction == Compaction::Ended)
@@ -182,12 +178,12 @@ std::optional<LostFile> findLostFile(const QString& appPath, const UserFile& fil
     const QString path = inData(appPath, file.name);
     const auto isTaken = [&files](const QString& name) { return files.FileExists(name); };
     LostFile lost{LostFile::Fault::Damaged, path, {}, freeAsideName(path, isTaken)};
-    const QString lastBackup = backupFolder(appPath) + file.backup.toString();
+    const QString lastBackup = backupFolder(appPath) + file.name.toString();
     if (!files.FileExists(path))
         lost.fault = LostFile::Fault::Gone;
     else if (isEmpty(path, files)) {
         lost.fault = LostFile::Fault::Emptied;
-        if (!isDatabase(file) && (!files.FileExists(lastBackup) || isEmpty(lastBackup, files)))
+        if (!file.isDatabase() && (!files.FileExists(lastBackup) || isEmpty(lastBackup, files)))
             return std::nullopt;
     } else if (soundnessOf(path, file, jet, files) != Soundness::Damaged)
         return std::nullopt;

@@ -2,6 +2,7 @@
 #include "data/data_store.h"
 
 #include "data/module_path.h"
+#include "data/user_files.h"
 #include "jet/engine.h"
 #include "jet/error.h"
 #include "jet/store/field_types.h"
@@ -12,56 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace lumen {
 namespace {
-
-constexpr int kTitleLength = 130;
-constexpr int kScratchTables = 11;
-
-/// One file of the first start: where it lies, what its tables are, and its first row if any.
-struct UserStore
-{
-    QString name;
-    StoreCompare compare = StoreCompare::Text;
-    QString password;
-    std::vector<TableSchema> tables;
-    QVariantList firstRow;
-};
-
-ColumnDef key(const QString& name)
-{
-    return {name, FieldType::Long, 0, true};
-}
-
-ColumnDef text(const QString& name)
-{
-    return {name, FieldType::Text};
-}
-
-ColumnDef memo(const QString& name)
-{
-    return {name, FieldType::Memo, 0};
-}
-
-ColumnDef date(const QString& name)
-{
-    return {name, FieldType::Date, 0};
-}
-
-// A field of a record stands there twice, plain for searching and as RTF for showing.
-void addFieldPair(TableSchema& table, const QString& name)
-{
-    table.columns.push_back(memo(name));
-    table.columns.push_back(memo(u"rtf"_s + name));
-}
-
-TableSchema recordTable(const QString& name, const QStringList& fields)
-{
-    TableSchema table{name, {key(u"일련번호"_s), {u"제목"_s, FieldType::Text, kTitleLength}}, {}};
-    table.columns.push_back(memo(u"rtf제목"_s));
-    for (const QString& field : fields)
-        addFieldPair(table, field);
-    table.columns.push_back(text(u"분류"_s));
-    return table;
-}
 
 // An empty record: a title of no characters, the dates, and Null in all else.
 QVariantList emptyRecord(const TableSchema& table, const QDate& today)
@@ -77,83 +28,34 @@ QVariantList emptyRecord(const TableSchema& table, const QDate& today)
     return row;
 }
 
-UserStore notes()
+void write(const UserFile& file, const QString& nativePath, const QDate& today)
 {
-    return {u"myc.mdb"_s,
-            StoreCompare::Text,
-            {},
-            {{u"myc"_s, {text(u"Index"_s), {u"seq"_s, FieldType::Long}, memo(u"note"_s)}, {}}},
-            {}};
-}
-
-UserStore sermons(const QDate& today)
-{
-    TableSchema table = recordTable(u"설교"_s, {u"말씀"_s, u"본문"_s, u"기도"_s, u"요약"_s});
-    table.columns.push_back(date(u"설교일"_s));
-    table.columns.push_back(date(u"작성일"_s));
-    return {u"설교매니저.mdb"_s, StoreCompare::Text, {}, {table}, emptyRecord(table, today)};
-}
-
-UserStore quietTime(const QDate& today)
-{
-    TableSchema table = recordTable(u"QT"_s, {u"말씀"_s, u"본문"_s, u"기도"_s, u"적용"_s});
-    table.columns.push_back(date(u"작성일"_s));
-    return {u"qt.mdb"_s, StoreCompare::Text, {}, {table}, emptyRecord(table, today)};
-}
-
-UserStore addresses()
-{
-    return {u"전자우편주소록.mdb"_s,
-            StoreCompare::Text,
-            {},
-            {{u"전자우편주소록"_s,
-              {key(u"ID"_s), text(u"성명"_s), text(u"전자우편"_s), text(u"메모"_s)},
-              {}}},
-            {}};
-}
-
-UserStore illustrations()
-{
-    return {
-        u"예화.dts"_s,
-        StoreCompare::Text,
-        QString::fromUtf16(kModulePassword),
-        {{u"예화"_s, {key(u"num"_s), text(u"Title"_s), text(u"Category"_s), memo(u"cont"_s)}, {}}},
-        {}};
-}
-
-UserStore searchScratch()
-{
-    UserStore store{
-        u"z199.dts"_s, StoreCompare::Binary, QString::fromUtf16(kModulePassword), {}, {}};
-    for (int i = 0; i < kScratchTables; ++i)
-        store.tables.push_back({u"Table"_s + QString::number(i),
-                                {text(u"Index"_s)},
-                                {{u"PrimaryKey"_s, {u"Index"_s}, true, true}}});
-    return store;
-}
-
-void write(const UserStore& store, const QString& nativePath)
-{
-    StoreWriter writer(nativePath, store.compare);
-    if (!store.password.isEmpty())
-        writer.setPassword(store.password);
-    for (const TableSchema& table : store.tables)
+    StoreWriter writer(nativePath, file.policy.compare);
+    if (!file.password.isEmpty())
+        writer.setPassword(file.password.toString());
+    const std::vector<TableSchema> tables = file.tables();
+    for (const TableSchema& table : tables)
         writer.createTable(table);
-    if (!store.firstRow.isEmpty())
-        writer.addRow(store.tables.front().name, store.firstRow);
+    if (file.beginsWithRecord)
+        writer.addRow(tables.front().name, emptyRecord(tables.front(), today));
     writer.commit();
 }
 
-Result<Done> create(const UserStore& store, const QString& nativePath)
+Result<Done> create(const UserFile& file, const QString& nativePath, const QDate& today)
 {
     try {
-        write(store, nativePath);
+        write(file, nativePath, today);
         return Done{};
     } catch (const JetError& error) {
         qCWarning(dataLog) << "not created:" << nativePath << error.text();
         return Failure{FailureKind::System, nativePath + u": "_s + error.text()};
     }
+}
+
+QString pathOf(const QString& appPath, const UserFile& file)
+{
+    const QStringView name = file.madeAs.isEmpty() ? file.name : file.madeAs;
+    return joinedPath(appPath, u"\\Data"_s + name.toString());
 }
 
 } // namespace
@@ -165,12 +67,11 @@ Result<Done> createUserDatabases(const QString& appPath, FileSystem& files,
     if (!folder)
         return folder;
     Result<Done> outcome = Done{};
-    for (const UserStore& store : {notes(), sermons(today), quietTime(today), addresses(),
-                                   illustrations(), searchScratch()}) {
-        const QString path = joinedPath(appPath, QString(u"\\Data\\"_s + store.name));
-        if (files.FileExists(path))
+    for (const UserFile& file : user_file::kAll) {
+        const QString path = pathOf(appPath, file);
+        if (!file.isDatabase() || files.FileExists(path))
             continue;
-        const Result<Done> created = create(store, paths.nativePath(path));
+        const Result<Done> created = create(file, paths.nativePath(path), today);
         if (!created && outcome)
             outcome = created;
     }
@@ -179,12 +80,10 @@ Result<Done> createUserDatabases(const QString& appPath, FileSystem& files,
 
 Result<Done> createScratchTables(const QString& appPath, const JetEngine& jet)
 {
-    const UserStore store = searchScratch();
-    const QString path =
-        jet.paths().nativePath(joinedPath(appPath, QString(u"\\Data\\"_s + store.name)));
+    const QString path = jet.paths().nativePath(pathOf(appPath, user_file::kSearchScratch));
     if (jet.isOpen(path))
         return Failure{FailureKind::InUse, path};
-    return create(store, path);
+    return create(user_file::kSearchScratch, path, {});
 }
 
 } // namespace lumen

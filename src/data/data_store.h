@@ -12,9 +12,6 @@ namespace lumen {
 class FileSystem;
 class JetEngine;
 
-/// The password of all modules.
-inline constexpr char16_t kModulePassword[] = u"qolvetrinam";
-
 /// The connect strings, one for each way of opening. The engine looks at the password alone, but
 /// the texts stay as they are.
 namespace connect_text {

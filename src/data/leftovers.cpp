@@ -65,10 +65,11 @@ void removeUserLeftovers(const QString& appPath, const QString& settingsFile,
     const QString backups = backupFolder(appPath);
     for (const UserFile& file : user_file::kAll) {
         add(u"\\Data", file.name);
-        add(u"\\Data", file.copy);
-        for (const QStringView backup : {file.backup, file.formerBackup})
-            if (!backup.isEmpty())
-                written.add(paths.nativePath(backups + backup.toString()));
+        if (file.compacting != Compacting::No)
+            add(u"\\Data", file.copyName());
+        if (file.backedUp)
+            for (const QString& backup : {file.name.toString(), file.formerBackupName()})
+                written.add(paths.nativePath(backups + backup));
     }
     add(u"\\Data", kStoreTrial);
     written.add(settingsFile);

@@ -4,7 +4,6 @@
 #include "jet/connect_string.h"
 #include "jet/connection_pool.h"
 #include "jet/error.h"
-#include "jet/import/conversion.h"
 #include "jet/store/compact.h"
 #include "platform/log.h"
 
@@ -15,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace lumen {
 
-JetEngine::JetEngine(const PathResolver& paths, ImportOptions options)
-    : m_paths(paths), m_options(std::move(options)),
+JetEngine::JetEngine(const PathResolver& paths, FilePolicies policies, ImportOptions options)
+    : m_paths(paths), m_policies(std::move(policies)), m_options(std::move(options)),
       m_pool(std::make_unique<ConnectionPool>([this](const JetError& error) {
           qCWarning(jetLog) << "writes were undone:" << error.what();
           if (m_commitFailed)
@@ -40,14 +39,16 @@ QString JetEngine::existingFile(const QString& path) const
     return ConnectionPool::canonical(native);
 }
 
-/// The store to open for a file, in canonical form as the pool compares it.
-QString JetEngine::storeOf(const QString& native, const QString& password)
+/// Where to open a file, in canonical form as the pool compares it.
+ConnectionPlace JetEngine::placeOf(const QString& native, const QString& password)
 {
     // While an import shows its progress, timers run: none of them may begin a second one.
     if (m_opening)
         throw jetError(ErrorNumber::kAlreadyInUse, native);
     const QScopedValueRollback opening(m_opening, true);
-    return ConnectionPool::canonical(openableStore(native, password, m_options));
+    const FilePolicy policy = m_policies(native);
+    const QString store = openableStore({native, password, policy}, m_options);
+    return {native, ConnectionPool::canonical(store), policy};
 }
 
 std::shared_ptr<Connection> JetEngine::connect(const QString& path, const QString& connect)
@@ -58,7 +59,7 @@ std::shared_ptr<Connection> JetEngine::connect(const QString& path, const QStrin
     if (connection && connection->isExclusive())
         throw jetError(ErrorNumber::kAlreadyInUse, native);
     if (!connection)
-        connection = m_pool->open({native, storeOf(native, password)});
+        connection = m_pool->open(placeOf(native, password));
     if (!connection->takesPassword(password))
         throw jetError(ErrorNumber::kWrongPassword, native);
     return connection;
@@ -88,21 +89,21 @@ void JetEngine::CompactDatabase(const QString& src, const QString& dst, const QS
         throw jetError(ErrorNumber::kOpenElsewhere, native);
     const QString given =
         passwordOf(password).value_or(password.isEmpty() ? m_defaultPassword : password);
-    const QString store = storeOf(native, given);
+    const ConnectionPlace place = placeOf(native, given);
     // The copy comes over the original: one made of what merely shows it would lose the rest.
-    if (isUserDatabase(native) && !isScratchDatabase(native) && store != native)
+    if (place.policy.isIrreplaceable() && place.store != native)
         throw jetError(ErrorNumber::kReadOnly, native);
     // Opening it tells whether the password is right and undoes what a crash left.
-    if (!Connection({native, store}, {}).takesPassword(given))
+    if (!Connection(place, {}).takesPassword(given))
         throw jetError(ErrorNumber::kWrongPassword, native);
-    compactStore(store, destination, passwordOf(locale));
+    compactStore(place.store, destination, passwordOf(locale));
 }
 
 void JetEngine::CheckDatabase(const QString& path, const QString& password)
 {
     commitPending(existingFile(path));
     const auto connection = connect(path, password.isEmpty() ? QString() : u";pwd="_s + password);
-    checkStore(storeOf(existingFile(path), password));
+    checkStore(placeOf(existingFile(path), password).store);
 }
 
 void JetEngine::commitAll()

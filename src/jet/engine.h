@@ -14,15 +14,17 @@
 namespace lumen {
 
 class ConnectionPool;
+struct ConnectionPlace;
 class JetError;
 
-/// The database engine (the DBEngine of the program). Paths go through the resolver. A genuine
-/// Jet file is converted on opening: a module into the cache folder, a user database in place after
-/// the original was put aside as "<name>.jet". A user database that can't be replaced is read only.
+/// The database engine (the DBEngine of the program). Paths go through the resolver, `policies`
+/// tells how each file is treated. A genuine Jet file is converted on opening: one that is only
+/// read into the cache folder, any other in place after the original was put aside as "<name>.jet".
+/// One that can't be replaced is read only.
 class JetEngine : public OpenFiles
 {
 public:
-    explicit JetEngine(const PathResolver& paths, ImportOptions options = {});
+    JetEngine(const PathResolver& paths, FilePolicies policies, ImportOptions options = {});
     ~JetEngine() override;
 
     /// 3024 no file, 3343 no database, 3031 password, 3045 when `exclusive` and open already.
@@ -65,9 +67,10 @@ public:
 
 private:
     QString existingFile(const QString& path) const;
-    QString storeOf(const QString& native, const QString& password);
+    ConnectionPlace placeOf(const QString& native, const QString& password);
 
     const PathResolver& m_paths;
+    FilePolicies m_policies;
     ImportOptions m_options;
     std::unique_ptr<ConnectionPool> m_pool;
     std::function<void(const JetError&)> m_commitFailed;

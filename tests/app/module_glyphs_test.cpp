@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
+#include "data/user_files.h"
 #include "data/version_font.h"
 #include "jet/engine.h"
 #include "platform/files/app_fonts.h"
@@ -62,7 +63,7 @@ TEST(ModuleGlyphs, EveryCharacterOfTheBuiltModulesCanBeDrawn)
     if (modules.isEmpty())
         GTEST_SKIP() << "LUMENSCRIPT_MODULES names no folder of modules";
     VirtualDrives drives({modules, {}});
-    JetEngine jet(drives);
+    JetEngine jet(drives, filePolicy, importOptions());
     QStringList fontFolders = programFontFolders(modules);
     fontFolders << QDir(modules).filePath(u"../fonts"_s);
     AppFonts fonts(drives, fontFolders);

@@ -276,12 +276,12 @@ TEST_F(DataStoreTest, OnlyDamageKeepsAGenuineFileFromBeingTakenForSound)
         ASSERT_TRUE(services.files.writeAll(options.importProgram, "#!/bin/sh\n" + each.commands));
         QFile::setPermissions(options.importProgram,
                               QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
-        JetEngine jet(services.drives, options);
+        JetEngine jet(services.drives, filePolicy, options);
         EXPECT_EQ(findLostFile(services.state.AppPath, user_file::kNotes, jet, services.files)
                       .has_value(),
                   each.damaged);
     }
-    JetEngine jet(services.drives, options);
+    JetEngine jet(services.drives, filePolicy, options);
     user.imports = 0;
     EXPECT_EQ(CompactAndBackup(services.state.AppPath, user_file::kNotes, jet, services.files),
               u"");

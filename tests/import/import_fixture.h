@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "data/user_files.h"
 #include "jet/error.h"
 #include "jet/import/openable_store.h"
 #include "platform/path_resolver.h"
@@ -41,6 +42,7 @@ protected:
     {
         ASSERT_TRUE(m_root.isValid());
         QDir(m_root.path()).mkdir(QStringLiteral("data"));
+        options.importProgram = importProgram();
         options.cacheFolder = m_root.filePath(QStringLiteral("cache"));
     }
 
@@ -60,11 +62,17 @@ protected:
         return names;
     }
 
+    /// The store that stands for a file of the program.
+    QString opened(const QString& path, const QString& password = {}) const
+    {
+        return openableStore({path, password, filePolicy(path)}, options);
+    }
+
     /// The error that opening a file ends in, 0 for success.
     int openingError(const QString& path, const QString& password = {}) const
     {
         try {
-            openableStore(path, password, options);
+            opened(path, password);
             return 0;
         } catch (const JetError& error) {
             return error.number();

@@ -245,7 +245,7 @@ TEST_F(JetSampleImportTest, PasswordsOpenTheirFilesAndNothingElseDoes)
         EXPECT_EQ(fileBytes(path), before);
         EXPECT_EQ(filesLeft().size(), 1);
 
-        const StoreInspection store = inspectStore(openableStore(path, password, options));
+        const StoreInspection store = inspectStore(opened(path, password));
         EXPECT_TRUE(store.hasPassword);
         EXPECT_TRUE(store.isOurs);
         EXPECT_TRUE(store.origin.startsWith(u"jet"_s)) << qPrintable(store.origin);
@@ -258,7 +258,7 @@ TEST_F(JetSampleImportTest, PasswordsOpenTheirFilesAndNothingElseDoes)
 TEST_F(JetSampleImportTest, AModuleKeepsItsOrderItsNullsAndItsKeys)
 {
     const QString path = placeSample(u"jet4-module-password.dts"_s, u"201.dts"_s);
-    const QString store = openableStore(path, u"qolvetrinam"_s, options);
+    const QString store = opened(path, u"qolvetrinam"_s);
     QStringList keys;
     QStringList nulls;
     readColumnPair(store, u"KJV"_s, u"index"_s, u"Cont"_s,
@@ -277,7 +277,7 @@ TEST_F(JetSampleImportTest, AUserDatabaseIsTakenOverInPlace)
 {
     const QString path = placeSample(u"sermons-small-made.mdb"_s, u"설교매니저.mdb"_s);
     const QByteArray original = fileBytes(path);
-    EXPECT_EQ(openableStore(path, {}, options), path);
+    EXPECT_EQ(opened(path), path);
     EXPECT_EQ(fileBytes(path + u".jet"_s), original);
     const StoreInspection store = inspectStore(path);
     ASSERT_EQ(store.tables.size(), 1);
@@ -298,7 +298,7 @@ TEST_F(JetSampleImportTest, NewRecordsAreNumberedWhereTheFileNumbersThem)
     const QString path = dataFile(u"myc.mdb"_s);
     writeBytes(path, bytes);
     const NativePaths paths;
-    JetEngine engine(paths, options);
+    JetEngine engine(paths, filePolicy, options);
     const auto database = engine.OpenDatabase(path);
     const auto notes = database->OpenRecordset(u"select * from myc order by seq desc"_s);
     const int highest = Number(notes->Fields(u"seq"));

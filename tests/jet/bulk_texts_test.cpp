@@ -23,8 +23,8 @@ protected:
         QList<QVariantList> rows;
         for (int i = 0; i < kRows; ++i)
             rows << QVariantList{key(i), i % 7 == 0 ? QVariant() : QVariant(u"글 %1"_s.arg(i))};
-        makeStore(u"z199.dts"_s, StoreCompare::Binary, schema, rows);
-        database = open(u"z199.dts"_s);
+        makeStore(u"scratch"_s, StoreCompare::Binary, schema, rows);
+        database = open(u"scratch"_s);
     }
 
     static QString key(int i) { return u"k%1"_s.arg(i, 4, 10, QLatin1Char('0')); }
@@ -96,7 +96,7 @@ TEST_F(BulkTextsTest, WhatCantBeAppendedIsAnErrorAndAddsNothing)
                   database->AppendTexts(u"Keys"_s, u"Index"_s, {u"x"_s, QString(21, u'y')});
               }),
               3163);
-    const auto reader = engine.OpenDatabase(u"z199.dts"_s, false, true);
+    const auto reader = engine.OpenDatabase(u"scratch"_s, false, true);
     EXPECT_EQ(errorOf([&] { reader->AppendTexts(u"Keys"_s, u"Index"_s, {u"x"_s}); }), 3027);
     EXPECT_EQ(count(), kRows);
     database->AppendTexts(u"Keys"_s, u"Index"_s, {u"x"_s});

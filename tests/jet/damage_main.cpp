@@ -6,6 +6,7 @@
 // Each copy is opened and read by a child process with a time limit. Copies that crash a child or
 // keep it busy for too long stay in the folder "damage-trials" of the current directory. Ends with
 // 0 when there were none.
+#include "data/user_files.h"
 #include "jet/engine_fixture.h"
 #include "jet/file_damage.h"
 
@@ -43,7 +44,9 @@ struct Trials
 Ending openAndRead(const QString& folder, const QString& file, const QStringList& passwords)
 {
     const OneFolderPaths paths(folder);
-    JetEngine engine(paths, {.importProgram = {}, .cacheFolder = folder + u"/cache"_s});
+    ImportOptions options = importOptions();
+    options.cacheFolder = folder + u"/cache"_s;
+    JetEngine engine(paths, filePolicy, options);
     for (const QString& password : passwords) {
         try {
             walkDatabase(engine, file, u";pwd="_s + password);

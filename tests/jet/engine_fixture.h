@@ -35,6 +35,16 @@ private:
     QString m_folder;
 };
 
+/// Modules end in .dts and user databases in .mdb, all else is scratch.
+inline FilePolicy policyOf(const QString& nativePath)
+{
+    if (nativePath.endsWith(QLatin1String(".dts"), Qt::CaseInsensitive))
+        return {.readOnly = true};
+    if (nativePath.endsWith(QLatin1String(".mdb"), Qt::CaseInsensitive))
+        return {.compare = StoreCompare::Text};
+    return {.sync = StoreSync::None};
+}
+
 /// The number of the JetError that an action ends with, 0 for none.
 inline int errorOf(const std::function<void()>& action)
 {
@@ -84,7 +94,7 @@ protected:
 
     QTemporaryDir folder;
     OneFolderPaths paths{folder.path()};
-    JetEngine engine{paths};
+    JetEngine engine{paths, policyOf};
 };
 
 } // namespace lumen

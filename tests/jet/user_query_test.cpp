@@ -139,13 +139,13 @@ class ScratchTest : public EngineTest
 protected:
     void SetUp() override
     {
-        StoreWriter writer(path(u"z199.dts"_s), StoreCompare::Binary);
+        StoreWriter writer(path(u"scratch"_s), StoreCompare::Binary);
         for (int i = 0; i <= 10; ++i)
             writer.createTable({.name = u"Table%1"_s.arg(i),
                                 .columns = {{.name = u"Index"_s, .size = 20}},
                                 .indexes = {{u"PrimaryKey"_s, {u"Index"_s}, false, true}}});
         writer.commit();
-        database = open(u"Z199.dts"_s, u";pwd=any"_s);
+        database = open(u"SCRATCH"_s, u";pwd=any"_s);
     }
 
     void add(int table, const QStringList& keys)

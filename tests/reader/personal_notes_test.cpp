@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
+#include "data/user_files.h"
 #include "dying_writer.h"
 #include "jet/data_control.h"
 #include "jet/engine.h"
@@ -38,7 +39,7 @@ protected:
     template <typename Work>
     auto with(Work work)
     {
-        JetEngine engine(world.drives);
+        JetEngine engine(world.drives, filePolicy, importOptions());
         DataControl dacPersnote(engine);
         PersonalNotes notes(dacPersnote, world.state.AppPath + u"\\Data\\myc.mdb"_s);
         return work(notes);
@@ -55,7 +56,7 @@ protected:
     /// The rows of a chapter in the order of the file.
     std::vector<std::pair<int, Note>> rowsAsTheyStand(const QString& chapter)
     {
-        JetEngine engine(world.drives);
+        JetEngine engine(world.drives, filePolicy, importOptions());
         const auto database = engine.OpenDatabase(world.state.AppPath + u"\\Data\\myc.mdb"_s);
         const auto rows =
             database->OpenRecordset(u"select * from myc where index like '"_s + chapter + u"*'"_s);

@@ -3,7 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
-#include "data/data_store.h"
+#include "data/user_files.h"
 #include "text/field_scramble.h"
 
 #include <QDir>

@@ -2,6 +2,7 @@
 #include "support/test_services.h"
 
 #include "data/check_data.h"
+#include "data/user_files.h"
 
 #include <QDir>
 
@@ -48,7 +49,7 @@ QString TestFolders::data(const QString& name) const
 }
 
 TestServices::TestServices(bool withDisc)
-    : drives(driveFolders(folders, withDisc)), jet(drives),
+    : drives(driveFolders(folders, withDisc)), jet(drives, filePolicy, importOptions()),
       files(drives, jet), services{messages, fileDialogs, modal, clock, shell,    clipboard, drives,
                                    files,    processes,   fonts, help,  registry, jet}
 {

@@ -9,7 +9,6 @@
 #include "platform/confined_process.h"
 #include "platform/log.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
@@ -60,41 +59,7 @@ bool waitForEnd(QProcess& child, const QString& source, ImportTalk* talk)
     }
 }
 
-/// Databases whose texts are compared loosely. Hangul of another system comes decomposed.
-bool holdsTheUsersTexts(const QString& nativePath)
-{
-    const QString name =
-        QFileInfo(nativePath).fileName().normalized(QString::NormalizationForm_C).toLower();
-    return name.endsWith(u".mdb"_s) || name == u"예화.dts"_s;
-}
-
 } // namespace
-
-bool isUserDatabase(const QString& nativePath)
-{
-    return holdsTheUsersTexts(nativePath) || isScratchDatabase(nativePath);
-}
-
-bool isScratchDatabase(const QString& nativePath)
-{
-    return QFileInfo(nativePath).fileName().compare(u"z199.dts", Qt::CaseInsensitive) == 0;
-}
-
-StoreCompare compareOfFile(const QString& nativePath)
-{
-    return holdsTheUsersTexts(nativePath) ? StoreCompare::Text : StoreCompare::Binary;
-}
-
-QString findImportProgram()
-{
-    const QString folder = QCoreApplication::applicationDirPath();
-    for (const QString& place : {u"/lumen-modules"_s, u"/../libexec/lumenscript/lumen-modules"_s}) {
-        const QFileInfo program(folder + place);
-        if (program.isFile() && program.isExecutable())
-            return program.absoluteFilePath();
-    }
-    return {};
-}
 
 void convertJetFile(const JetConversion& conversion, const QString& importProgram, ImportTalk* talk)
 {

@@ -10,7 +10,7 @@ namespace lumen {
 
 class ImportTalk;
 
-/// The exit codes of `lumen-modules import`. Whatever else happens to it counts as Damaged.
+/// The exit codes of the import program. Whatever else happens to it counts as Damaged.
 enum class ImportExit {
     Done = 0,
     Failed = 1,
@@ -32,17 +32,6 @@ struct JetConversion
     QString password;
     StoreCompare compare = StoreCompare::Binary;
 };
-
-/// True for the files that the user writes to: .mdb, 예화.dts and z199.dts. All others are modules.
-bool isUserDatabase(const QString& nativePath);
-/// True for z199.dts, the scratch tables: what is lost of them is made anew.
-bool isScratchDatabase(const QString& nativePath);
-/// How the texts of a database compare, told by its file name: as text in .mdb and 예화.dts.
-StoreCompare compareOfFile(const QString& nativePath);
-
-/// The native path of the import program: beside the running program, then in its libexec folder;
-/// "" when there is none.
-QString findImportProgram();
 
 /// Runs the import program on one file, within limits of memory and of computing time by the file's
 /// size, and waits for its end or until `talk` (which may be nullptr) ends it. Throws JetError:

@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -43,21 +42,20 @@ void removeStaleWorkFolders(const QString& folder)
 
 /// Runs the conversion in a work folder of `folder` and gives the finished store to `place`.
 template <typename Place>
-void convertInto(const QString& folder, const QString& source, const QString& password,
-                 const ImportOptions& options, const Place& place)
+void convertInto(const QString& folder, const ImportSource& source, const ImportOptions& options,
+                 const Place& place)
 {
-    const QString program =
-        options.importProgram.isEmpty() ? findImportProgram() : options.importProgram;
-    if (program.isEmpty())
-        throw JetError(
-            ErrorNumber::kNotADatabase,
-            u"데이터베이스를 가져오는 프로그램 lumen-modules를 찾을 수 없습니다: %1"_s.arg(source));
+    if (const QFileInfo program(options.importProgram); !program.isExecutable())
+        throw JetError(ErrorNumber::kNotADatabase,
+                       u"데이터베이스를 가져오는 프로그램 %1을(를) 찾을 수 없습니다: %2"_s.arg(
+                           program.fileName(), source.path));
     removeStaleWorkFolders(folder);
     const QTemporaryDir work(u"%1/%2XXXXXX"_s.arg(folder, kWorkFolder));
     if (!work.isValid())
         throw jetError(ErrorNumber::kWriteFailed, folder);
     const QString made = work.filePath(u"store"_s);
-    convertJetFile({source, made, password, compareOfFile(source)}, program, options.talk);
+    convertJetFile({source.path, made, source.password, source.policy.compare},
+                   options.importProgram, options.talk);
     place(made);
 }
 
@@ -89,35 +87,27 @@ void keepOriginal(const QString& source, const QString& name)
 }
 
 /// False when something is missing and the user doesn't want it so: all is as before.
-bool convertInPlace(const QString& source, const QString& password, const ImportOptions& options)
+bool convertInPlace(const ImportSource& source, const ImportOptions& options)
 {
-    const QString folder = QFileInfo(source).absolutePath();
+    const QString folder = QFileInfo(source.path).absolutePath();
     bool taken = false;
-    convertInto(folder, source, password, options, [&](const QString& made) {
-        const QStringList losses = isScratchDatabase(source) ? QStringList() : lossesOf(made);
+    convertInto(folder, source, options, [&](const QString& made) {
+        const QStringList losses = source.policy.isIrreplaceable() ? lossesOf(made) : QStringList();
         if (!losses.isEmpty() &&
-            (options.talk == nullptr || !options.talk->takesIncomplete(source, losses)))
+            (options.talk == nullptr || !options.talk->takesIncomplete(source.path, losses)))
             return;
-        const QString kept = nameForOriginal(source);
-        keepOriginal(source, kept);
+        const QString kept = nameForOriginal(source.path);
+        keepOriginal(source.path, kept);
         try {
-            replaceFile(made, source);
+            replaceFile(made, source.path);
         } catch (const JetError&) {
             QFile::remove(kept);
             throw;
         }
         taken = true;
-        qCInfo(jetLog) << source << "was converted, the original is" << kept;
+        qCInfo(jetLog) << source.path << "was converted, the original is" << kept;
     });
     return taken;
-}
-
-QString cacheFolderOf(const ImportOptions& options)
-{
-    if (!options.cacheFolder.isEmpty())
-        return options.cacheFolder;
-    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
-           u"/lumenscript/modules"_s;
 }
 
 /// What all cached stores of one source begin with.
@@ -128,20 +118,21 @@ QString cachePrefix(const QString& canonicalPath)
     return QString::fromLatin1(hash.toHex().left(24)) + u'-';
 }
 
-QString cachedStore(const QString& source, const QString& password, const ImportOptions& options)
+QString cachedStore(const ImportSource& source, const ImportOptions& options)
 {
-    const QFileInfo info(source);
-    const QDir folder(cacheFolderOf(options));
+    const QFileInfo info(source.path);
+    const QDir folder(options.cacheFolder);
     const QString prefix = cachePrefix(info.canonicalFilePath());
-    const QString name =
-        u"%1%2-%3.dts"_s.arg(prefix).arg(info.size()).arg(info.lastModified().toMSecsSinceEpoch());
+    const QString name = u"%1%2-%3.store"_s.arg(prefix)
+                             .arg(info.size())
+                             .arg(info.lastModified().toMSecsSinceEpoch());
     const QString store = folder.filePath(name);
     if (databaseKind(readDatabaseHead(store)) == DatabaseKind::Store)
         return store;
 
     if (!folder.mkpath(u"."_s))
         throw jetError(ErrorNumber::kWriteFailed, folder.path());
-    convertInto(folder.path(), source, password, options,
+    convertInto(folder.path(), source, options,
                 [&store](const QString& made) { replaceFile(made, store); });
     // Stores of what the source held before are of no use any more.
     for (const QString& former : folder.entryList({prefix + u'*'}, QDir::Files))
@@ -151,34 +142,34 @@ QString cachedStore(const QString& source, const QString& password, const Import
 }
 
 /// A file that may not be written is replaced all the same: that is the folder's affair.
-bool isReplaceable(const QString& nativePath)
+bool isReplaceable(const ImportSource& source)
 {
-    return isUserDatabase(nativePath) &&
-           QFileInfo(QFileInfo(nativePath).absolutePath()).isWritable();
+    return !source.policy.readOnly && QFileInfo(QFileInfo(source.path).absolutePath()).isWritable();
 }
 
 } // namespace
 
-QString openableStore(const QString& nativePath, const QString& password,
-                      const ImportOptions& options)
+QString openableStore(const ImportSource& database, const ImportOptions& options)
 {
-    if (!QFileInfo(nativePath).isFile())
-        throw jetError(ErrorNumber::kFileNotFound, nativePath);
-    const QByteArray head = readDatabaseHead(nativePath);
+    const QString& path = database.path;
+    if (!QFileInfo(path).isFile())
+        throw jetError(ErrorNumber::kFileNotFound, path);
+    const QByteArray head = readDatabaseHead(path);
     if (databaseKind(head) == DatabaseKind::Store)
-        return nativePath;
+        return path;
     const std::optional<JetHeader> header = readJetHeader(head);
     if (!header)
-        throw jetError(ErrorNumber::kNotADatabase, nativePath);
-    if (!header->password.isEmpty() && header->password != password)
-        throw jetError(ErrorNumber::kWrongPassword, nativePath);
+        throw jetError(ErrorNumber::kNotADatabase, path);
+    if (!header->password.isEmpty() && header->password != database.password)
+        throw jetError(ErrorNumber::kWrongPassword, path);
 
-    const QString source = QFileInfo(nativePath).canonicalFilePath();
-    if (isReplaceable(source) && convertInPlace(source, password, options))
-        return nativePath;
-    const QString store = cachedStore(source, password, options);
-    if (options.talk != nullptr && isUserDatabase(source) && !isScratchDatabase(source))
-        options.talk->isReadOnly(source, lossesOf(store));
+    const ImportSource source{QFileInfo(path).canonicalFilePath(), database.password,
+                              database.policy};
+    if (isReplaceable(source) && convertInPlace(source, options))
+        return path;
+    const QString store = cachedStore(source, options);
+    if (options.talk != nullptr && source.policy.isIrreplaceable())
+        options.talk->isReadOnly(source.path, lossesOf(store));
     return store;
 }
 

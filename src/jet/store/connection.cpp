@@ -2,7 +2,6 @@
 #include "jet/store/connection.h"
 
 #include "jet/error.h"
-#include "jet/import/conversion.h"
 #include "jet/store/functions.h"
 #include "jet/store/store_layout.h"
 #include "platform/log.h"
@@ -20,15 +19,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView kModuleSuffix = u".dts";
-
-/// Modules are never written; the scratch tables of the original-language search are. What is
-/// written into the copy of a user database would never reach the user's file.
+/// What is written into the converted copy of a database would never reach the user's file.
 bool mustBeReadOnly(const ConnectionPlace& place)
 {
-    if (place.source.endsWith(kModuleSuffix, Qt::CaseInsensitive) && !isUserDatabase(place.source))
+    if (place.policy.readOnly)
         return true;
-    if (place.store != place.source && !isScratchDatabase(place.source))
+    if (place.store != place.source && place.policy.isIrreplaceable())
         return true;
     const QFileInfo file(place.store);
     return !file.isWritable() || !QFileInfo(file.absolutePath()).isWritable();
@@ -44,8 +40,7 @@ int openFlags(bool readOnly)
 Connection::Connection(ConnectionPlace place, CommitFailed commitFailed)
     : m_place(std::move(place)), m_commitFailed(std::move(commitFailed)),
       m_readOnly(mustBeReadOnly(m_place)), m_handle(m_place.store, openFlags(m_readOnly)),
-      m_schema(m_handle.get()), m_statements(m_handle.get()),
-      m_compare(compareOfFile(m_place.source))
+      m_schema(m_handle.get()), m_statements(m_handle.get()), m_compare(m_place.policy.compare)
 {
     configure();
     readStoreTable();
@@ -92,8 +87,7 @@ void Connection::configure()
     m_handle.run("PRAGMA cache_size=-65536; PRAGMA temp_store=MEMORY; PRAGMA cell_size_check=ON");
     if (m_readOnly)
         return;
-    // A lost scratch database is made anew, so it may trade safety for speed.
-    m_handle.run(isScratchDatabase(m_place.source)
+    m_handle.run(m_place.policy.sync == StoreSync::None
                      ? "PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF"
                      : "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL");
 }

@@ -32,6 +32,7 @@ struct ConnectionPlace
 {
     QString source;
     QString store;
+    FilePolicy policy{};
 };
 
 /// The one SQLite connection of a file in this process, shared by all that use the file.
@@ -104,7 +105,7 @@ private:
     SqliteHandle m_handle;
     StoreSchema m_schema;
     StatementCache m_statements;
-    StoreCompare m_compare = StoreCompare::Binary;
+    StoreCompare m_compare;
     QString m_password;
     bool m_hasPassword = false;
     bool m_exclusive = false;
