@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Reads every #include below src/ and tells those that point upwards.
 
-A folder may include itself and what its row names, directly or through those rows.
+A folder may include itself and what its row names, directly or through those rows. A row may also
+name one file, without its suffix, that lies lower than the folder it stands in.
 """
 import pathlib
 import re
@@ -14,7 +15,12 @@ LAYERS = {
     "canon": [],
     "text": ["canon"],
     "platform": ["text"],
-    "jet": ["platform", "text"],
+    "jet": ["jet/rows", "jet/import"],
+    "jet/rows": ["jet/sql"],
+    "jet/sql": ["jet/store"],
+    "jet/import": ["jet/store"],
+    "jet/store": ["jet/error", "platform", "text"],
+    "jet/error": [],
     "platform/registry": ["platform/files"],
     "platform/files": ["platform", "text"],
     "data": STORES,
@@ -51,9 +57,9 @@ def reachable(folder):
 
 
 def folder_of(path):
-    parts = pathlib.PurePosixPath(path).parent.parts
+    parts = pathlib.PurePosixPath(path).with_suffix("").parts
     two = "/".join(parts[:2])
-    return two if two in LAYERS else parts[0] if parts else ""
+    return two if two in LAYERS else parts[0] if len(parts) > 1 else ""
 
 
 def faults(root):
