@@ -2,8 +2,11 @@
 #include "panel/panel_tabs.h"
 
 #include "panel/cross_references.h"
+#include "panel/dictionary_tabs.h"
+#include "panel/matthew_henry.h"
 #include "panel/reference_panel.h"
 #include "panel/unit_converter.h"
+#include "panel/wesley.h"
 #include "panel/word_analysis_tab.h"
 
 #include <array>
@@ -19,9 +22,8 @@ std::unique_ptr<PanelTab> made(const PanelHost& host)
 }
 
 constexpr std::array kMakers{
-    made<CrossReferences>,
-    made<WordAnalysisTab>,
-    made<UnitConverter>,
+    made<CrossReferences>, made<BibleDictionary>, made<EnglishDictionary>, made<MatthewHenry>,
+    made<Wesley>,          made<WordAnalysisTab>, made<UnitConverter>,
 };
 
 } // namespace

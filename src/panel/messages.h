@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "platform/message_text.h"
+
+namespace lumen::messages {
+
+/// %1 is the word.
+inline constexpr MessageText kLongBibleSearch{
+    u"확인",
+    u"'%1'에 대한 '내용 중' 검색 옵션은 시스템에 따라 수분 이상의 시간이 소요될 수 있습니다. \r\n"
+    u"계속하시겠습니까?\r\n"
+    u"(참고: 한글 검색 시 사전 선택을 '오르베인 한글'로 설정하시면 시간이 절약됩니다.)",
+    52};
+inline constexpr MessageText kLongEnglishSearch{
+    u"확인",
+    u"'내용 중' 검색 옵션은 시스템에 따라 수분 이상의 시간이 소요될 수 있습니다. \r\n"
+    u"계속하시겠습니까?",
+    52};
+
+/// %1 is the version's name.
+inline constexpr MessageText kNoConcordance{
+    u"성구 사전 모듈 미설치",
+    u"'%1'에 대한 성구 사전 모듈이 하드 디스크에 설치되어 있지 않습니다. ORVANE Lumen Script "
+    u"CD-ROM을 넣어 주십시요.",
+    48};
+inline constexpr MessageText kNotSearchable{
+    u"검색할 수 없는 검색어", u"선택 또는 입력한 단어나 어구를 검색할 수 없습니다.", 16};
+
+} // namespace lumen::messages
