@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The longest chapter, 176 verses in four versions, from composed RTF to a document.
-#include "text/rtf_composer.h"
-#include "text/rtf_parser.h"
-#include "text/rtf_reader.h"
-#include "text/rtf_writer.h"
+#include "text/rtf/rtf_composer.h"
+#include "text/rtf/rtf_document_writer.h"
+#include "text/rtf/rtf_parser.h"
+#include "text/rtf/rtf_reader.h"
 
 #include <QGuiApplication>
 

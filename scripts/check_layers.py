@@ -9,11 +9,14 @@ import pathlib
 import re
 import sys
 
+TEXT = ["text/rtf", "text/original"]
 STORES = ["jet", "platform/registry", "platform/files"]
 CONTROLS = ["platform/controls", "platform/dialogs", "platform/printing", "platform/mail"]
 LAYERS = {
     "canon": [],
     "text": ["canon"],
+    "text/rtf": ["text"],
+    "text/original": ["text"],
     "platform": ["text"],
     "jet": ["jet/rows", "jet/import"],
     "jet/rows": ["jet/sql"],
@@ -23,7 +26,7 @@ LAYERS = {
     "jet/error": [],
     "platform/registry": ["platform/files"],
     "platform/files": ["platform", "text"],
-    "data": STORES,
+    "data": STORES + TEXT,
     "platform/controls": ["data"],
     "platform/dialogs": ["platform/controls"],
     "platform/printing": ["platform/controls"],

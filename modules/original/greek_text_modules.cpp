@@ -3,7 +3,7 @@
 #include "original/wlc_versification.h"
 #include "sources/book_names.h"
 #include "sources/text_mending.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <QFile>
 #include <QFileInfo>

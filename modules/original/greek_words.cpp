@@ -3,7 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "original/greek_morphology.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <map>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/canon_table.h"
 #include "original/original_versions.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 namespace lumen {
 

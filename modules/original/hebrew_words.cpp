@@ -2,7 +2,7 @@
 #include "original/hebrew_words.h"
 
 #include "original/hebrew_morphology.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 namespace lumen {
 

@@ -2,7 +2,7 @@
 #include "original/inverted_lists.h"
 
 #include "text/field_scramble.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <QHash>
 #include <QSet>

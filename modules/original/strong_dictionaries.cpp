@@ -2,7 +2,7 @@
 #include "original/strong_dictionaries.h"
 
 #include "text/field_scramble.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <algorithm>
 #include <array>

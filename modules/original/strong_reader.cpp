@@ -5,7 +5,7 @@
 #include "sources/fault_texts.h"
 #include "sources/text_cleaning.h"
 #include "sources/version_text.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/word_analysis.h"
 
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 #include "data/version_font.h"
 
 #include "text/basic_text.h"
-#include "text/original_unicode.h"
-#include "text/rtf_tables.h"
+#include "text/original/original_unicode.h"
+#include "text/rtf/rtf_tables.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/versions.h"
 
-#include "text/rtf_tables.h"
+#include "text/rtf/rtf_tables.h"
 
 #include <algorithm>
 

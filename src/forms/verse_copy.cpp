@@ -2,7 +2,7 @@
 #include "forms/verse_copy.h"
 
 #include "data/version_font.h"
-#include "text/rtf_composer.h"
+#include "text/rtf/rtf_composer.h"
 
 #include <QStringList>
 

@@ -5,7 +5,7 @@
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
 #include "platform/controls/text_control.h"
-#include "text/hebrew_division.h"
+#include "text/original/hebrew_division.h"
 
 #include <optional>
 

@@ -5,8 +5,8 @@
 #include "data/module_path.h"
 #include "platform/controls/text_control.h"
 #include "text/field_scramble.h"
-#include "text/rtf_composer.h"
-#include "text/rtf_tables.h"
+#include "text/rtf/rtf_composer.h"
+#include "text/rtf/rtf_tables.h"
 
 #include <cmath>
 

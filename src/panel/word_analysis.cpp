@@ -7,9 +7,9 @@
 #include "platform/controls/text_control.h"
 #include "text/basic_text.h"
 #include "text/field_scramble.h"
-#include "text/parsing_decoder.h"
-#include "text/rtf_composer.h"
-#include "text/rtf_tables.h"
+#include "text/original/parsing_decoder.h"
+#include "text/rtf/rtf_composer.h"
+#include "text/rtf/rtf_tables.h"
 
 #include <QTextBlock>
 #include <QTextCursor>

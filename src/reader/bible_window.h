@@ -20,7 +20,7 @@
 #include "reader/table_view.h"
 #include "reader/text_view.h"
 #include "reader/version_slots.h"
-#include "text/hebrew_division.h"
+#include "text/original/hebrew_division.h"
 
 #include <QLabel>
 #include <QMainWindow>

@@ -11,7 +11,7 @@
 #include "reader/fill_hold.h"
 #include "reader/messages.h"
 #include "reader/typed_reference.h"
-#include "text/hebrew_division.h"
+#include "text/original/hebrew_division.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "data/version_font.h"
 #include "reader/verse_positions.h"
 #include "reader/verse_selection.h"
-#include "text/rtf_composer.h"
+#include "text/rtf/rtf_composer.h"
 
 #include <QString>
 

@@ -3,7 +3,7 @@
 
 #include "platform/controls/flex_grid.h"
 #include "reader/text_view.h"
-#include "text/rtf_tables.h"
+#include "text/rtf/rtf_tables.h"
 
 #include <QScrollBar>
 

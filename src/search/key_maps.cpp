@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/key_maps.h"
 
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,7 @@
 #include "platform/dialogs/clipboard.h"
 #include "platform/dialogs/message_boxes.h"
 #include "search/messages.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -2,7 +2,7 @@
 #include "search/parsing_panel.h"
 
 #include "search/easy_panel.h"
-#include "text/parsing_decoder.h"
+#include "text/original/parsing_decoder.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

@@ -21,7 +21,7 @@
 #include "search/result_grid.h"
 #include "search/scope_choice.h"
 #include "search/search_scope.h"
-#include "text/hebrew_division.h"
+#include "text/original/hebrew_division.h"
 
 #include <QLabel>
 #include <QMainWindow>

@@ -12,7 +12,7 @@
 #include "platform/controls/vs_awk.h"
 #include "search/easy_panel.h"
 #include "search/result_grid.h"
-#include "text/hebrew_division.h"
+#include "text/original/hebrew_division.h"
 
 #include <QLabel>
 #include <QMainWindow>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/controls/grid_layout.h"
 #include "platform/controls/twips.h"
-#include "text/hebrew_division.h"
+#include "text/original/hebrew_division.h"
 
 #include <gtest/gtest.h>
 

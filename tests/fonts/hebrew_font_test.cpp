@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fonts/drawn_text.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <QFile>
 #include <QFont>

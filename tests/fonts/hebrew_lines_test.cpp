@@ -9,8 +9,8 @@
 #include "reader/chapter_document.h"
 #include "support/test_services.h"
 #include "text/field_scramble.h"
-#include "text/hebrew_division.h"
-#include "text/rtf_composer.h"
+#include "text/original/hebrew_division.h"
+#include "text/rtf/rtf_composer.h"
 
 #include <QTextBlock>
 #include <QTextLayout>

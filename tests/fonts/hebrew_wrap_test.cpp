@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fonts/drawn_text.h"
-#include "text/hebrew_division.h"
-#include "text/original_unicode.h"
+#include "text/original/hebrew_division.h"
+#include "text/original/original_unicode.h"
 
 #include <QFont>
 #include <QTextLayout>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "forms/verse_copy.h"
-#include "text/rtf_reader.h"
+#include "text/rtf/rtf_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/parsing_wizard.h"
 #include "support/active_window.h"
-#include "text/parsing_decoder.h"
+#include "text/original/parsing_decoder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/search_fixture.h"
-#include "text/original_unicode.h"
-#include "text/rtf_reader.h"
+#include "text/original/original_unicode.h"
+#include "text/rtf/rtf_reader.h"
 
 #include <QSignalSpy>
 

@@ -5,7 +5,7 @@
 #include "search/strong_list_window.h"
 #include "support/active_window.h"
 #include "text/field_scramble.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <QContextMenuEvent>
 #include <QFile>

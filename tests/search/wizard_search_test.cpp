@@ -6,7 +6,7 @@
 #include "search/parsing_wizard.h"
 #include "support/test_services.h"
 #include "text/field_scramble.h"
-#include "text/parsing_decoder.h"
+#include "text/original/parsing_decoder.h"
 
 #include <gtest/gtest.h>
 

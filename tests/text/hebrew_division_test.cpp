@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/hebrew_division.h"
+#include "text/original/hebrew_division.h"
 
 #include <gtest/gtest.h>
 

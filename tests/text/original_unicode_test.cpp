@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <gtest/gtest.h>
 

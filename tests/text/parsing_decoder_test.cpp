@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/parsing_decoder.h"
+#include "text/original/parsing_decoder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_composer.h"
-#include "text/rtf_parser.h"
+#include "text/rtf/rtf_composer.h"
+#include "text/rtf/rtf_parser.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_composer.h"
-#include "text/rtf_parser.h"
-#include "text/rtf_reader.h"
-#include "text/rtf_writer.h"
+#include "text/rtf/rtf_composer.h"
+#include "text/rtf/rtf_document_writer.h"
+#include "text/rtf/rtf_parser.h"
+#include "text/rtf/rtf_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "support/active_window.h"
 #include "support/tiny_data.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 #include "tools/extract_dialog.h"
 #include "tools/insert_dialog.h"
 

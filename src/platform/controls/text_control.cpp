@@ -3,7 +3,7 @@
 
 #include "platform/controls/colors.h"
 #include "platform/controls/twips.h"
-#include "text/rtf_reader.h"
+#include "text/rtf/rtf_reader.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QContextMenuEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/greek_morphology.h"
 #include "original/strong_dictionaries.h"
-#include "text/parsing_decoder.h"
+#include "text/original/parsing_decoder.h"
 
 #include <gtest/gtest.h>
 

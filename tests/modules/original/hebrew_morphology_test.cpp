@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/hebrew_morphology.h"
-#include "text/parsing_decoder.h"
+#include "text/original/parsing_decoder.h"
 
 #include <gtest/gtest.h>
 

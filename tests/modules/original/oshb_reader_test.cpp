@@ -3,7 +3,7 @@
 #include "original/hebrew_words.h"
 #include "original/original_versions.h"
 #include "original/oshb_reader.h"
-#include "text/original_unicode.h"
+#include "text/original/original_unicode.h"
 
 #include <gtest/gtest.h>
 

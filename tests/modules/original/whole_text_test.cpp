@@ -2,8 +2,8 @@
 #include "build/original_recipes.h"
 #include "original/original_versions.h"
 #include "original/parsing_search.h"
-#include "text/original_unicode.h"
-#include "text/parsing_tables.h"
+#include "text/original/original_unicode.h"
+#include "text/original/parsing_tables.h"
 
 #include <gtest/gtest.h>
 

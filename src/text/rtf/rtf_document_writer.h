@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "text/rtf_reader.h"
+#include "text/rtf/rtf_reader.h"
 
 #include <QByteArray>
 #include <QTextCursor>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "text/rtf_content.h"
+#include "text/rtf/rtf_content.h"
 
 #include <string_view>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_parser.h"
+#include "text/rtf/rtf_parser.h"
 
-#include "text/rtf_content_builder.h"
-#include "text/rtf_control_words.h"
-#include "text/rtf_text_decoder.h"
+#include "text/rtf/rtf_content_builder.h"
+#include "text/rtf/rtf_control_words.h"
+#include "text/rtf/rtf_text_decoder.h"
 
 #include <QHash>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_content.h"
+#include "text/rtf/rtf_content.h"
 
 #include "text/codepage949.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_content_builder.h"
+#include "text/rtf/rtf_content_builder.h"
 
 #include <utility>
 

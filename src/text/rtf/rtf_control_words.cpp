@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_control_words.h"
+#include "text/rtf/rtf_control_words.h"
 
 #include <algorithm>
 #include <array>

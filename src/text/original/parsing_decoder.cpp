@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/parsing_decoder.h"
+#include "text/original/parsing_decoder.h"
 
-#include "text/parsing_tables.h"
+#include "text/original/parsing_tables.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_writer.h"
+#include "text/rtf/rtf_document_writer.h"
 
 #include "text/basic_text.h"
 #include "text/codepage949.h"

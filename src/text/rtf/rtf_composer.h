@@ -2,7 +2,7 @@
 #pragma once
 
 #include "text/basic_text.h"
-#include "text/rtf_tables.h"
+#include "text/rtf/rtf_tables.h"
 
 #include <QByteArray>
 #include <QString>

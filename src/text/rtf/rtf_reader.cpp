@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "text/rtf_reader.h"
+#include "text/rtf/rtf_reader.h"
 
-#include "text/rtf_parser.h"
+#include "text/rtf/rtf_parser.h"
 
 #include <QTextBlock>
 #include <QTextBlockFormat>
