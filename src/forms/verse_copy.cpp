@@ -2,7 +2,7 @@
 #include "forms/verse_copy.h"
 
 #include "data/version_font.h"
-#include "text/rtf/rtf_composer.h"
+#include "text/rtf/rtf_writer.h"
 
 #include <QStringList>
 
@@ -96,52 +96,38 @@ QString htmlDocument(const std::vector<CopiedVerse>& verses, const QString& endi
 
 // RTF
 
-QString rtfText(const QString& text, bool western)
-{
-    QString rtf;
-    for (const QChar character : text) {
-        const char16_t unit = character.unicode();
-        if (unit == u'\\' || unit == u'{' || unit == u'}')
-            rtf += u'\\' + character;
-        else if (unit == u'\n')
-            rtf += u"\\line "_s;
-        else if (unit == u'\t')
-            rtf += u"\\tab "_s;
-        else if (western && unit > 0x7E)
-            rtf += u"\\u%1?"_s.arg(static_cast<qint16>(unit));
-        else if (unit != u'\r')
-            rtf += character;
-    }
-    return rtf;
-}
-
 class RtfCopy
 {
 public:
-    explicit RtfCopy(OriginalText originals) : m_originals(originals) { colorNumber(kLabelColor); }
+    explicit RtfCopy(OriginalText originals) : m_originals(originals)
+    {
+        m_tables.colorNumber(kLabelColor);
+    }
 
     void add(const CopiedVerse& verse, const QString& ending)
     {
         const bool unicode =
             m_originals == OriginalText::Unicode && scriptOf(verse.code) != Script::Other;
         const bool western = versionRow(verse.code).face->western && !unicode;
+        const RtfFace face = western ? RtfFace::Western : RtfFace::Korean;
+        std::optional<int> font;
+        if (!unicode)
+            font = m_tables.fontNumber(verse.font, face);
         m_body += u"\\pard"_s + paragraph(verse);
         if (!verse.label.isEmpty())
-            m_body += u"{\\cf1 "_s + rtfText(verse.label, false) + u'}' +
-                      rtfText(separator(verse, m_originals), false);
-        m_body += u"{"_s;
-        if (!unicode)
-            m_body += u"\\f%1"_s.arg(fontNumber(verse.font, western));
-        m_body += u"\\fs%1\\cf%2 "_s.arg(verse.halfPoints).arg(colorNumber(verse.color));
-        m_body += rtfText(unicode ? unicodeOf(verse) : verse.text, western) + u"}"_s;
-        m_body += rtfText(ending, false) + u"\\par "_s;
+            m_body +=
+                u"{\\cf1 "_s + rtfText(verse.label) + u'}' + rtfText(separator(verse, m_originals));
+        m_body += u'{' + rtfRunWords(font, verse.halfPoints, m_tables.colorNumber(verse.color)) +
+                  u' ' + rtfText(unicode ? unicodeOf(verse) : verse.text, face) + u'}';
+        m_body += rtfText(ending) + u"\\par "_s;
     }
 
     QByteArray document() const
     {
-        return toRtfBytes(
-            u"{\\rtf1\\ansi\\ansicpg949\\deff0{\\fonttbl{\\f0\\fnil\\fcharset129 굴림;}"_s +
-            m_fontTable + u"}{\\colortbl;"_s + m_colorTable + u"}"_s + m_body + u"}"_s);
+        return toRtfBytes(u"{\\rtf1\\ansi\\ansicpg949\\deff0{\\fonttbl"_s +
+                          rtfFontEntry(0, u"fnil", RtfFace::Korean, u"굴림"_s) +
+                          m_tables.fontEntries() + u"}{\\colortbl;"_s + m_tables.colorEntries() +
+                          u'}' + m_body + u'}');
     }
 
 private:
@@ -151,32 +137,9 @@ private:
             return u"\\ql "_s;
         return m_originals == OriginalText::Unicode ? u"\\rtlpar\\qr "_s : u"\\ltrpar\\qr "_s;
     }
-    int fontNumber(const QString& font, bool western)
-    {
-        if (!m_fonts.contains(font)) {
-            m_fonts << font;
-            m_fontTable +=
-                u"{\\f%1\\fnil\\fcharset%2 "_s.arg(m_fonts.size()).arg(western ? 0 : 129) +
-                rtfText(font, false) + u";}"_s;
-        }
-        return static_cast<int>(m_fonts.indexOf(font)) + 1;
-    }
-    int colorNumber(RgbLong color)
-    {
-        if (!m_colors.contains(color)) {
-            m_colors << color;
-            m_colorTable += u"\\red%1\\green%2\\blue%3;"_s.arg(redPart(color))
-                                .arg(greenPart(color))
-                                .arg(bluePart(color));
-        }
-        return static_cast<int>(m_colors.indexOf(color)) + 1;
-    }
 
     OriginalText m_originals;
-    QStringList m_fonts;
-    QList<RgbLong> m_colors;
-    QString m_fontTable;
-    QString m_colorTable;
+    RtfTables m_tables{1}; // behind the document's own font
     QString m_body;
 };
 

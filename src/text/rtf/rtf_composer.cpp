@@ -1,24 +1,20 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "text/rtf/rtf_composer.h"
 
-#include "text/codepage949.h"
-
 using namespace Qt::StringLiterals;
 
 namespace lumen {
 namespace {
+
+constexpr int kMainFont = 2;
+constexpr RgbLong kTitleColor = RGB(37, 21, 102);
+constexpr RgbLong kNumberColor = RGB(0, 0, 255);
 
 // The plain form of the brackets breaks in the display; the symbols are missing in the fonts of
 // the Western versions.
 QStringView escapeOf(char16_t c)
 {
     switch (c) {
-    case u'\\':
-        return u"\\\\";
-    case u'}':
-        return u"\\}";
-    case u'{':
-        return u"\\{";
     case u'\uFF3B':
         return u"\\'a3\\'db";
     case u'\uFF3D':
@@ -36,41 +32,27 @@ QStringView escapeOf(char16_t c)
     case u'\u00A1':
         return u"{\\f2\\'a2\\'ae}";
     default:
-        return {};
+        return quotedRtfSign(c);
     }
-}
-
-// A semicolon ends a name in the font table, and a brace would end the table.
-QString tableName(const QString& fontName)
-{
-    QString name = fontName;
-    return name.remove(u';').remove(u'{').remove(u'}').remove(u'\\');
-}
-
-QString colorEntry(RgbLong color)
-{
-    return u"\\red"_s + QString::number(redPart(color)) + u"\\green"_s +
-           QString::number(greenPart(color)) + u"\\blue"_s + QString::number(bluePart(color)) +
-           u';';
 }
 
 QString colorTable(const RtfSettings& settings)
 {
-    return u"{\\colortbl"_s + colorEntry(settings.defVerColor) + u"\\red37\\green21\\blue102;"_s +
-           colorEntry(settings.ver1Color) + colorEntry(settings.ver2Color) +
-           colorEntry(settings.ver3Color) + u"\\red0\\green0\\blue255;}"_s;
+    return u"{\\colortbl"_s + rtfColorEntry(settings.defVerColor) + rtfColorEntry(kTitleColor) +
+           rtfColorEntry(settings.ver1Color) + rtfColorEntry(settings.ver2Color) +
+           rtfColorEntry(settings.ver3Color) + rtfColorEntry(kNumberColor) + u'}';
 }
 
 QString fontTable(const RtfSettings& settings)
 {
-    QString table = u"{\\fonttbl{\\f0\\fswiss MS Sans Serif;}{\\f1\\froman\\fcharset2 Symbol;}"
-                    u"{\\f2\\fmodern\\fcharset129 "_s;
-    table += tableName(settings.mainFont) + u";}"_s;
+    QString table = u"{\\fonttbl{\\f0\\fswiss MS Sans Serif;}{\\f1\\froman\\fcharset2 Symbol;}"_s;
+    table += rtfFontEntry(kMainFont, u"fmodern", RtfFace::Korean, settings.mainFont);
     table += kRtfFixedFonts;
     for (int slot = 0; slot < kUserFontCount; ++slot) {
-        table += u"{\\f"_s + QString::number(kFirstUserRtfFont + slot);
-        table += slot < kKoreanUserFonts ? u"\\fmodern\\fcharset129 "_s : u"\\fnil\\fcharset0 "_s;
-        table += tableName(settings.userFonts[static_cast<std::size_t>(slot)]) + u";}"_s;
+        const QString& font = settings.userFonts[static_cast<std::size_t>(slot)];
+        const int number = kFirstUserRtfFont + slot;
+        table += slot < kKoreanUserFonts ? rtfFontEntry(number, u"fmodern", RtfFace::Korean, font)
+                                         : rtfFontEntry(number, u"fnil", RtfFace::Western, font);
     }
     return table + u'}';
 }
@@ -101,24 +83,6 @@ QString rtfDocumentHeader(const RtfSettings& settings)
     return u"{\\rtf1\\ansi\\ansicpg949\\deff0\\fs"_s +
            QString::number(rtfSizes(settings.fontSize).text) + colorTable(settings) +
            fontTable(settings);
-}
-
-QByteArray toRtfBytes(QStringView rtf)
-{
-    QByteArray bytes;
-    bytes.reserve(rtf.size() * 2);
-    for (const QChar c : rtf) {
-        const auto code = code949(c.unicode());
-        if (!code) {
-            const auto number = static_cast<qint16>(c.unicode());
-            bytes.append("\\u").append(QByteArray::number(number)).append('?');
-            continue;
-        }
-        if (*code > 0xFF)
-            bytes.append(static_cast<char>(*code >> 8));
-        bytes.append(static_cast<char>(*code & 0xFF));
-    }
-    return bytes;
 }
 
 } // namespace lumen

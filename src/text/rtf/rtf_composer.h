@@ -3,8 +3,8 @@
 
 #include "text/basic_text.h"
 #include "text/rtf/rtf_tables.h"
+#include "text/rtf/rtf_writer.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringView>
 
@@ -39,9 +39,5 @@ QString RtfEscape(const std::optional<QString>& value);
 /// The head of a composed chapter, from the opening brace to the end of the font table. The caller
 /// adds the text and the closing brace.
 QString rtfDocumentHeader(const RtfSettings& settings);
-
-/// Composed RTF as bytes of code page 949; what the page lacks is written as \uN?, with a signed
-/// 16-bit number for each UTF-16 unit.
-QByteArray toRtfBytes(QStringView rtf);
 
 } // namespace lumen

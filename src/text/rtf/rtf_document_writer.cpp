@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "text/rtf/rtf_document_writer.h"
 
-#include "text/basic_text.h"
-#include "text/codepage949.h"
+#include "text/rtf/rtf_writer.h"
 
 #include <QFontInfo>
 #include <QTextBlock>
@@ -10,50 +9,20 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace lumen {
 namespace {
 
-QByteArray hexByte(int byte)
-{
-    constexpr char kDigits[] = "0123456789abcdef";
-    return QByteArray("\\'") + kDigits[byte >> 4 & 0xF] + kDigits[byte & 0xF];
-}
-
-void appendUnit(QByteArray& out, char16_t unit)
-{
-    if (unit == u'\\' || unit == u'{' || unit == u'}') {
-        out.append('\\').append(static_cast<char>(unit));
-    } else if (unit == u'\t') {
-        out.append("\\tab ");
-    } else if (unit == QChar::LineSeparator) {
-        out.append("\\line ");
-    } else if (unit >= 0x20 && unit < 0x7F) {
-        out.append(static_cast<char>(unit));
-    } else if (const auto code = code949(unit); code && *code > 0xFF) {
-        out.append(hexByte(*code >> 8)).append(hexByte(*code & 0xFF));
-    } else if (unit >= 0x20) {
-        out.append("\\u").append(QByteArray::number(static_cast<qint16>(unit))).append('?');
-    }
-}
-
-QByteArray escaped(const QString& text)
-{
-    QByteArray out;
-    out.reserve(text.size() * 4);
-    for (const QChar c : text)
-        appendUnit(out, c.unicode());
-    return out;
-}
-
-const char* alignmentWord(Qt::Alignment alignment)
+QStringView alignmentWord(Qt::Alignment alignment)
 {
     if (alignment & Qt::AlignRight)
-        return "\\qr";
+        return u"\\qr";
     if (alignment & Qt::AlignHCenter)
-        return "\\qc";
+        return u"\\qc";
     if (alignment & Qt::AlignJustify)
-        return "\\qj";
-    return "\\ql";
+        return u"\\qj";
+    return u"\\ql";
 }
 
 class Writer
@@ -76,81 +45,62 @@ public:
         }
         if (m_options.lastPar == LastPar::EndsDocument)
             addMark();
-        return head() + m_body + "}";
+        return toRtfBytes(head() + m_body + u'}', RtfCoding::SevenBit);
     }
 
 private:
-    QByteArray head() const;
+    QString head() const;
     void addParagraphFormat(const QTextBlockFormat& format);
     void addFragments(const QTextBlock& block, int start, int end);
-    QByteArray charWords(const QTextCharFormat& format);
-    void addMark() { m_body += "\\par\r\n"; }
+    QString charWords(const QTextCharFormat& format);
+    void addMark() { m_body += u"\\par\r\n"_s; }
 
-    // A name may not hold what ends it in the table.
-    int fontNumber(QString family)
-    {
-        family.remove(u';');
-        if (!m_fonts.contains(family))
-            m_fonts.append(family);
-        return static_cast<int>(m_fonts.indexOf(family));
-    }
+    // Every font is told to be Korean: any of them may be given Korean text, and other programs
+    // read the escapes by the charset.
+    int fontNumber(const QString& family) { return m_tables.fontNumber(family, RtfFace::Korean); }
 
-    // Counts from 1: entry 0 is the automatic colour.
     int colorNumber(const QColor& color)
     {
-        if (!m_colors.contains(color.rgb()))
-            m_colors.append(color.rgb());
-        return static_cast<int>(m_colors.indexOf(color.rgb())) + 1;
+        return m_tables.colorNumber(RGB(color.red(), color.green(), color.blue()));
     }
 
     const QTextDocument& m_document;
     const RtfWriteOptions& m_options;
-    QList<QString> m_fonts;
-    QList<QRgb> m_colors;
-    QByteArray m_body;
-    QByteArray m_paragraphWords;
-    QByteArray m_charWords;
+    RtfTables m_tables{0};
+    QString m_body;
+    QString m_paragraphWords;
+    QString m_charWords;
 };
 
-QByteArray Writer::head() const
+QString Writer::head() const
 {
-    // The Korean charset for every font: any of them may be given Korean text, and other programs
-    // read the escapes by the charset.
-    QByteArray head = "{\\rtf1\\ansi\\ansicpg949\\deff0\\deflang1042{\\fonttbl";
-    for (qsizetype i = 0; i < m_fonts.size(); ++i)
-        head +=
-            "{\\f" + QByteArray::number(i) + "\\fnil\\fcharset129 " + escaped(m_fonts[i]) + ";}";
-    head += "}\r\n{\\colortbl ;";
-    for (const QRgb color : m_colors)
-        head += "\\red" + QByteArray::number(qRed(color)) + "\\green" +
-                QByteArray::number(qGreen(color)) + "\\blue" + QByteArray::number(qBlue(color)) +
-                ";";
-    return head + "}\r\n\\uc1";
+    return u"{\\rtf1\\ansi\\ansicpg949\\deff0\\deflang1042{\\fonttbl"_s + m_tables.fontEntries() +
+           u"}\r\n{\\colortbl ;"_s + m_tables.colorEntries() + u"}\r\n\\uc1"_s;
 }
 
 void Writer::addParagraphFormat(const QTextBlockFormat& format)
 {
-    QByteArray words = QByteArray("\\pard") + alignmentWord(format.alignment());
-    const auto addIndent = [&](const char* word, double pixels) {
+    QString words = u"\\pard"_s + alignmentWord(format.alignment()).toString();
+    const auto addIndent = [&](QStringView word, double pixels) {
         const auto twips = std::lround(pixels / m_options.pixelsPerTwip);
         if (twips != 0)
-            words += word + QByteArray::number(static_cast<int>(twips));
+            words += word.toString() + QString::number(twips);
     };
-    addIndent("\\li", format.leftMargin());
-    addIndent("\\fi", format.textIndent());
-    addIndent("\\ri", format.rightMargin());
+    addIndent(u"\\li", format.leftMargin());
+    addIndent(u"\\fi", format.textIndent());
+    addIndent(u"\\ri", format.rightMargin());
     if (words == m_paragraphWords)
         return;
     m_paragraphWords = words;
-    m_body += words + " ";
+    m_body += words + u' ';
 }
 
 void Writer::addFragments(const QTextBlock& block, int start, int end)
 {
     const auto useFormat = [this](const QTextCharFormat& format) {
-        const QByteArray words = charWords(format);
+        const QString words = charWords(format);
         if (words != m_charWords)
-            m_body += words + " ";
+            m_body += words + u' ';
         m_charWords = words;
     };
     if (block.length() == 1)
@@ -162,35 +112,36 @@ void Writer::addFragments(const QTextBlock& block, int start, int end)
         if (from >= to)
             continue;
         useFormat(fragment.charFormat());
-        m_body += escaped(fragment.text().mid(from - fragment.position(), to - from));
+        const QString text = fragment.text();
+        m_body += rtfText(QStringView(text).mid(from - fragment.position(), to - from));
     }
 }
 
-QByteArray Writer::charWords(const QTextCharFormat& format)
+QString Writer::charWords(const QTextCharFormat& format)
 {
     const QStringList families = format.fontFamilies().toStringList();
     const QFont& standard = m_document.defaultFont();
     const double points =
         format.fontPointSize() > 0 ? format.fontPointSize() : QFontInfo(standard).pointSizeF();
-    const int font = fontNumber(families.isEmpty() ? standard.family() : families.first());
-    QByteArray words = "\\plain\\f" + QByteArray::number(font) + "\\fs" +
-                       QByteArray::number(static_cast<int>(std::lround(points * 2)));
+    std::optional<int> color;
     if (format.foreground().style() != Qt::NoBrush)
-        words += "\\cf" + QByteArray::number(colorNumber(format.foreground().color()));
+        color = colorNumber(format.foreground().color());
+    QString words = u"\\plain"_s + rtfRunWords(fontNumber(families.value(0, standard.family())),
+                                               static_cast<int>(std::lround(points * 2)), color);
     if (format.background().style() != Qt::NoBrush)
-        words += "\\highlight" + QByteArray::number(colorNumber(format.background().color()));
+        words += u"\\highlight"_s + QString::number(colorNumber(format.background().color()));
     if (format.fontWeight() >= QFont::DemiBold)
-        words += "\\b";
+        words += u"\\b"_s;
     if (format.fontItalic())
-        words += "\\i";
+        words += u"\\i"_s;
     if (format.fontUnderline())
-        words += "\\ul";
+        words += u"\\ul"_s;
     if (format.fontStrikeOut())
-        words += "\\strike";
+        words += u"\\strike"_s;
     if (format.verticalAlignment() == QTextCharFormat::AlignSuperScript)
-        words += "\\super";
+        words += u"\\super"_s;
     else if (format.verticalAlignment() == QTextCharFormat::AlignSubScript)
-        words += "\\sub";
+        words += u"\\sub"_s;
     return words;
 }
 
@@ -203,7 +154,7 @@ QByteArray writeRtf(const QTextDocument& document, const RtfWriteOptions& option
 
 QByteArray writeRtf(const QTextCursor& selection, const RtfWriteOptions& options)
 {
-    if (!selection.document())
+    if (selection.isNull())
         return {};
     return Writer(*selection.document(), options)
         .write(selection.selectionStart(), selection.selectionEnd());
