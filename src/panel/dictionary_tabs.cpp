@@ -23,11 +23,10 @@ void DictionaryTab::layOut(const DictionaryControls& controls, QPushButton& sear
     auto* words = new QHBoxLayout;
     words->addWidget(&controls.word, 1);
     words->addWidget(&search);
-    auto* options = new QHBoxLayout;
+    auto* options = new WrappingRow;
     for (QRadioButton* option : controls.matches)
         if (option != nullptr)
             options->addWidget(option);
-    options->addStretch();
     if (controls.source != nullptr)
         options->addWidget(controls.source);
     auto* texts = new QHBoxLayout;

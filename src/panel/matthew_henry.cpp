@@ -5,6 +5,7 @@
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
 #include "jet/rows/recordset.h"
+#include "platform/controls/wrapping_row.h"
 #include "text/basic_text.h"
 #include "text/field_scramble.h"
 
@@ -65,10 +66,10 @@ void MatthewHenry::layOut()
     tx주석인덱스->setReadOnly(true);
     for (TextControl* text : {txMH주석한글, txMH주석영문})
         text->setReadOnly(true);
-    auto* options = new QHBoxLayout;
-    options->addWidget(Opt절별주석);
-    options->addWidget(Opt장별주석);
-    options->addWidget(tx주석인덱스, 1);
+    auto* options = new WrappingRow;
+    for (QWidget* control : {static_cast<QWidget*>(Opt절별주석), static_cast<QWidget*>(Opt장별주석),
+                             static_cast<QWidget*>(tx주석인덱스)})
+        options->addWidget(control);
     auto* texts = new QHBoxLayout;
     texts->addWidget(txMH주석한글);
     texts->addWidget(txMH주석영문);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/unit_converter.h"
 
+#include "platform/controls/wrapping_row.h"
 #include "text/basic_text.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -56,10 +56,9 @@ void UnitConverter::Proc단위변환()
 
 void UnitConverter::layOut()
 {
-    auto* options = new QHBoxLayout;
+    auto* options = new WrappingRow;
     for (QRadioButton* option : {Op무게, Op길이, Op부피, Op화폐})
         options->addWidget(option);
-    options->addStretch();
     auto* values = new QGridLayout;
     for (const int index : {0, 1}) {
         auto* label = new QLabel(index == 0 ? u"값"_s : u"결과"_s);
