@@ -21,6 +21,19 @@ QWidget* emptyPage()
     return page;
 }
 
+/// What takes the keys when a tab is opened by a key: the page's own choice, else its first
+/// control.
+QWidget* firstControl(QWidget& page)
+{
+    if (page.focusProxy() != nullptr)
+        return page.focusProxy();
+    for (QWidget* next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain())
+        if (page.isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) != 0 &&
+            next->isVisibleTo(&page))
+            return next;
+    return nullptr;
+}
+
 } // namespace
 
 ReferencePanel::ReferencePanel(Services& services, QWidget* parent)
@@ -79,8 +92,9 @@ void ReferencePanel::showTab(int tab)
     sst관주사전->setTab(tab);
     if (m_state == PanelState::Collapsed)
         toggle();
-    if (QWidget* const page = sst관주사전->currentWidget())
-        page->setFocus();
+    if (PanelTab* const shown = currentTab())
+        if (QWidget* const first = firstControl(*shown->page()))
+            first->setFocus();
 }
 
 void ReferencePanel::showPlace()

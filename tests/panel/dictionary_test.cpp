@@ -3,6 +3,7 @@
 #include "panel/panel_fixture.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QTest>
 
 namespace lumen {
@@ -67,6 +68,8 @@ protected:
 TEST_F(BibleDictionaryTest, WordsStandSortedAndTheChosenOneTellsItsSource)
 {
     writeAndOpen();
+    panel.showTab(panel.sst관주사전->currentIndex());
+    EXPECT_EQ(QApplication::focusWidget(), tab->cb성경사전검색어) << "to type at once";
     typeAndEnter(u" MO "_s);
     EXPECT_EQ(words(), (QStringList{u"MO"_s, u"MOAB"_s, u"MOSES"_s}));
     EXPECT_EQ(meaning(), u"a short head"_s);
