@@ -77,6 +77,11 @@ TEST(VerseCopyTest, SignsOfTheFormatsAreText)
         EXPECT_EQ(copy.plain, text);
         EXPECT_EQ(QTextDocumentFragment::fromHtml(copy.html).toPlainText(), text);
         EXPECT_EQ(rtfToPlainText(copy.rtf).trimmed(), text);
+        EXPECT_TRUE(copy.rtf.contains("{\\f1\\fs")) << "the first font behind the document's own";
+        // A Western font takes no bytes of the Korean page.
+        const bool plain = verse.font == western.font;
+        EXPECT_EQ(copy.rtf.contains("{\\f1\\fnil\\fcharset0 OrvaneFra;}"), plain);
+        EXPECT_EQ(copy.rtf.contains("\\u-10916?"), plain) << copy.rtf.toStdString();
     }
 }
 

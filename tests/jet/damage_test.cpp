@@ -33,22 +33,7 @@ protected:
                                      QString(i % 40 == 0 ? 20000 : 30 * (i % 9), u'글')});
         }
         writer.commit();
-        QFile file(path(u"whole.mdb"_s));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        whole = file.readAll();
-    }
-
-    QByteArray bytesOf(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    void write(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        whole = bytesOf(u"whole.mdb"_s);
     }
 
     QByteArray whole;

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "jet/error.h"
+#include "jet/engine_fixture.h"
 #include "jet/store/field_types.h"
-#include "jet/store/store_writer.h"
-
-#include <gtest/gtest.h>
 
 #include <limits>
 
@@ -65,16 +62,6 @@ TEST(FieldTypesTest, DatesAreReadInTheirFormsAndNothingElseIs)
     }
 }
 
-int conversionFailure(const QVariant& value, FieldType type, int size = 0)
-{
-    try {
-        storedValue(value, type, size);
-    } catch (const JetError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
 TEST(FieldTypesTest, ValuesAreConvertedToTheColumnOrRefused)
 {
     EXPECT_EQ(storedValue(u" 12 "_s, FieldType::Long, 0), QVariant(12));
@@ -87,13 +74,16 @@ TEST(FieldTypesTest, ValuesAreConvertedToTheColumnOrRefused)
     EXPECT_TRUE(storedValue({}, FieldType::Text, 2).isNull());
     EXPECT_FALSE(storedValue(QString(), FieldType::Text, 2).isNull());
 
-    EXPECT_EQ(conversionFailure(256, FieldType::Byte), 3421);
-    EXPECT_EQ(conversionFailure(-32769, FieldType::Short), 3421);
-    EXPECT_EQ(conversionFailure(2147483648.0, FieldType::Long), 3421);
-    EXPECT_EQ(conversionFailure(u""_s, FieldType::Long), 3421);
-    EXPECT_EQ(conversionFailure(u"inf"_s, FieldType::Double), 3421);
-    EXPECT_EQ(conversionFailure(u"2023-02-30"_s, FieldType::Date), 3421);
-    EXPECT_EQ(conversionFailure(u"가나다"_s, FieldType::Text, 2), 3163);
+    const auto failure = [](const QVariant& value, FieldType type, int size = 0) {
+        return errorOf([&] { storedValue(value, type, size); });
+    };
+    EXPECT_EQ(failure(256, FieldType::Byte), 3421);
+    EXPECT_EQ(failure(-32769, FieldType::Short), 3421);
+    EXPECT_EQ(failure(2147483648.0, FieldType::Long), 3421);
+    EXPECT_EQ(failure(u""_s, FieldType::Long), 3421);
+    EXPECT_EQ(failure(u"inf"_s, FieldType::Double), 3421);
+    EXPECT_EQ(failure(u"2023-02-30"_s, FieldType::Date), 3421);
+    EXPECT_EQ(failure(u"가나다"_s, FieldType::Text, 2), 3163);
 }
 
 } // namespace

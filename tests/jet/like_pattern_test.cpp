@@ -22,7 +22,7 @@ bool matches(const QString& pattern, const QString& text, Case sensitivity = Cas
         .matches({utf8.constData(), static_cast<std::size_t>(utf8.size())});
 }
 
-TEST(LikePatternTest, PatternsMatchWhatTheirSignsSay)
+TEST(LikePatternTest, TextsAreTakenToTheLetter)
 {
     struct Row
     {
@@ -30,72 +30,12 @@ TEST(LikePatternTest, PatternsMatchWhatTheirSignsSay)
         QString text;
         bool matches;
     };
-    const QString book = u"\U0001F4D6"_s; // outside the first plane: two UTF-16 units
     const Row rows[] = {
-        {u""_s, u""_s, true},
-        {u""_s, u"a"_s, false},
-        {u"*"_s, u""_s, true},
-        {u"*\uFEFF*"_s, u"a"_s, false},
-        {u"*\uFEFF*"_s, u"a\uFEFF"_s, true},
-        {u"\uFEFFa*"_s, u"ab"_s, false},
-        {u"**"_s, u"가"_s, true},
-        {u"?"_s, u""_s, false},
-        {u"?"_s, u"가"_s, true},
-        {u"?"_s, book, true},
-        {u"??"_s, book, false},
-        {u"a?c"_s, u"a"_s + book + u"c"_s, true},
-        {u"#"_s, u"7"_s, true},
-        {u"#"_s, u"٧"_s, false},
-        {u"#"_s, u"a"_s, false},
-        {u"word"_s, u"word"_s, true},
-        {u"word"_s, u"Word"_s, false},
-        {u"word"_s, u"word "_s, false},
-        {u"word "_s, u"word"_s, false},
-        {u"43요:003:*"_s, u"43요:003:016"_s, true},
-        {u"43요:003:*"_s, u"43요:003:"_s, true},
-        {u"43요:003:*"_s, u"43요:0031:1"_s, false},
-        {u"*말씀"_s, u"태초의 말씀"_s, true},
-        {u"*말씀"_s, u"말씀이"_s, false},
-        {u"*말씀*"_s, u"태초의 말씀이"_s, true},
-        {u"*말씀*"_s, u"말 씀"_s, false},
-        {u"??요:*"_s, u"43요:003:016"_s, true},
-        {u"??요:*"_s, u"4요:003:016"_s, false},
-        {u"*a*b*"_s, u"xbxaxb"_s, true},
-        {u"*a*b*"_s, u"xbxa"_s, false},
-        {u"*ab"_s, u"aab"_s, true},
-        {u"ab*ab"_s, u"ab"_s, false},
-        {u"ab*ab"_s, u"abab"_s, true},
-        {u"ab*ab"_s, u"aba"_s, false},
-        {u"a*?"_s, u"a"_s, false},
-        {u"*?가?*"_s, u"가가"_s, false},
-        {u"*?가?*"_s, u"가가가"_s, true},
-        {u"[abc]"_s, u"b"_s, true},
-        {u"[abc]"_s, u"d"_s, false},
-        {u"[!abc]"_s, u"d"_s, true},
-        {u"[!abc]"_s, u""_s, false},
-        {u"[a-cx-z]"_s, u"y"_s, true},
-        {u"[a-cx-z]"_s, u"m"_s, false},
-        {u"[가-깋]"_s, u"강"_s, true},
-        {u"[가-깋]"_s, u"나"_s, false},
-        {u"[!a-c]?"_s, book + u"a"_s, true},
-        {u"[-a]"_s, u"-"_s, true},
-        {u"[a-]"_s, u"-"_s, true},
-        {u"[!-a]"_s, u"-"_s, false},
-        {u"[!-a]"_s, u"b"_s, true},
-        {u"[!]"_s, u"!"_s, true},
-        {u"[a!]"_s, u"!"_s, true},
-        {u"x[]y"_s, u"xy"_s, true},
-        {u"x[]y"_s, u"x]y"_s, false},
-        {u"[[]"_s, u"["_s, true},
-        {u"a[[]b"_s, u"a[b"_s, true},
-        {u"*[*]*"_s, u"a*b"_s, true},
-        {u"*[*]*"_s, u"ab"_s, false},
-        {u"[?]"_s, u"a"_s, false},
-        {u"[?]"_s, u"?"_s, true},
-        {u"[#]"_s, u"1"_s, false},
-        {u"a]b"_s, u"a]b"_s, true},
-        {u"a-b!"_s, u"a-b!"_s, true},
-        {u"50%_"_s, u"50%_"_s, true},
+        {u"*\uFEFF*"_s, u"a"_s, false},  {u"*\uFEFF*"_s, u"a\uFEFF"_s, true},
+        {u"\uFEFFa*"_s, u"ab"_s, false}, {u"#"_s, u"٧"_s, false},
+        {u"word"_s, u"Word"_s, false},   {u"word"_s, u"word "_s, false},
+        {u"word "_s, u"word"_s, false},  {u"[가-깋]"_s, u"강"_s, true},
+        {u"[가-깋]"_s, u"나"_s, false},  {u"50%_"_s, u"50%_"_s, true},
         {u"50%"_s, u"500"_s, false},
     };
     for (const Row& row : rows) {
@@ -176,10 +116,12 @@ bool naive(std::u32string_view pattern, std::u32string_view text)
 
 TEST(LikePatternTest, RandomPatternsAgreeWithAPlainMatcher)
 {
-    const std::vector<std::u32string> parts{U"a",    U"b",      U"가", U"\U0001F4D6", U"1",
-                                            U"*",    U"*",      U"?",  U"#",          U"[ab]",
-                                            U"[!a]", U"[a-가]", U"[]", U"ab",         U"[*]"};
-    const std::u32string letters = U"aab가\U0001F4D61*";
+    const std::vector<std::u32string> parts{
+        U"a",   U"a",   U"a",   U"b",    U"b",    U"*",     U"*",      U"*",          U"*",
+        U"?",   U"?",   U"?",   U"#",    U"1",    U"9",     U"ab",     U"가",         U"\U0001F4D6",
+        U"-",   U"!",   U"]",   U"[]",   U"[ab]", U"[!a]",  U"[a-가]", U"[1-3가-나]", U"[*]",
+        U"[[]", U"[?]", U"[#]", U"[-a]", U"[a-]", U"[!-a]", U"[!]",    U"[a!]"};
+    const std::u32string letters = U"aab가\U0001F4D619*-![?]";
     std::mt19937 random(20240229);
     const auto upTo = [&random](std::size_t most) {
         return std::uniform_int_distribution<std::size_t>(0, most)(random);

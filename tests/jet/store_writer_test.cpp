@@ -1,16 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "jet/error.h"
+#include "jet/engine_fixture.h"
 #include "jet/sqlite_probe.h"
-#include "jet/store/store_writer.h"
-
-#include <gtest/gtest.h>
 
 #include <QDate>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <functional>
 
 namespace lumen {
 
@@ -31,17 +23,7 @@ TableSchema sermons()
                         {.name = u"번호"_s, .columns = {u"번호"_s}, .unique = true}}};
 }
 
-class StoreWriterTest : public testing::Test
-{
-protected:
-    QString path(const QString& name) const { return folder.filePath(name); }
-    QStringList files() const
-    {
-        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-
-    QTemporaryDir folder;
-};
+using StoreWriterTest = EngineTest;
 
 TEST_F(StoreWriterTest, RowsKeepOrderTypesNullAndEmptyText)
 {
@@ -58,45 +40,31 @@ TEST_F(StoreWriterTest, RowsKeepOrderTypesNullAndEmptyText)
     EXPECT_EQ(files(), QStringList{u"a.mdb"_s});
 }
 
-int failureOf(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const JetError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
 TEST_F(StoreWriterTest, AFailedStoreLeavesTheFormerFileAndNothingElse)
 {
-    QFile former(path(u"a.mdb"_s));
-    ASSERT_TRUE(former.open(QIODevice::WriteOnly));
-    former.write("former");
-    former.close();
+    write(u"a.mdb"_s, "former");
     {
         StoreWriter writer(path(u"a.mdb"_s), StoreCompare::Text);
         writer.createTable(sermons());
         const QVariantList row{1, u"가"_s, QVariant(), QVariant(), false, u"x"_s};
         writer.addRow(u"설교"_s, row);
-        EXPECT_EQ(failureOf([&] { writer.addRow(u"설교"_s, {2, u"나"_s}); }), 3001);
-        EXPECT_EQ(failureOf([&] { writer.addRow(u"없음"_s, {}); }), 3078);
-        EXPECT_EQ(failureOf([&] { writer.createTable(sermons()); }), 3010);
+        EXPECT_EQ(errorOf([&] { writer.addRow(u"설교"_s, {2, u"나"_s}); }), 3001);
+        EXPECT_EQ(errorOf([&] { writer.addRow(u"없음"_s, {}); }), 3078);
+        EXPECT_EQ(errorOf([&] { writer.createTable(sermons()); }), 3010);
         EXPECT_EQ(
-            failureOf([&] {
+            errorOf([&] {
                 writer.addRow(u"설교"_s, {3, u"다"_s, QVariant(), QVariant(), false, QVariant()});
             }),
             3314);
-        EXPECT_EQ(failureOf([&] { writer.addRow(u"설교"_s, row); }), 3022);
+        EXPECT_EQ(errorOf([&] { writer.addRow(u"설교"_s, row); }), 3022);
         // Two rows of one number: the unique index of commit() refuses them.
         writer.addRow(u"설교"_s, {4, u"라"_s, QVariant(), QVariant(), false, u"x"_s});
-        EXPECT_EQ(failureOf([&] { writer.commit(); }), 3022);
+        EXPECT_EQ(errorOf([&] { writer.commit(); }), 3022);
     }
     EXPECT_EQ(files(), QStringList{u"a.mdb"_s});
-    ASSERT_TRUE(former.open(QIODevice::ReadOnly));
-    EXPECT_EQ(former.readAll(), "former");
+    EXPECT_EQ(bytesOf(u"a.mdb"_s), "former");
     EXPECT_EQ(
-        failureOf([&] { const StoreWriter writer(path(u"no/such/a.mdb"_s), StoreCompare::Text); }),
+        errorOf([&] { const StoreWriter writer(path(u"no/such/a.mdb"_s), StoreCompare::Text); }),
         3183);
 }
 

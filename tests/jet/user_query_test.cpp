@@ -15,7 +15,7 @@ using Line = SampleTable::Line;
 class UserQueryTest : public EngineTest
 {
 protected:
-    void openSermons()
+    void SetUp() override
     {
         makeStore(u"설교매니저.mdb"_s, StoreCompare::Text,
                   {.name = u"설교"_s,
@@ -44,7 +44,6 @@ protected:
 
 TEST_F(UserQueryTest, TextsCompareWithoutCaseAndTrailingBlanks)
 {
-    openSermons();
     struct Row
     {
         QString condition;
@@ -92,7 +91,6 @@ TEST_F(UserQueryTest, TextsCompareWithoutCaseAndTrailingBlanks)
 
 TEST_F(UserQueryTest, DistinctValuesComeSortedWithOneNull)
 {
-    openSermons();
     const auto kinds = database->OpenRecordset(u"select distinct 분류 from 설교"_s);
     EXPECT_EQ(columnOf(*kinds, u"분류"),
               (QStringList{u"NULL"_s, u"수요예배"_s, u"주일 낮"_s, u"주일 밤"_s}));
@@ -109,7 +107,6 @@ TEST_F(UserQueryTest, DistinctValuesComeSortedWithOneNull)
 
 TEST_F(UserQueryTest, ASelectIntoMakesATableOfTheSameTypes)
 {
-    openSermons();
     database->Execute(
         u"select 일련번호, 제목 as 이름, 설교일 into 사본 from 설교 where 제목 is not null"_s);
     EXPECT_EQ(database->RecordsAffected(), 5);

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <numeric>
 
 using namespace Qt::StringLiterals;
@@ -83,18 +82,6 @@ TEST_F(FontLineBreakerTest, WidthAndSizeDecideAboutTheLines)
     // A target without room still gives every character a place.
     const auto narrow = m_breaker.lineLengths(m_text, u"DejaVu Sans"_s, 16, -100, 0);
     EXPECT_EQ(std::accumulate(narrow.begin(), narrow.end(), qsizetype(0)), m_text.size());
-}
-
-TEST_F(FontLineBreakerTest, DividedLinesReadAsTheVerseDoes)
-{
-    QString stored(m_text);
-    std::reverse(stored.begin(), stored.end());
-    QString read;
-    for (QString line : hebrewLines(stored, {u"DejaVu Sans"_s, 32, 2600}, m_breaker)) {
-        std::reverse(line.begin(), line.end());
-        read += line;
-    }
-    EXPECT_EQ(read, m_text);
 }
 
 } // namespace
