@@ -19,11 +19,50 @@ std::optional<QString> optionalText(const Field& field)
     return value.toString();
 }
 
+bool endsWord(QChar c)
+{
+    constexpr char16_t kNextLine = 0x85;
+    return (c >= u'\t' && c <= u'\r') || c == kNextLine || c == QChar::LineSeparator ||
+           c == QChar::ParagraphSeparator;
+}
+
+bool takesNoPlace(QChar c)
+{
+    // A document ends and begins paragraphs at the two noncharacters.
+    return c.category() == QChar::Other_Control || c == u'\uFDD0' || c == u'\uFDD1';
+}
+
 } // namespace
+
+QString singleLine(const QString& text)
+{
+    QString line;
+    line.reserve(text.size());
+    bool blankWanted = false;
+    for (const QChar c : text) {
+        if (endsWord(c)) {
+            blankWanted = true;
+        } else if (!takesNoPlace(c)) {
+            if (blankWanted && !line.isEmpty() && c != u' ' && !line.endsWith(u' '))
+                line += u' ';
+            blankWanted = false;
+            line += c;
+        }
+    }
+    // The text that follows a heading's piece must not run into it.
+    if (blankWanted && !line.isEmpty() && !line.endsWith(u' '))
+        line += u' ';
+    return line;
+}
+
+QString readableText(const QString& stored)
+{
+    return singleLine(DES::UnscrambleField(stored));
+}
 
 QString verseText(const VerseRow& row)
 {
-    return row.cont ? DES::UnscrambleField(*row.cont) : QString();
+    return row.cont ? readableText(*row.cont) : QString();
 }
 
 QString chapterQuery(const QString& table, int book, int chapter, int slot)
@@ -63,8 +102,9 @@ QList<VerseRow> versesOf(Recordset& rows)
     verses.reserve(rows.RecordCount());
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext())
         verses << VerseRow{Text(rows.Fields(u"index")), Number(rows.Fields(u"verse")),
-                           optionalText(rows.Fields(u"cont")), Text(rows.Fields(u"part")),
-                           Text(rows.Fields(u"miniTitle"))};
+                           optionalText(rows.Fields(u"cont")),
+                           singleLine(Text(rows.Fields(u"part"))),
+                           singleLine(Text(rows.Fields(u"miniTitle")))};
     rows.MoveFirst();
     return verses;
 }

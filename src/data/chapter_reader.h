@@ -17,11 +17,17 @@ struct VerseRow
     QString key;                 ///< the VerseIndex
     int verse = 0;               ///< 1-based
     std::optional<QString> cont; ///< stored form; nothing for Null
-    QString part;                ///< "" for Null
-    QString miniTitle;           ///< "" for Null
+    QString part;                ///< on one line; "" for Null
+    QString miniTitle;           ///< the same
 };
 
-/// The readable text of a verse; "" for Null.
+/// A text of a module on one line, each sign taking one place in the views: line ends and tabs
+/// become a blank (one together, none beside a blank), other control characters go.
+QString singleLine(const QString& text);
+
+/// The readable text of a stored verse, on one line.
+QString readableText(const QString& stored);
+/// The same of a row; "" for Null.
 QString verseText(const VerseRow& row);
 
 /// The query of a chapter for a slot of the reader: 0 the base version, 1 to 3 the parallel ones.

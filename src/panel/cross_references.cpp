@@ -2,6 +2,7 @@
 #include "panel/cross_references.h"
 
 #include "canon/verse_index.h"
+#include "data/chapter_reader.h"
 #include "data/version_font.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
@@ -129,7 +130,7 @@ std::optional<QString> CrossReferences::readVerse(const QString& key) const
                                             u"] where index = '"_s + key + u"'"_s);
     if (rows->RecordCount() == 0)
         return {};
-    return DES::UnscrambleField(Text(rows->Fields(u"cont")));
+    return readableText(Text(rows->Fields(u"cont")));
 }
 
 void CrossReferences::showText(const QString& verse, int code)

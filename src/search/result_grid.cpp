@@ -2,11 +2,11 @@
 #include "search/result_grid.h"
 
 #include "canon/verse_index.h"
+#include "data/chapter_reader.h"
 #include "forms/verse_copy.h"
 #include "jet/rows/recordset.h"
 #include "platform/controls/flex_grid.h"
 #include "search/result_pages.h"
-#include "text/field_scramble.h"
 
 #include <algorithm>
 #include <vector>
@@ -37,7 +37,7 @@ QList<ResultVerse> versesOfPage(Recordset& result, int page)
         result.setAbsolutePosition(ResultPages(result.RecordCount()).firstRecord(page));
     while (verses.size() < ResultPages::kRowsPerPage && !result.Eof()) {
         verses << ResultVerse{BibleCode::IndexToRef(Text(result.Fields(u"Index"))),
-                              DES::UnscrambleField(Text(result.Fields(u"cont")))};
+                              readableText(Text(result.Fields(u"cont")))};
         result.MoveNext();
     }
     return verses;

@@ -3,11 +3,11 @@
 
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
+#include "data/chapter_reader.h"
 #include "data/version_font.h"
 #include "jet/rows/recordset.h"
 #include "text/basic_text.h"
 #include "text/codepage949.h"
-#include "text/field_scramble.h"
 
 #include <algorithm>
 
@@ -57,7 +57,7 @@ std::optional<QString> composeExtract(Recordset& rows, int code, const ExtractRa
 {
     QString text;
     for (; !rows.Eof(); rows.MoveNext()) {
-        const QString stored = DES::UnscrambleField(Text(rows.Fields(u"cont")));
+        const QString stored = readableText(Text(rows.Fields(u"cont")));
         if (stored.isEmpty())
             continue;
         if (form.verseNumbers)

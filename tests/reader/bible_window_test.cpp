@@ -426,6 +426,25 @@ TEST_F(BibleWindowTest, AChapterWithHolesKeepsItsVerseNumbers)
     EXPECT_EQ(grid.TextMatrix(3, 3), u"KJV 4절"_s);
 }
 
+TEST_F(BibleWindowTest, LineEndsAndControlCharactersOfAModuleShiftNothing)
+{
+    writeVersion(services.folders.data(u"101.dts"_s), u"개역한글"_s,
+                 {{0, 1, 1, u"첫째\r\n줄\u0001과\n둘째\t줄"_s, u"앞\r\n"_s, u"제\n목"_s},
+                  {0, 1, 2, u"가\u2028나\u2029다\u000B라"_s, {}, {}},
+                  {0, 1, 3, u"셋째 절"_s, {}, {}}});
+    start();
+    EXPECT_EQ(reader->txCont->Text(),
+              u"\t『제 목』\n\n1\t앞 첫째 줄과 둘째 줄\n2\t가 나 다 라\n3\t셋째 절\n"_s);
+    quickMove(u"창 1:3"_s);
+    EXPECT_EQ(place(), u"창세기 1장 3절"_s);
+    EXPECT_EQ(reader->txCont->textCursor().selectedText(), u"3\t셋째 절"_s);
+    quickMove(u"창 1:1"_s);
+    click(u"ID_UnicodeCopy");
+    EXPECT_EQ(services.clipboard.plainText(), u"1\t앞 첫째 줄과 둘째 줄 (개역한글 창1:1)"_s);
+    click(u"ID_테이블형식");
+    EXPECT_EQ(reader->hflex본문->TextMatrix(2, 2), u"앞 첫째 줄과 둘째 줄"_s);
+}
+
 TEST_F(BibleWindowTest, ABookOfOneChapterStaysAtItsVerse)
 {
     writeVersion(services.folders.data(u"101.dts"_s), u"개역한글"_s,

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "data/chapter_reader.h"
 #include "reader/chapter_document.h"
 #include "text/rtf/rtf_reader.h"
 
@@ -122,6 +123,19 @@ TEST(ChapterDocument, PositionsAreThoseOfTheShownText)
     }
     EXPECT_EQ(chapter.positions.verseAt(0), 1) << "the blank line belongs to the first verse";
     EXPECT_EQ(chapter.positions.verseAt(1000000), 12);
+}
+
+TEST(ChapterDocument, EverySignTakesOnePlace)
+{
+    QString signs;
+    for (char32_t c = 0; c <= 0x10FFFF; c += c < 0xFFFF ? 1 : 0x1111)
+        if (!QChar::isSurrogate(c))
+            signs += QString::fromUcs4(&c, 1);
+    const QString line = singleLine(u"\r\na\r\nb \n c\td\u2028e\0f\x7Fg\n"_s + signs);
+    EXPECT_TRUE(line.startsWith(u"a b  c d efg !\"#"_s)) << line.left(20).toStdString();
+    const ComposedChapter chapter =
+        composeChapter({{0, 101, {{1, line, {}, line}, {2, u"둘"_s, {}, {}}}}}, plainStyle());
+    EXPECT_EQ(shownText(chapter).mid(chapter.positions.find(2).value().start), u"2\t둘\n"_s);
 }
 
 } // namespace
