@@ -3,6 +3,9 @@
 
 #include "platform/registry/registry_store.h"
 
+#include <algorithm>
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace lumen {
@@ -18,61 +21,111 @@ int centred(int screen, int window)
     return (screen - window) / 2;
 }
 
-int placeOf(const RegistryStore& registry, const QString& name, int screen, int window)
+bool isWithin(int place, int start, int extent)
 {
-    const int place = readNumber(registry, name, 0);
-    return place < kFirstPlace || place > screen ? centred(screen, window) : place;
+    return place >= start + kFirstPlace && place <= start + extent;
 }
 
-int extentOf(const RegistryStore& registry, const QString& name, int smallest, int screen,
-             int fallback)
+qint64 sharedLength(int start, int extent, int otherStart, int otherExtent)
 {
-    const int extent = readNumber(registry, name, 0);
+    return std::max(0, std::min(start + extent, otherStart + otherExtent) -
+                           std::max(start, otherStart));
+}
+
+qint64 sharedArea(const TwipsRect& one, const TwipsRect& other)
+{
+    return sharedLength(one.Left, one.Width, other.Left, other.Width) *
+           sharedLength(one.Top, one.Height, other.Top, other.Height);
+}
+
+/// The rectangle as it is stored; nothing without a position.
+std::optional<TwipsRect> storedPlace(RegistryStore& registry, const GeometryRow& row)
+{
+    registry.OpenKey(settingsPath(row.key));
+    if (registry.GetValue(u"Left"_s, ValueKind::Long).isEmpty())
+        return std::nullopt;
+    return TwipsRect{readNumber(registry, u"Left"_s, 0), readNumber(registry, u"Top"_s, 0),
+                     readNumber(registry, u"Width"_s, 0), readNumber(registry, u"Height"_s, 0)};
+}
+
+/// The screen that a window stands on: of those that hold its corner the one that shows most of
+/// it; the main one when no screen does.
+TwipsRect screenOf(const QList<TwipsRect>& screens, const TwipsRect& window)
+{
+    TwipsRect home = screens.front();
+    qint64 shown = -1;
+    for (const TwipsRect& screen : screens) {
+        const bool holdsCorner = isWithin(window.Left, screen.Left, screen.Width) &&
+                                 isWithin(window.Top, screen.Top, screen.Height);
+        if (holdsCorner && sharedArea(screen, window) > shown) {
+            home = screen;
+            shown = sharedArea(screen, window);
+        }
+    }
+    return home;
+}
+
+int extentOr(int fallback, int extent, int smallest, int screen)
+{
     return extent < smallest || extent > screen ? fallback : extent;
 }
 
-bool hasPosition(const RegistryStore& registry)
+TwipsRect placedOn(const TwipsRect& screen, const TwipsRect& window)
 {
-    return !registry.GetValue(u"Left"_s, ValueKind::Long).isEmpty();
+    TwipsRect placed = window;
+    if (!isWithin(window.Left, screen.Left, screen.Width))
+        placed.Left = screen.Left + centred(screen.Width, window.Width);
+    if (!isWithin(window.Top, screen.Top, screen.Height))
+        placed.Top = screen.Top + centred(screen.Height, window.Height);
+    return placed;
 }
 
-// Without a stored position the window stands centred.
-TwipsRect placed(const RegistryStore& registry, const TwipsSize& screen, const TwipsSize& size)
+TwipsRect centredOn(const TwipsRect& screen, const TwipsSize& size)
 {
-    if (!hasPosition(registry))
-        return {centred(screen.Width, size.Width), centred(screen.Height, size.Height), size.Width,
-                size.Height};
-    return {placeOf(registry, u"Left"_s, screen.Width, size.Width),
-            placeOf(registry, u"Top"_s, screen.Height, size.Height), size.Width, size.Height};
+    return {screen.Left + centred(screen.Width, size.Width),
+            screen.Top + centred(screen.Height, size.Height), size.Width, size.Height};
 }
 
 } // namespace
 
-TwipsRect readGeometry(RegistryStore& registry, const GeometryRow& row, const TwipsSize& screen,
-                       const TwipsSize& design)
+TwipsRect readGeometry(RegistryStore& registry, const GeometryRow& row,
+                       const QList<TwipsRect>& screens, const TwipsSize& design)
 {
-    registry.OpenKey(settingsPath(row.key));
     const TwipsSize fallback{row.fallbackWidth > 0 ? row.fallbackWidth : design.Width,
                              row.fallbackHeight > 0 ? row.fallbackHeight : design.Height};
+    const std::optional<TwipsRect> stored = storedPlace(registry, row);
+    if (!stored)
+        return centredOn(screens.front(), fallback);
+    const TwipsRect screen = screenOf(screens, *stored);
     // Size first: a window whose position is off the screen is centred with the size it will have.
-    const TwipsSize size{
-        extentOf(registry, u"Width"_s, kMinWidth, screen.Width, fallback.Width),
-        extentOf(registry, u"Height"_s, kMinHeight, screen.Height, fallback.Height)};
-    return placed(registry, screen, hasPosition(registry) ? size : fallback);
+    return placedOn(screen, {stored->Left, stored->Top,
+                             extentOr(fallback.Width, stored->Width, kMinWidth, screen.Width),
+                             extentOr(fallback.Height, stored->Height, kMinHeight, screen.Height)});
 }
 
-TwipsRect readPosition(RegistryStore& registry, const GeometryRow& row, const TwipsSize& screen,
-                       const TwipsSize& design)
+TwipsRect readPosition(RegistryStore& registry, const GeometryRow& row,
+                       const QList<TwipsRect>& screens, const TwipsSize& design)
+{
+    const std::optional<TwipsRect> stored = storedPlace(registry, row);
+    if (!stored)
+        return centredOn(screens.front(), design);
+    const TwipsRect window{stored->Left, stored->Top, design.Width, design.Height};
+    return placedOn(screenOf(screens, window), window);
+}
+
+bool readMaximized(RegistryStore& registry, const GeometryRow& row)
 {
     registry.OpenKey(settingsPath(row.key));
-    return placed(registry, screen, design);
+    return readSwitch(registry, u"Maximized"_s, false);
 }
 
-void saveGeometry(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place)
+void saveGeometry(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place,
+                  bool maximized)
 {
     savePosition(registry, row, place);
     writeNumber(registry, u"Width"_s, place.Width);
     writeNumber(registry, u"Height"_s, place.Height);
+    writeSwitch(registry, u"Maximized"_s, maximized);
 }
 
 void savePosition(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place)

@@ -3,6 +3,7 @@
 
 #include "data/settings.h"
 
+#include <QList>
 #include <QStringView>
 
 namespace lumen {
@@ -48,15 +49,20 @@ inline constexpr GeometryRow kSendMail{settings_key::kSendMail};
 inline constexpr GeometryRow kExtract{settings_key::kExtract};
 } // namespace geometry
 
-/// Where a window comes up: the stored rectangle; centred where the stored position lies outside
-/// the screen or none is stored. `design` is the window's size before.
-TwipsRect readGeometry(RegistryStore& registry, const GeometryRow& row, const TwipsSize& screen,
-                       const TwipsSize& design);
+/// Where a window comes up: the stored rectangle; centred on the first screen, which is the main
+/// one, where the stored position lies outside of all `screens` or none is stored. `design` is the
+/// window's size before.
+TwipsRect readGeometry(RegistryStore& registry, const GeometryRow& row,
+                       const QList<TwipsRect>& screens, const TwipsSize& design);
 /// The position alone, for a window of fixed size; the rectangle has the design size.
-TwipsRect readPosition(RegistryStore& registry, const GeometryRow& row, const TwipsSize& screen,
-                       const TwipsSize& design);
-/// Writes Left, Top, Width and Height under the window's key and leaves it the current one.
-void saveGeometry(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place);
+TwipsRect readPosition(RegistryStore& registry, const GeometryRow& row,
+                       const QList<TwipsRect>& screens, const TwipsSize& design);
+/// True when the window was maximised at its last end.
+bool readMaximized(RegistryStore& registry, const GeometryRow& row);
+/// Writes Left, Top, Width, Height and Maximized under the window's key and leaves it the current
+/// one.
+void saveGeometry(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place,
+                  bool maximized = false);
 /// Writes Left and Top only.
 void savePosition(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place);
 

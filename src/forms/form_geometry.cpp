@@ -4,6 +4,9 @@
 #include "platform/controls/twips.h"
 #include "platform/registry/registry_store.h"
 
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
 
@@ -12,10 +15,22 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
-TwipsSize screen()
+constexpr const char* kPlainFrame = "plainFrame"; // property: QMargins
+
+TwipsRect inTwips(const QRect& pixels)
 {
-    const QSize size = screenTwips();
-    return {size.width(), size.height()};
+    return {toTwips(pixels.left()), toTwips(pixels.top()), toTwips(pixels.width()),
+            toTwips(pixels.height())};
+}
+
+QList<TwipsRect> screens()
+{
+    const QScreen* const main = QGuiApplication::primaryScreen();
+    QList<TwipsRect> found{inTwips(main->geometry())};
+    for (const QScreen* screen : QGuiApplication::screens())
+        if (screen != main)
+            found << inTwips(screen->geometry());
+    return found;
 }
 
 TwipsSize designOf(const QWidget& window)
@@ -23,42 +38,64 @@ TwipsSize designOf(const QWidget& window)
     return {toTwips(window.width()), toTwips(window.height())};
 }
 
+bool isPlain(const QWidget& window)
+{
+    return !window.isMinimized() && !window.isMaximized() && !window.isFullScreen();
+}
+
+/// Notes how wide a window's frame is while it is neither maximised nor minimised: window managers
+/// take borders away from a maximised one.
+class FrameWatch : public QObject
+{
+public:
+    explicit FrameWatch(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto& window = static_cast<QWidget&>(*watched);
+        const bool placed = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+        if (placed && isPlain(window) && window.windowHandle() != nullptr)
+            window.setProperty(kPlainFrame,
+                               QVariant::fromValue(window.windowHandle()->frameMargins()));
+        return false;
+    }
+};
+
 TwipsRect placeOf(const QWidget& window)
 {
-    const bool plain = !window.isMinimized() && !window.isMaximized() && !window.isFullScreen();
     // A window's position is that of its frame, its size the one inside: move() and resize() take
-    // them in the same way. The normal geometry is without a frame altogether.
-    const QPoint frame = window.windowHandle() != nullptr
-                             ? QPoint(window.windowHandle()->frameMargins().left(),
-                                      window.windowHandle()->frameMargins().top())
-                             : QPoint();
-    const QPoint corner = plain ? window.pos() : window.normalGeometry().topLeft() - frame;
-    const QSize size = plain ? window.size() : window.normalGeometry().size();
-    return {toTwips(corner.x()), toTwips(corner.y()), toTwips(size.width()),
-            toTwips(size.height())};
+    // them in the same way.
+    if (isPlain(window))
+        return inTwips({window.pos(), window.size()});
+    // The normal geometry is without a frame; of a window that was never without its state it is
+    // still what move() was told.
+    const auto frame = window.property(kPlainFrame).value<QMargins>();
+    const QRect normal = window.normalGeometry();
+    return inTwips({normal.topLeft() - QPoint(frame.left(), frame.top()), normal.size()});
 }
 
 } // namespace
 
 void Proc시동크기위치설정(RegistryStore& registry, const GeometryRow& row, QWidget& window)
 {
-    const TwipsRect place = readGeometry(registry, row, screen(), designOf(window));
+    const TwipsRect place = readGeometry(registry, row, screens(), designOf(window));
     window.resize(toPixels(place.Width), toPixels(place.Height));
     window.move(toPixels(place.Left), toPixels(place.Top));
-    if (readSwitch(registry, u"Maximized"_s, false))
+    if (readMaximized(registry, row))
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
+    new FrameWatch(window);
 }
 
 void restorePosition(RegistryStore& registry, const GeometryRow& row, QWidget& window)
 {
-    const TwipsRect place = readPosition(registry, row, screen(), designOf(window));
+    const TwipsRect place = readPosition(registry, row, screens(), designOf(window));
     window.move(toPixels(place.Left), toPixels(place.Top));
 }
 
 void saveFormGeometry(RegistryStore& registry, const GeometryRow& row, const QWidget& window)
 {
-    saveGeometry(registry, row, placeOf(window));
-    writeSwitch(registry, u"Maximized"_s, window.isMaximized());
+    saveGeometry(registry, row, placeOf(window), window.isMaximized());
 }
 
 void saveFormPosition(RegistryStore& registry, const GeometryRow& row, const QWidget& window)

@@ -219,13 +219,18 @@ TEST_F(SettingsTest, WindowsComeUpWhereTheyFitTheScreen)
         TwipsRect stored;
         TwipsRect expected;
     };
-    constexpr TwipsSize kScreen{20000, 15000};
+    // The main screen, and a smaller one at its right whose heads don't meet.
+    const QList<TwipsRect> screens{{0, 0, 20000, 15000}, {20000, 2000, 15000, 12000}};
     constexpr TwipsSize kDesign{10000, 7000};
     const Row rows[] = {
         {"all inside", {100, 200, 9000, 7000}, {100, 200, 9000, 7000}},
         {"at the edges", {-60, 15000, 7000, 6100}, {-60, 15000, 7000, 6100}},
         {"left of the screen", {-61, 200, 9000, 7000}, {5500, 200, 9000, 7000}},
-        {"on a monitor that is gone", {25000, 200, 9000, 7000}, {5500, 200, 9000, 7000}},
+        {"on a monitor that is gone", {36000, 200, 9000, 7000}, {5500, 200, 9000, 7000}},
+        {"on the second monitor", {25000, 3000, 9000, 7000}, {25000, 3000, 9000, 7000}},
+        {"at its left edge", {19960, 2500, 9000, 7000}, {19960, 2500, 9000, 7000}},
+        {"larger than it", {19980, 2000, 15001, 12001}, {19980, 2000, 12000, 8000}},
+        {"above it", {25000, 200, 9000, 7000}, {5500, 200, 9000, 7000}},
         {"above and below", {100, 15001, 9000, 7000}, {100, 4000, 9000, 7000}},
         {"too small", {100, 200, 6999, 6099}, {100, 200, 12000, 8000}},
         {"larger than the screen", {100, 200, 20001, 15001}, {100, 200, 12000, 8000}},
@@ -233,14 +238,14 @@ TEST_F(SettingsTest, WindowsComeUpWhereTheyFitTheScreen)
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         saveGeometry(registry, geometry::kBible, row.stored);
-        EXPECT_EQ(readGeometry(registry, geometry::kBible, kScreen, kDesign), row.expected);
+        EXPECT_EQ(readGeometry(registry, geometry::kBible, screens, kDesign), row.expected);
     }
     EXPECT_EQ(get(u"Width"_s), u"20001"_s);
 
     // Nothing stored: centred in the fallback size, or the design size where there is none.
-    EXPECT_EQ(readGeometry(registry, geometry::kBibleSearch, kScreen, kDesign),
+    EXPECT_EQ(readGeometry(registry, geometry::kBibleSearch, screens, kDesign),
               (TwipsRect{5700, 3600, 8600, 7800}));
-    EXPECT_EQ(readGeometry(registry, geometry::kSManager, kScreen, kDesign),
+    EXPECT_EQ(readGeometry(registry, geometry::kSManager, screens, kDesign),
               (TwipsRect{5000, 4000, 10000, 7000}));
 }
 

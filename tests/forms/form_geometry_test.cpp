@@ -42,23 +42,47 @@ TEST_F(FormGeometryTest, WhatWasSavedComesBack)
     EXPECT_EQ(stored(u"Width"_s), QString::number(toTwips(500)));
 }
 
+TEST_F(FormGeometryTest, AWindowOnASecondScreenComesBackThere)
+{
+    ASSERT_EQ(QGuiApplication::screens().size(), 2);
+    window.setGeometry(850, 130, 600, 450);
+    saveFormGeometry(registry, geometry::kBibleSearch, window);
+    QWidget next;
+    Proc시동크기위치설정(registry, geometry::kBibleSearch, next);
+    EXPECT_EQ(next.geometry(), QRect(850, 130, 600, 450));
+    saveFormPosition(registry, geometry::kExtract, window);
+    restorePosition(registry, geometry::kExtract, next);
+    EXPECT_EQ(next.pos(), QPoint(850, 130));
+    window.move(1600, 130); // where a third one was
+    saveFormGeometry(registry, geometry::kBibleSearch, window);
+    Proc시동크기위치설정(registry, geometry::kBibleSearch, next);
+    EXPECT_EQ(next.geometry(), QRect(100, 130, 600, 450));
+}
+
 TEST_F(FormGeometryTest, AMaximisedWindowComesBackSoAndRestoresToWhereItStood)
 {
+    Proc시동크기위치설정(registry, geometry::kBibleSearch, window);
     window.setGeometry(40, 30, 500, 450);
     window.show();
     window.showMaximized();
     ASSERT_TRUE(window.isMaximized());
     saveFormGeometry(registry, geometry::kBibleSearch, window);
+    for (int start = 0; start < 2; ++start) {
+        QWidget again;
+        Proc시동크기위치설정(registry, geometry::kBibleSearch, again);
+        again.show();
+        EXPECT_TRUE(again.isMaximized());
+        saveFormGeometry(registry, geometry::kBibleSearch, again);
+    }
     QWidget next;
     Proc시동크기위치설정(registry, geometry::kBibleSearch, next);
     next.show();
-    EXPECT_TRUE(next.isMaximized());
     next.showNormal();
     EXPECT_EQ(next.geometry(), QRect(40, 30, 500, 450));
     saveFormGeometry(registry, geometry::kBibleSearch, next);
-    QWidget third;
-    Proc시동크기위치설정(registry, geometry::kBibleSearch, third);
-    EXPECT_FALSE(third.isMaximized());
+    QWidget last;
+    Proc시동크기위치설정(registry, geometry::kBibleSearch, last);
+    EXPECT_FALSE(last.isMaximized());
 }
 
 TEST_F(FormGeometryTest, AWindowOfFixedSizeKeepsItsSize)

@@ -32,11 +32,4 @@ int toTwips(int pixels)
     return toTwips(pixels, screenDpi());
 }
 
-QSize screenTwips()
-{
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QSize size = screen ? screen->size() : QSize(1024, 768);
-    return {toTwips(size.width()), toTwips(size.height())};
-}
-
 } // namespace lumen

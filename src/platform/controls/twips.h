@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include <QRect>
-
 namespace lumen {
 
 /// A twip is 1/1440 inch; settings and window places count in twips, whatever the screen.
@@ -16,7 +14,5 @@ int toTwips(int pixels);
 /// The same for a given resolution.
 int toPixels(int twips, int dpi);
 int toTwips(int pixels, int dpi);
-/// The size of the primary screen in twips.
-QSize screenTwips();
 
 } // namespace lumen
