@@ -17,8 +17,9 @@ namespace lumen {
 struct Services;
 
 /// The reference panel of the reader: ten tabs that follow its place. In the state Collapsed only
-/// the headers are in view and no tab loads anything. A click on the header of the tab on show, or
-/// beside the headers, turns the state; so does toggle() from a tool.
+/// the headers are in view and no tab loads anything; a click on a header opens that tab. A click
+/// on the header of the tab on show, or beside the headers, turns the state; so does toggle() from
+/// a tool.
 class ReferencePanel : public QWidget // no Q_OBJECT: moc cannot read the member's name
 {
 public:

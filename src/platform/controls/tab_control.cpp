@@ -52,8 +52,9 @@ bool TabControl::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::MouseButtonRelease) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         const int tab = tabBar()->tabAt(mouse->position().toPoint());
-        if (mouse->button() == Qt::LeftButton && onHeaderClick &&
-            (tab < 0 || tab == m_currentAtPress))
+        const bool changesNoPage =
+            tab == m_currentAtPress || (m_collapsed && tab == currentIndex());
+        if (mouse->button() == Qt::LeftButton && onHeaderClick && (tab < 0 || changesNoPage))
             onHeaderClick(tab);
     }
     return QTabWidget::eventFilter(watched, event);

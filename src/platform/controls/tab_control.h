@@ -32,8 +32,9 @@ public:
 
     /// Another tab is shown, by the user or by code.
     std::function<void(int tab, int previousTab)> onTabClick;
-    /// The user clicked (left button) in the header area without changing the tab: on the header of
-    /// the current tab, or on the empty ground beside the headers (tab -1).
+    /// The user clicked (left button) in the header area without changing the page on show: on the
+    /// header of the current tab, in a collapsed control on any header (behind onTabClick), or on
+    /// the empty ground beside the headers (tab -1).
     std::function<void(int tab)> onHeaderClick;
 
 protected:
