@@ -85,13 +85,5 @@ TEST(VerseCopyTest, SignsOfTheFormatsAreText)
     }
 }
 
-TEST(VerseCopyTest, NothingSelectedIsNothingCopied)
-{
-    const ClipboardContent copy = composeVerseCopy({}, u" (창1:1)"_s, OriginalText::FontCodes);
-    EXPECT_TRUE(copy.plain.isEmpty());
-    EXPECT_TRUE(copy.html.isEmpty());
-    EXPECT_TRUE(copy.rtf.isEmpty());
-}
-
 } // namespace
 } // namespace lumen

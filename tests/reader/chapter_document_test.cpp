@@ -71,17 +71,6 @@ TEST(ChapterDocument, HebrewRowsRunFromTheRightInDividedLines)
     EXPECT_EQ(font, u"OrvaneHebC"_s);
 }
 
-TEST(ChapterDocument, HeadingsAndPiecesFollowTheSwitchAndThePreviewHasBrackets)
-{
-    const std::vector<ChapterSource> sources{{0, 101, {{1, u"글"_s, u"앞"_s, u"제목"_s}}}};
-    ChapterStyle style = plainStyle();
-    style.kind = DocumentKind::Preview;
-    EXPECT_TRUE(body(composeChapter(sources, style)).contains(u"\\fs20[제목]}\\par\\par"_s));
-    style.showMiniTitle = false;
-    const QString without = body(composeChapter(sources, style));
-    EXPECT_EQ(without, u"\\ltrpar\\ql{\\f5\\fs16\\cf5 1}\t\\f2\\cf0\\fs20 글\\par }"_s);
-}
-
 TEST(ChapterDocument, VersesStandBesideThoseOfTheSameNumber)
 {
     const std::vector<ChapterSource> sources{

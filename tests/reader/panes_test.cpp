@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "reader/bookmark_pane.h"
+#include "reader/move_history.h"
 #include "reader/quick_move_pane.h"
 #include "support/active_window.h"
 
@@ -144,6 +145,17 @@ TEST_F(QuickMovePaneTest, ADoubleClickGoesBackWithoutANewEntry)
     pane.lst즉석이동->setFocus();
     QTest::keyClick(pane.lst즉석이동, Qt::Key_Return);
     EXPECT_EQ(moves.size(), 2);
+}
+
+TEST(MoveHistoryTest, TheNewestThirtyPlacesStandOnceEach)
+{
+    MoveHistory history;
+    for (int verse = 1; verse <= 31; ++verse)
+        EXPECT_TRUE(history.add(u"시119:%1"_s.arg(verse)));
+    EXPECT_FALSE(history.add(u"시119:7"_s));
+    EXPECT_EQ(history.entries().size(), 30);
+    EXPECT_EQ(history.entries().first(), u"시119:31"_s);
+    EXPECT_EQ(history.entries().last(), u"시119:2"_s);
 }
 
 } // namespace

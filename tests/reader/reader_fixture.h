@@ -43,14 +43,21 @@ public:
 class ReaderTest : public testing::Test
 {
 protected:
-    /// Loads and shows a reader; one from before is closed first, as at the program's end.
-    void start()
+    /// Loads and shows a reader where the settings tell; one from before is closed first, as at the
+    /// program's end.
+    void startAsLeft()
     {
         close();
         services.state.installed = {}; // the start takes stock itself
         reader = std::make_unique<frm성서>(services.services, services.state, opener);
         ASSERT_TRUE(reader->Form_Load(splash));
         reader->show();
+        QApplication::processEvents();
+    }
+    /// The same in a window of one size for all tests.
+    void start()
+    {
+        ASSERT_NO_FATAL_FAILURE(startAsLeft());
         reader->resize(1000, 700);
         QApplication::processEvents();
     }
@@ -86,6 +93,24 @@ protected:
         QTest::keyClick(box, Qt::Key_Return);
     }
     QString place() const { return reader->statusPanel2->text(); }
+    /// What a copy of the selection gives as plain text.
+    QString copied()
+    {
+        click(u"ID_UnicodeCopy");
+        return services.clipboard.plainText();
+    }
+    void addBookmark() { QTest::mouseClick(reader->bookmarks->cmd책갈피추가, Qt::LeftButton); }
+    /// A message box of a warning.
+    void expectWarning(const QString& title, const QString& text)
+    {
+        services.messages.expect(title, text, 48);
+    }
+    static void drag(QWidget& on, const QPoint& from, const QPoint& by)
+    {
+        QTest::mousePress(&on, Qt::LeftButton, {}, from);
+        QTest::mouseMove(&on, from + by);
+        QTest::mouseRelease(&on, Qt::LeftButton, {}, from + by);
+    }
 
     TestServices services;
     TinyData data{services};
