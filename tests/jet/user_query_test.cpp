@@ -2,15 +2,12 @@
 // The queries on the user's own databases, which compare texts without regard to case, and on the
 // scratch tables of the original-language search.
 #include "jet/engine_fixture.h"
-#include "jet/sample_table.h"
 
 namespace lumen {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Line = SampleTable::Line;
 
 class UserQueryTest : public EngineTest
 {
