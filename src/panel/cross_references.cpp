@@ -3,7 +3,6 @@
 
 #include "canon/verse_index.h"
 #include "data/chapter_reader.h"
-#include "data/version_font.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "forms/wait_pointer.h"
@@ -11,7 +10,6 @@
 #include "text/field_scramble.h"
 
 #include <QHBoxLayout>
-#include <QTextDocument>
 
 namespace lumen {
 
@@ -21,7 +19,6 @@ namespace {
 
 constexpr QStringView kModule = u"\\Data\\CRef.dts";
 constexpr QStringView kNoReferences = u"관주 없음";
-constexpr int kTextPoints = 10;
 
 /// The references as keys; a ";" at the end adds none.
 QStringList keysOf(const QString& references)
@@ -37,7 +34,7 @@ QStringList keysOf(const QString& references)
 } // namespace
 
 CrossReferences::CrossReferences(const PanelHost& host)
-    : ModuleTab(host, kModule, &InstalledFlags::cRef)
+    : ModuleTab(host, kModule, &InstalledFlags::cRef), m_verse(*tx관주본문, host.state.fonts)
 {
     lst정렬->setSorted(true);
     lst정렬->setParent(m_page);
@@ -48,11 +45,6 @@ CrossReferences::CrossReferences(const PanelHost& host)
 
     lst관주목록->onClick = [this] { guarded(m_host.services, m_page, [this] { DispCRefCont(); }); };
     lst관주목록->onDblClick = [this] { openChosen(); };
-    tx관주본문->onResizeEnded = [this] {
-        // The lines of a Hebrew verse are cut to the width of the box.
-        if (isHebrewVersion(m_host.reader.versionCode(0)))
-            guarded(m_host.services, m_page, [this] { DispCRefCont(); });
-    };
 }
 
 void CrossReferences::Proc관주표시()
@@ -85,7 +77,7 @@ void CrossReferences::ClearCRefArea()
 {
     lst관주목록->Clear();
     lst정렬->Clear();
-    tx관주본문->setText(QString());
+    m_verse.show({}, 0);
     tell(QString());
 }
 
@@ -116,7 +108,7 @@ void CrossReferences::DispCRefCont()
         return;
     const WaitPointer wait;
     const std::optional<QString> verse = readVerse(BibleCode::RefToIndex(reference));
-    showText(verse.value_or(QString()), m_host.reader.versionCode(0));
+    m_verse.show(verse.value_or(QString()), m_host.reader.versionCode(0));
 }
 
 std::optional<QString> CrossReferences::readVerse(const QString& key) const
@@ -131,21 +123,6 @@ std::optional<QString> CrossReferences::readVerse(const QString& key) const
     if (rows->RecordCount() == 0)
         return {};
     return readableText(Text(rows->Fields(u"cont")));
-}
-
-void CrossReferences::showText(const QString& verse, int code)
-{
-    const VersionFont versionFont = GetVersionFont(code, m_host.state.fonts);
-    const int points = scaledSize(versionFont.factor, kTextPoints);
-    QFont font(versionFont.font);
-    font.setPointSize(points);
-    tx관주본문->setFont(font);
-    const HebrewTarget target{versionFont.font, 2 * points, tx관주본문->textWidth()};
-    const bool hebrew = isHebrewVersion(code);
-    tx관주본문->setText(hebrew ? DivideHebrewCont(verse, target, false, m_lineBreaker) : verse);
-    QTextOption direction = tx관주본문->document()->defaultTextOption();
-    direction.setAlignment(hebrew ? Qt::AlignRight : Qt::AlignLeft);
-    tx관주본문->document()->setDefaultTextOption(direction);
 }
 
 void CrossReferences::openChosen()

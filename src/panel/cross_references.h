@@ -2,10 +2,10 @@
 #pragma once
 
 #include "panel/module_tab.h"
+#include "panel/verse_box.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
 #include "platform/controls/text_control.h"
-#include "text/original/hebrew_division.h"
 
 #include <optional>
 
@@ -38,10 +38,9 @@ public:
 private:
     void tellCount();
     void openChosen();
-    void showText(const QString& verse, int code);
     std::optional<QString> readVerse(const QString& key) const;
 
-    FontLineBreaker m_lineBreaker;
+    VerseBox m_verse;
     std::optional<VersePlace> m_shown; ///< what the list was filled for
 };
 

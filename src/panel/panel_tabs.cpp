@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/panel_tabs.h"
 
+#include "panel/concordance.h"
 #include "panel/cross_references.h"
 #include "panel/dictionary_tabs.h"
 #include "panel/matthew_henry.h"
@@ -22,8 +23,8 @@ std::unique_ptr<PanelTab> made(const PanelHost& host)
 }
 
 constexpr std::array kMakers{
-    made<CrossReferences>, made<BibleDictionary>, made<EnglishDictionary>, made<MatthewHenry>,
-    made<Wesley>,          made<WordAnalysisTab>, made<UnitConverter>,
+    made<CrossReferences>, made<BibleDictionary>, made<Concordance>,     made<EnglishDictionary>,
+    made<MatthewHenry>,    made<Wesley>,          made<WordAnalysisTab>, made<UnitConverter>,
 };
 
 } // namespace

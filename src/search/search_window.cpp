@@ -6,6 +6,7 @@
 #include "forms/guarded.h"
 #include "forms/page_failure.h"
 #include "forms/reader_place.h"
+#include "forms/right_to_left_typing.h"
 #include "forms/tool_icons.h"
 #include "forms/version_combo.h"
 #include "forms/wait_pointer.h"
@@ -14,7 +15,6 @@
 #include "platform/dialogs/message_boxes.h"
 #include "platform/registry/registry_store.h"
 #include "search/messages.h"
-#include "search/right_to_left_typing.h"
 #include "search/search_tools.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/right_to_left_typing.h"
+#include "forms/right_to_left_typing.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
