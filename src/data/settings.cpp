@@ -18,12 +18,6 @@ constexpr SettingRule kBook{.smallest = 0, .largest = kBookCount - 1};
 constexpr SettingRule kColor{.smallest = 0, .largest = kLargestColor};
 constexpr SettingRule kPaneSize{.smallest = 0, .largest = kLargestSize, .absentAsZero = true};
 
-template <auto Member, typename Group>
-SettingPlace at(Group& values, std::size_t)
-{
-    return &(values.*Member);
-}
-
 template <auto Member>
 SettingPlace copyOption(ReaderSettings& settings, std::size_t)
 {
@@ -38,29 +32,30 @@ SettingPlace colorOf(ReaderSettings& settings, std::size_t)
 
 using Reader = ReaderSettings;
 constexpr std::array kReaderRows{
-    SettingRow<Reader>{u"FontSize", at<&Reader::FontSize>, {.smallest = 1, .largest = 5}},
-    SettingRow<Reader>{u"ViewMode", at<&Reader::ViewMode>},
+    SettingRow<Reader>{u"FontSize", settingAt<&Reader::FontSize>, {.smallest = 1, .largest = 5}},
+    SettingRow<Reader>{u"ViewMode", settingAt<&Reader::ViewMode>},
     SettingRow<Reader>{u"RefBarRatio",
-                       at<&Reader::RefBarRatio>,
+                       settingAt<&Reader::RefBarRatio>,
                        {.smallest = 0.336, .largest = 0.59, .beyond = Beyond::Limit}},
-    SettingRow<Reader>{u"RefBarMode", at<&Reader::RefBarMode>},
-    SettingRow<Reader>{u"ShowMiniTitle", at<&Reader::ShowMiniTitle>, {.onlyOneIsOn = true}},
-    SettingRow<Reader>{u"BookNum", at<&Reader::BookNum>, kBook},
-    SettingRow<Reader>{u"ChapNum", at<&Reader::ChapNum>},
-    SettingRow<Reader>{u"DefVerNum", at<&Reader::DefVerNum>},
+    SettingRow<Reader>{u"RefBarMode", settingAt<&Reader::RefBarMode>},
+    SettingRow<Reader>{u"ShowMiniTitle", settingAt<&Reader::ShowMiniTitle>, {.onlyOneIsOn = true}},
+    SettingRow<Reader>{u"BookNum", settingAt<&Reader::BookNum>, kBook},
+    SettingRow<Reader>{u"ChapNum", settingAt<&Reader::ChapNum>},
+    SettingRow<Reader>{u"DefVerNum", settingAt<&Reader::DefVerNum>},
     SettingRow<Reader>{
         u"Interlinear%1",
         [](Reader& reader, std::size_t slot) -> SettingPlace { return &reader.Interlinear[slot]; },
         kAny, Writer::Window, std::tuple_size_v<decltype(Reader::Interlinear)>},
-    SettingRow<Reader>{u"TabNum", at<&Reader::TabNum>},
+    SettingRow<Reader>{u"TabNum", settingAt<&Reader::TabNum>},
     // A chapter of 400 is twenty screens already.
-    SettingRow<Reader>{u"LineSpacing", at<&Reader::LineSpacing>, {.smallest = 100, .largest = 400}},
-    SettingRow<Reader>{u"TableColumns", at<&Reader::TableColumns>},
-    SettingRow<Reader>{u"BookToolbar", at<&Reader::BookToolbar>},
-    SettingRow<Reader>{u"Path", at<&Reader::Path>},
-    SettingRow<Reader>{u"HomePage", at<&Reader::HomePage>, kAny, Writer::Nobody},
+    SettingRow<Reader>{
+        u"LineSpacing", settingAt<&Reader::LineSpacing>, {.smallest = 100, .largest = 400}},
+    SettingRow<Reader>{u"TableColumns", settingAt<&Reader::TableColumns>},
+    SettingRow<Reader>{u"BookToolbar", settingAt<&Reader::BookToolbar>},
+    SettingRow<Reader>{u"Path", settingAt<&Reader::Path>},
+    SettingRow<Reader>{u"HomePage", settingAt<&Reader::HomePage>, kAny, Writer::Nobody},
 
-    SettingRow<Reader>{u"MainFont", at<&Reader::MainFont>, kAny, Writer::Preferences},
+    SettingRow<Reader>{u"MainFont", settingAt<&Reader::MainFont>, kAny, Writer::Preferences},
     SettingRow<Reader>{u"DefVerColor", colorOf<&ReaderColors::DefVerColor>, kColor,
                        Writer::Preferences},
     SettingRow<Reader>{u"Ver%1Color",
@@ -103,37 +98,40 @@ constexpr std::array kUserFontRows{
 };
 
 constexpr std::array kSearchRows{
-    SettingRow<SearchSettings>{u"ResultWidth", at<&SearchSettings::ResultWidth>, kPaneSize},
-    SettingRow<SearchSettings>{u"VerseHeight", at<&SearchSettings::VerseHeight>, kPaneSize},
-    SettingRow<SearchSettings>{u"ParsingHeight", at<&SearchSettings::ParsingHeight>, kPaneSize},
-    SettingRow<SearchSettings>{u"StrongWidth", at<&SearchSettings::StrongWidth>, kPaneSize},
-    SettingRow<SearchSettings>{u"MarkHits", at<&SearchSettings::MarkHits>},
+    SettingRow<SearchSettings>{u"ResultWidth", settingAt<&SearchSettings::ResultWidth>, kPaneSize},
+    SettingRow<SearchSettings>{u"VerseHeight", settingAt<&SearchSettings::VerseHeight>, kPaneSize},
+    SettingRow<SearchSettings>{u"ParsingHeight", settingAt<&SearchSettings::ParsingHeight>,
+                               kPaneSize},
+    SettingRow<SearchSettings>{u"StrongWidth", settingAt<&SearchSettings::StrongWidth>, kPaneSize},
+    SettingRow<SearchSettings>{u"MarkHits", settingAt<&SearchSettings::MarkHits>},
 };
 
 constexpr std::array kExtractRows{
-    SettingRow<ExtractSettings>{u"Version", at<&ExtractSettings::Version>},
-    SettingRow<ExtractSettings>{u"BookNum", at<&ExtractSettings::BookNum>, kBook},
-    SettingRow<ExtractSettings>{u"ChapNum", at<&ExtractSettings::ChapNum>},
-    SettingRow<ExtractSettings>{u"SVerse", at<&ExtractSettings::SVerse>},
-    SettingRow<ExtractSettings>{u"EVerse", at<&ExtractSettings::EVerse>},
-    SettingRow<ExtractSettings>{u"AtchVerNum", at<&ExtractSettings::AtchVerNum>},
-    SettingRow<ExtractSettings>{u"VerLf", at<&ExtractSettings::VerLf>},
-    SettingRow<ExtractSettings>{u"ToClip", at<&ExtractSettings::ToClip>},
-    SettingRow<ExtractSettings>{u"Tail", at<&ExtractSettings::Tail>},
-    SettingRow<ExtractSettings>{u"Folder", at<&ExtractSettings::Folder>},
+    SettingRow<ExtractSettings>{u"Version", settingAt<&ExtractSettings::Version>},
+    SettingRow<ExtractSettings>{u"BookNum", settingAt<&ExtractSettings::BookNum>, kBook},
+    SettingRow<ExtractSettings>{u"ChapNum", settingAt<&ExtractSettings::ChapNum>},
+    SettingRow<ExtractSettings>{u"SVerse", settingAt<&ExtractSettings::SVerse>},
+    SettingRow<ExtractSettings>{u"EVerse", settingAt<&ExtractSettings::EVerse>},
+    SettingRow<ExtractSettings>{u"AtchVerNum", settingAt<&ExtractSettings::AtchVerNum>},
+    SettingRow<ExtractSettings>{u"VerLf", settingAt<&ExtractSettings::VerLf>},
+    SettingRow<ExtractSettings>{u"ToClip", settingAt<&ExtractSettings::ToClip>},
+    SettingRow<ExtractSettings>{u"Tail", settingAt<&ExtractSettings::Tail>},
+    SettingRow<ExtractSettings>{u"Folder", settingAt<&ExtractSettings::Folder>},
 };
 
 constexpr SettingRule kPaper{.smallest = 0, .largest = 1000, .absentAsZero = true}; // centimetres
 constexpr std::array kPreviewRows{
-    SettingRow<PreviewSettings>{u"PaperSize", at<&PreviewSettings::PaperSize>},
-    SettingRow<PreviewSettings>{u"UserPaperWidth", at<&PreviewSettings::UserPaperWidth>, kPaper},
-    SettingRow<PreviewSettings>{u"UserPaperHeight", at<&PreviewSettings::UserPaperHeight>, kPaper},
+    SettingRow<PreviewSettings>{u"PaperSize", settingAt<&PreviewSettings::PaperSize>},
+    SettingRow<PreviewSettings>{u"UserPaperWidth", settingAt<&PreviewSettings::UserPaperWidth>,
+                                kPaper},
+    SettingRow<PreviewSettings>{u"UserPaperHeight", settingAt<&PreviewSettings::UserPaperHeight>,
+                                kPaper},
 };
 
 constexpr std::array kMailRows{
-    SettingRow<MailSettings>{u"SMTP", at<&MailSettings::SMTP>},
-    SettingRow<MailSettings>{u"myAddress", at<&MailSettings::myAddress>},
-    SettingRow<MailSettings>{u"UserName", at<&MailSettings::UserName>},
+    SettingRow<MailSettings>{u"SMTP", settingAt<&MailSettings::SMTP>},
+    SettingRow<MailSettings>{u"myAddress", settingAt<&MailSettings::myAddress>},
+    SettingRow<MailSettings>{u"UserName", settingAt<&MailSettings::UserName>},
 };
 
 bool isWithin(double value, const SettingRule& rule)
@@ -283,28 +281,6 @@ void writeSetting(RegistryStore& registry, const QString& name, const SettingRul
     const Writing writing = std::visit(WritingOf(), place);
     if (!rule.absentAsZero || Val(writing.text) > 0)
         registry.SetValue(name, writing.text, writing.kind);
-}
-
-int readNumber(const RegistryStore& registry, const QString& name, int fallback)
-{
-    takeSetting(registry.GetValue(name, ValueKind::String), kAny, &fallback);
-    return fallback;
-}
-
-bool readSwitch(const RegistryStore& registry, const QString& name, bool fallback)
-{
-    takeSetting(registry.GetValue(name, ValueKind::String), kAny, &fallback);
-    return fallback;
-}
-
-void writeNumber(RegistryStore& registry, const QString& name, int value)
-{
-    writeSetting(registry, name, kAny, &value);
-}
-
-void writeSwitch(RegistryStore& registry, const QString& name, bool value)
-{
-    writeSetting(registry, name, kAny, &value);
 }
 
 ReaderSettings readReaderSettings(RegistryStore& registry, int tabCount)

@@ -164,6 +164,13 @@ struct SettingRow
     std::size_t count = 1;
 };
 
+/// The place of a plain member: settingAt<&Group::member>.
+template <auto Member, typename Group>
+SettingPlace settingAt(Group& values, std::size_t)
+{
+    return &(values.*Member);
+}
+
 /// All values that stand together under one key.
 template <typename Group>
 struct SettingTable
@@ -212,13 +219,6 @@ void saveSettings(RegistryStore& registry, const SettingTable<Group>& table, Gro
         for (std::size_t i = 0; i < row.count && row.writer == writer; ++i)
             writeSetting(registry, settingName(row.name, i), row.rule, row.place(values, i));
 }
-
-/// A value of the current key as a number: `fallback` when it is absent.
-int readNumber(const RegistryStore& registry, const QString& name, int fallback);
-/// A value of the current key as a switch, on for any number but 0: `fallback` when it is absent.
-bool readSwitch(const RegistryStore& registry, const QString& name, bool fallback);
-void writeNumber(RegistryStore& registry, const QString& name, int value);
-void writeSwitch(RegistryStore& registry, const QString& name, bool value);
 
 /// The reader's settings; `tabCount` is the number of tabs of the panel.
 ReaderSettings readReaderSettings(RegistryStore& registry, int tabCount);

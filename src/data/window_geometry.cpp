@@ -4,9 +4,10 @@
 #include "platform/registry/registry_store.h"
 
 #include <algorithm>
+#include <array>
+#include <limits>
 #include <optional>
-
-using namespace Qt::StringLiterals;
+#include <span>
 
 namespace lumen {
 namespace {
@@ -38,14 +39,40 @@ qint64 sharedArea(const TwipsRect& one, const TwipsRect& other)
            sharedLength(one.Top, one.Height, other.Top, other.Height);
 }
 
+constexpr int kNotStored = std::numeric_limits<int>::min();
+
+/// What is kept of a window's place.
+struct StoredPlace
+{
+    int Left = kNotStored;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool Maximized = false;
+
+    TwipsRect rect() const { return {Left, Top, Width, Height}; }
+};
+
+using Row = SettingRow<StoredPlace>;
+constexpr std::array kPlaceRows{
+    Row{u"Left", settingAt<&StoredPlace::Left>},
+    Row{u"Top", settingAt<&StoredPlace::Top>},
+    Row{u"Width", settingAt<&StoredPlace::Width>},
+    Row{u"Height", settingAt<&StoredPlace::Height>},
+    Row{u"Maximized", settingAt<&StoredPlace::Maximized>},
+};
+constexpr std::size_t kPositionRows = 2;
+
+StoredPlace readPlace(RegistryStore& registry, const GeometryRow& row)
+{
+    return readSettings(registry, SettingTable<StoredPlace>{row.key, kPlaceRows});
+}
+
 /// The rectangle as it is stored; nothing without a position.
 std::optional<TwipsRect> storedPlace(RegistryStore& registry, const GeometryRow& row)
 {
-    registry.OpenKey(settingsPath(row.key));
-    if (registry.GetValue(u"Left"_s, ValueKind::Long).isEmpty())
-        return std::nullopt;
-    return TwipsRect{readNumber(registry, u"Left"_s, 0), readNumber(registry, u"Top"_s, 0),
-                     readNumber(registry, u"Width"_s, 0), readNumber(registry, u"Height"_s, 0)};
+    const StoredPlace place = readPlace(registry, row);
+    return place.Left == kNotStored ? std::nullopt : std::optional(place.rect());
 }
 
 /// The screen that a window stands on: of those that hold its corner the one that shows most of
@@ -91,12 +118,14 @@ TwipsRect centredOn(const TwipsRect& screen, const TwipsSize& size)
 TwipsRect readGeometry(RegistryStore& registry, const GeometryRow& row,
                        const QList<TwipsRect>& screens, const TwipsSize& design)
 {
-    const TwipsSize fallback{row.fallbackWidth > 0 ? row.fallbackWidth : design.Width,
-                             row.fallbackHeight > 0 ? row.fallbackHeight : design.Height};
     const std::optional<TwipsRect> stored = storedPlace(registry, row);
+    const TwipsRect screen = stored ? screenOf(screens, *stored) : screens.front();
+    // A screen of large pixels may be smaller than the fallback.
+    const TwipsSize fallback{
+        std::min(row.fallbackWidth > 0 ? row.fallbackWidth : design.Width, screen.Width),
+        std::min(row.fallbackHeight > 0 ? row.fallbackHeight : design.Height, screen.Height)};
     if (!stored)
-        return centredOn(screens.front(), fallback);
-    const TwipsRect screen = screenOf(screens, *stored);
+        return centredOn(screen, fallback);
     // Size first: a window whose position is off the screen is centred with the size it will have.
     return placedOn(screen, {stored->Left, stored->Top,
                              extentOr(fallback.Width, stored->Width, kMinWidth, screen.Width),
@@ -115,24 +144,20 @@ TwipsRect readPosition(RegistryStore& registry, const GeometryRow& row,
 
 bool readMaximized(RegistryStore& registry, const GeometryRow& row)
 {
-    registry.OpenKey(settingsPath(row.key));
-    return readSwitch(registry, u"Maximized"_s, false);
+    return readPlace(registry, row).Maximized;
 }
 
 void saveGeometry(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place,
                   bool maximized)
 {
-    savePosition(registry, row, place);
-    writeNumber(registry, u"Width"_s, place.Width);
-    writeNumber(registry, u"Height"_s, place.Height);
-    writeSwitch(registry, u"Maximized"_s, maximized);
+    saveSettings<StoredPlace>(registry, {row.key, kPlaceRows},
+                              {place.Left, place.Top, place.Width, place.Height, maximized});
 }
 
 void savePosition(RegistryStore& registry, const GeometryRow& row, const TwipsRect& place)
 {
-    registry.OpenKey(settingsPath(row.key));
-    writeNumber(registry, u"Left"_s, place.Left);
-    writeNumber(registry, u"Top"_s, place.Top);
+    saveSettings<StoredPlace>(registry, {row.key, std::span(kPlaceRows).first(kPositionRows)},
+                              {.Left = place.Left, .Top = place.Top});
 }
 
 } // namespace lumen

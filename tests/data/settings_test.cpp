@@ -247,6 +247,9 @@ TEST_F(SettingsTest, WindowsComeUpWhereTheyFitTheScreen)
               (TwipsRect{5700, 3600, 8600, 7800}));
     EXPECT_EQ(readGeometry(registry, geometry::kSManager, screens, kDesign),
               (TwipsRect{5000, 4000, 10000, 7000}));
+    // Large pixels make a screen of few twips.
+    EXPECT_EQ(readGeometry(registry, geometry::kQTSearch, {{0, 0, 8000, 5800}}, kDesign),
+              (TwipsRect{0, 0, 8000, 5800}));
 }
 
 } // namespace
