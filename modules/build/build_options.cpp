@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/build_options.h"
 
-#include "build/original_recipes.h"
+#include "build/reference_recipes.h"
 #include "common/arguments.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "build/module_task.h"
 #include "build/recipes.h"
 #include "platform/result.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "build/module_task.h"
+#include "build/module_builder.h"
 #include "platform/result.h"
 
 #include <QString>

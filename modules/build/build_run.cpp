@@ -3,9 +3,8 @@
 
 #include "build/build_progress.h"
 #include "build/build_report.h"
-#include "build/module_builder.h"
 #include "build/original_recipes.h"
-#include "build/reference_builder.h"
+#include "build/reference_recipes.h"
 #include "build/user_sources.h"
 #include "common/interruption.h"
 
@@ -24,12 +23,12 @@ namespace {
 constexpr int kKorean = 101;
 constexpr int kBaptist = 103;
 
-using TaskMap = std::map<int, ModuleTask>;
+using TaskMap = std::map<int, VersionTask>;
 
 void addInstalled(const BuildOptions& options, const SourceFolders& folders, TaskMap& tasks)
 {
-    for (ModuleTask& task : installedTasks(folders, options.renumbering))
-        tasks[task.code] = std::move(task);
+    for (const VersionTask& task : installedTasks(folders, options.renumbering))
+        tasks[task.code()] = task;
 }
 
 void addUserSources(const BuildOptions& options, const SourceFolders& folders,
@@ -51,12 +50,11 @@ void addOriginals(const SourceFolders& folders, const UserSources& user, TaskMap
                   BuildPlan& plan)
 {
     OriginalSources sources = installedOriginals(folders);
-    sources.byzantineFiles = user.byzantineFiles;
     if (tasks.contains(kKorean))
         sources.koreanFiles = tasks[kKorean].source.files;
     plan.corpus = std::make_unique<OriginalCorpus>(std::move(sources));
-    for (ModuleTask& task : originalVersionTasks(*plan.corpus))
-        tasks.try_emplace(task.code, std::move(task));
+    for (const VersionTask& task : originalVersionTasks(*plan.corpus, user.byzantineFiles))
+        tasks.try_emplace(task.code(), task);
 }
 
 bool isWanted(const BuildOptions& options, int code)
@@ -76,7 +74,7 @@ void refuseWithoutSource(const BuildOptions& options, const TaskMap& tasks, Buil
         if (tasks.contains(code))
             continue;
         ModuleOutcome outcome;
-        outcome.code = code;
+        outcome.file = QString::number(code);
         outcome.name = catalogueName(code);
         outcome.state = ModuleState::SourceMissing;
         outcome.problem = code == kBaptist ? u"--baptist와 개역한글의 원본이 있어야 합니다."_s
@@ -95,30 +93,19 @@ Result<BuildPlan> planOneModule(const BuildOptions& options, const SourceFolders
                        u"원본을 찾을 수 없습니다: %1"_s.arg(options.files.join(u' '))};
     BuildPlan plan;
     plan.mode = options.mode;
-    plan.tasks.push_back(userTask(options.moduleCode, options.moduleName, source.value(), folders,
-                                  options.renumbering));
+    plan.tasks.push_back(std::make_unique<VersionTask>(userTask(
+        options.moduleCode, options.moduleName, source.value(), folders, options.renumbering)));
     return plan;
 }
 
-QString labelAt(const BuildPlan& plan, std::size_t at)
+// While the longest task reads the sources that it shares with others, the other workers have the
+// versions to make.
+std::vector<std::size_t> workOrder(const BuildPlan& plan)
 {
-    if (at >= plan.tasks.size()) {
-        const ReferenceTask& task = plan.references[at - plan.tasks.size()];
-        return u"%1 %2"_s.arg(task.file, task.name);
-    }
-    const ModuleTask& task = plan.tasks[at];
-    return u"%1 %2"_s.arg(task.code).arg(task.name);
-}
-
-// The first of the references takes longest, so that it comes first. While it reads the sources
-// that they share, the other workers have the versions to make.
-std::vector<std::size_t> workOrder(std::size_t versions, std::size_t count)
-{
-    std::vector<std::size_t> order(count);
+    std::vector<std::size_t> order(plan.tasks.size());
     std::iota(order.begin(), order.end(), std::size_t(0));
-    if (versions < count)
-        std::rotate(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(versions),
-                    order.begin() + static_cast<std::ptrdiff_t>(versions) + 1);
+    std::ranges::stable_partition(order,
+                                  [&plan](std::size_t i) { return plan.tasks[i]->takesLongest; });
     return order;
 }
 
@@ -140,33 +127,31 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     if (options.baptist && tasks.contains(kKorean))
         tasks[kBaptist] = baptistTask(tasks[kKorean]);
     refuseWithoutSource(options, tasks, plan);
-    for (auto& [code, task] : tasks)
+    for (const auto& [code, task] : tasks)
         if (isWanted(options, code))
-            plan.tasks.push_back(std::move(task));
-    for (ReferenceTask& task : referenceTasks(plan.corpus->sources()))
+            plan.tasks.push_back(std::make_unique<VersionTask>(task));
+    for (const ReferenceTask& task : referenceTasks(*plan.corpus, installedReferences(folders)))
         if (isWanted(options, task.file))
-            plan.references.push_back(std::move(task));
+            plan.tasks.push_back(std::make_unique<ReferenceTask>(task));
     return plan;
 }
 
 std::vector<ModuleOutcome> runPlan(const BuildPlan& plan, const QString& outFolder, int jobs)
 {
-    const std::size_t versions = plan.tasks.size();
-    const std::size_t count = versions + plan.references.size();
+    const std::size_t count = plan.tasks.size();
     std::vector<ModuleOutcome> outcomes(count);
     BuildProgress progress(count);
     const auto make = [&](std::size_t i) {
-        const QString label = labelAt(plan, i);
+        const ModuleTask& task = *plan.tasks[i];
+        const QString label = u"%1 %2"_s.arg(task.file, task.name);
         const auto advance = [&](double share) {
             progress.advance(i, share, label);
             return !interrupted();
         };
-        outcomes[i] = i < versions ? buildModule(plan.tasks[i], outFolder, advance, plan.mode)
-                                   : buildReference(plan.references[i - versions], *plan.corpus,
-                                                    outFolder, advance, plan.mode);
+        outcomes[i] = buildModule(task, outFolder, advance, plan.mode);
         progress.finish(i, outcomeLine(outcomes[i]));
     };
-    const std::vector<std::size_t> order = workOrder(versions, count);
+    const std::vector<std::size_t> order = workOrder(plan);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
         for (std::size_t i = next++; i < count; i = next++)

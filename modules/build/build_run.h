@@ -2,8 +2,8 @@
 #pragma once
 
 #include "build/build_options.h"
-#include "build/module_task.h"
-#include "original/reference_task.h"
+#include "build/module_builder.h"
+#include "original/original_corpus.h"
 
 #include <QStringList>
 
@@ -15,10 +15,10 @@ namespace lumen {
 /// What is to be made, and what was found on the way that has no place.
 struct BuildPlan
 {
-    std::vector<ModuleTask> tasks; ///< in the order of the codes
-    std::vector<ReferenceTask> references;
-    std::unique_ptr<OriginalCorpus>
-        corpus;                         ///< what the modules of the original languages read from
+    /// What the modules of the original languages read from; goes after the tasks that read it.
+    std::unique_ptr<OriginalCorpus> corpus;
+    /// The versions in the order of their codes, then the others.
+    std::vector<std::unique_ptr<const ModuleTask>> tasks;
     std::vector<ModuleOutcome> refused; ///< modules asked for that can't be made
     QStringList remarks;
     BuildMode mode;
@@ -28,8 +28,7 @@ struct BuildPlan
 Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& folders);
 
 /// Makes the modules of a plan, several at once, and shows how far it has come. The outcomes stand
-/// in the order of the tasks, then of the references. When the user asks to stop, what isn't
-/// finished is Interrupted.
+/// in the order of the tasks. When the user asks to stop, what isn't finished is Interrupted.
 std::vector<ModuleOutcome> runPlan(const BuildPlan& plan, const QString& outFolder, int jobs);
 
 } // namespace lumen

@@ -2,13 +2,13 @@
 #include "build/build_command.h"
 #include "build/build_options.h"
 #include "build/module_builder.h"
-#include "build/module_stamp.h"
 #include "build/original_recipes.h"
 #include "build/recipes.h"
-#include "build/reference_builder.h"
+#include "build/reference_recipes.h"
 #include "common/arguments.h"
 #include "common/console.h"
 #include "common/row_digest.h"
+#include "reference/module_stamp.h"
 
 #include <QFileInfo>
 
@@ -37,34 +37,18 @@ QString builtState(const QString& file, bool upToDate)
 
 QString stateOf(const ModuleTask& task, const QString& folder)
 {
-    const QString file = moduleFile(folder, task.code);
+    const QString file = moduleFile(folder, task);
     const bool built = QFileInfo::exists(file);
-    if (!sourceIsThere(task.source))
+    if (!task.sourcesAreThere())
         return built ? u"만들어져 있음, 원본 없음"_s : task.hint;
     if (!built)
         return u"만들 수 있음"_s;
-    return builtState(file, storedStamp(file) == taskStamp(task));
+    return builtState(file, task.isCurrent(storedStamp(file)));
 }
 
-QString stateOf(const ReferenceTask& task, const QString& folder)
+void listTasks(const auto& tasks, const QString& folder)
 {
-    const QString file = u"%1/%2.dts"_s.arg(folder, task.file);
-    const bool built = QFileInfo::exists(file);
-    const QString missing = missingReferenceSource(task);
-    if (!missing.isEmpty())
-        return built ? u"만들어져 있음, 원본 없음"_s : missing;
-    if (!built)
-        return u"만들 수 있음"_s;
-    return builtState(file, isUpToDate(task, storedStamp(file)));
-}
-
-void listOriginals(const QString& folder)
-{
-    OriginalCorpus corpus(installedOriginals(installedFolders()));
-    for (const ModuleTask& task : originalVersionTasks(corpus))
-        printLine(
-            u"%1 %2: %3 [%4]"_s.arg(task.code).arg(task.name, stateOf(task, folder), task.origin));
-    for (const ReferenceTask& task : referenceTasks(corpus.sources()))
+    for (const ModuleTask& task : tasks)
         printLine(
             u"%1 %2: %3 [%4]"_s.arg(task.file, task.name, stateOf(task, folder), task.origin));
 }
@@ -83,10 +67,11 @@ int runList(const QStringList& args)
         return kExitDone;
     }
     const QString folder = parsed.value().value(u"out"_s, defaultDataFolder());
-    for (const ModuleTask& task : installedTasks(installedFolders(), Renumbering::Keep))
-        printLine(
-            u"%1 %2: %3 [%4]"_s.arg(task.code).arg(task.name, stateOf(task, folder), task.origin));
-    listOriginals(folder);
+    const SourceFolders sources = installedFolders();
+    OriginalCorpus corpus(installedOriginals(sources));
+    listTasks(installedTasks(sources, Renumbering::Keep), folder);
+    listTasks(originalVersionTasks(corpus, {}), folder);
+    listTasks(referenceTasks(corpus, installedReferences(sources)), folder);
     printLine(u"개역한글(101)과 개역한자(102)는 JSON 파일로, 다른 역본은 SWORD, OSIS, USFM 파일로 "
               u"만들 수 "
               "있습니다. \"lumen-modules build --help\"를 보십시오."_s);

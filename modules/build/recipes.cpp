@@ -105,7 +105,7 @@ QString hintOf(const Recipe& recipe)
 }
 
 // The King James text of the SWORD package has words cut in two that the tagged copy has whole.
-void setWitness(ModuleTask& task, const SourceFolders& folders)
+void setWitness(VersionTask& task, const SourceFolders& folders)
 {
     const ModuleSource witness{SourceFormat::Osis, {folders.bibledit + u"/sources/kjv.xml"_s}, {}};
     task.reader = [source = task.source, witness] {
@@ -118,12 +118,12 @@ void setWitness(ModuleTask& task, const SourceFolders& folders)
     };
 }
 
-void setRenumbering(ModuleTask& task, const SourceFolders& folders)
+void setRenumbering(VersionTask& task, const SourceFolders& folders)
 {
     QString own;
-    if (task.code == 214 || task.code == 216)
+    if (task.code() == 214 || task.code() == 216)
         own = u"Vulgate.txt"_s;
-    else if (task.code == 224)
+    else if (task.code() == 224)
         own = u"Russian_Protestant.txt"_s;
     if (own.isEmpty())
         return;
@@ -152,12 +152,12 @@ SourceFolders installedFolders()
                 u"/lumenscript/npm"_s};
 }
 
-std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering renumbering)
+std::vector<VersionTask> installedTasks(const SourceFolders& folders, Renumbering renumbering)
 {
-    std::vector<ModuleTask> tasks;
+    std::vector<VersionTask> tasks;
     for (const Recipe& recipe : kRecipes) {
-        ModuleTask task;
-        task.code = recipe.code;
+        VersionTask task;
+        task.setCode(recipe.code);
         task.name = catalogueName(recipe.code);
         task.source = sourceOf(recipe, folders);
         if (recipe.mend)
@@ -166,7 +166,7 @@ std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering
         task.licence = recipe.licence.toString();
         task.hint = hintOf(recipe);
         task.isWhole = true;
-        if (task.code == 201)
+        if (task.code() == 201)
             setWitness(task, folders);
         if (renumbering == Renumbering::English)
             setRenumbering(task, folders);
@@ -177,11 +177,11 @@ std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering
     return tasks;
 }
 
-ModuleTask userTask(int code, const QString& name, const ModuleSource& source,
-                    const SourceFolders& folders, Renumbering renumbering)
+VersionTask userTask(int code, const QString& name, const ModuleSource& source,
+                     const SourceFolders& folders, Renumbering renumbering)
 {
-    ModuleTask task;
-    task.code = code;
+    VersionTask task;
+    task.setCode(code);
     task.name = isUserSlot(code) ? name.trimmed() : catalogueName(code);
     task.source = source;
     task.origin = u"사용자가 준비한 파일"_s;
@@ -205,11 +205,11 @@ ModuleTask userTask(int code, const QString& name, const ModuleSource& source,
     return task;
 }
 
-ModuleTask baptistTask(const ModuleTask& korean)
+VersionTask baptistTask(const VersionTask& korean)
 {
-    ModuleTask task = korean;
-    task.code = 103;
-    task.name = catalogueName(task.code);
+    VersionTask task = korean;
+    task.setCode(103);
+    task.name = catalogueName(task.code());
     task.mends.push_back(Mending::baptist);
     task.origin += u" (\"세례\"를 \"침례\"로 바꿈)"_s;
     return task;

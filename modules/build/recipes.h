@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "build/module_task.h"
+#include "build/version_task.h"
 
 #include <QString>
 
@@ -24,15 +24,15 @@ SourceFolders installedFolders();
 enum class Renumbering { Keep, English };
 
 /// The modules that can be made from installed packages, whether these are there or not.
-std::vector<ModuleTask> installedTasks(const SourceFolders& folders, Renumbering renumbering);
+std::vector<VersionTask> installedTasks(const SourceFolders& folders, Renumbering renumbering);
 
 /// The task for a file that the user supplies; mends and conditions are those of the code. The name
 /// is taken from the catalogue, that of a user slot from `name`.
-ModuleTask userTask(int code, const QString& name, const ModuleSource& source,
-                    const SourceFolders& folders, Renumbering renumbering);
+VersionTask userTask(int code, const QString& name, const ModuleSource& source,
+                     const SourceFolders& folders, Renumbering renumbering);
 
 /// The Baptists' edition out of the task of the Korean text.
-ModuleTask baptistTask(const ModuleTask& korean);
+VersionTask baptistTask(const VersionTask& korean);
 
 /// Why a module of this code can't be made under this name, "" when it can.
 QString whyNotBuildable(int code, const QString& name);

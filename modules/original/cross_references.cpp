@@ -131,10 +131,10 @@ Result<CrossReferences> readCrossReferences(const QString& file)
     return result;
 }
 
-Result<ReferenceReport> fillCrossReferences(OriginalCorpus& corpus, ModuleStore& store)
+Result<ModuleReport> fillCrossReferences(const QString& file, ModuleStore& store)
 {
     const QString table = u"cref"_s;
-    const auto references = readCrossReferences(corpus.sources().crossReferences);
+    const auto references = readCrossReferences(file);
     if (!references)
         return references.failure();
     store.createTable(
@@ -150,10 +150,10 @@ Result<ReferenceReport> fillCrossReferences(OriginalCorpus& corpus, ModuleStore&
                                   scrambledOrNull(joinedReferences(targets))}))
             return Failure{FailureKind::Cancelled, {}};
     }
-    ReferenceReport report;
+    ModuleReport report;
     report.facts << u"관주 %1"_s.arg(count);
     if (references.value().outside > 0)
-        report.remarks << u"정경에 없는 곳을 가리켜 뺀 관주: %1"_s.arg(references.value().outside);
+        report.details << u"정경에 없는 곳을 가리켜 뺀 관주: %1"_s.arg(references.value().outside);
     return report;
 }
 

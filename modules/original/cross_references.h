@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "original/reference_task.h"
+#include "reference/module_task.h"
 
 #include <map>
 #include <set>
@@ -24,7 +24,7 @@ struct CrossReferences
 /// shape.
 Result<CrossReferences> readCrossReferences(const QString& file);
 
-/// The table of cross references.
-Result<ReferenceReport> fillCrossReferences(OriginalCorpus& corpus, ModuleStore& store);
+/// The table of cross references out of the script file.
+Result<ModuleReport> fillCrossReferences(const QString& file, ModuleStore& store);
 
 } // namespace lumen

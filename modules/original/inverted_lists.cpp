@@ -251,7 +251,7 @@ QString ListWriter::fact() const
 
 } // namespace
 
-Result<ReferenceReport> fillInvertedLists(OriginalCorpus& corpus, ModuleStore& store)
+Result<ModuleReport> fillInvertedLists(OriginalCorpus& corpus, ModuleStore& store)
 {
     // The number of rows is known at the end only; this is near enough for showing progress.
     constexpr std::size_t kAboutRows = 157000;
@@ -259,7 +259,7 @@ Result<ReferenceReport> fillInvertedLists(OriginalCorpus& corpus, ModuleStore& s
     if (!content)
         return content.failure();
     store.expect(kAboutRows);
-    ReferenceReport report;
+    ModuleReport report;
     for (const bool isGreek : {false, true}) {
         ListWriter writer(content.value(), isGreek, store);
         if (!writer.write())

@@ -23,9 +23,7 @@ struct OriginalSources
     QString hebrewStrong;
     QString hebrewIndex; ///< of the Hebrew lexicon, with references to the Theological Wordbook
     QString greekStrong;
-    QString crossReferences;
-    QStringList byzantineFiles; ///< of the user, a book a file
-    QStringList koreanFiles;    ///< of the user: the Korean text that glosses are derived from
+    QStringList koreanFiles; ///< of the user: the Korean text that glosses are derived from
 
     /// What words and their analysis come from, without the Korean text.
     QStringList textFiles() const;

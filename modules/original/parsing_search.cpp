@@ -23,7 +23,7 @@ QString searchedCodes(const OriginalVerse& verse)
     return codes;
 }
 
-Result<ReferenceReport> fillParsingSearch(OriginalCorpus& corpus, ModuleStore& store)
+Result<ModuleReport> fillParsingSearch(OriginalCorpus& corpus, ModuleStore& store)
 {
     const QString table = u"ParsingSearch"_s;
     const auto& content = corpus.content();
@@ -42,8 +42,8 @@ Result<ReferenceReport> fillParsingSearch(OriginalCorpus& corpus, ModuleStore& s
                                   scrambledOrNull(codes)}))
             return Failure{FailureKind::Cancelled, {}};
     }
-    ReferenceReport report;
-    report.remarks << u"가장 긴 절의 코드: %1자"_s.arg(longest);
+    ModuleReport report;
+    report.details << u"가장 긴 절의 코드: %1자"_s.arg(longest);
     return report;
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "original/reference_task.h"
+#include "original/original_corpus.h"
+#include "reference/module_task.h"
 
 namespace lumen {
 
@@ -10,6 +11,6 @@ namespace lumen {
 QString searchedCodes(const OriginalVerse& verse);
 
 /// The table of the parsing search, one row a verse.
-Result<ReferenceReport> fillParsingSearch(OriginalCorpus& corpus, ModuleStore& store);
+Result<ModuleReport> fillParsingSearch(OriginalCorpus& corpus, ModuleStore& store);
 
 } // namespace lumen

@@ -88,7 +88,7 @@ public:
     {
     }
 
-    Result<ReferenceReport> run();
+    Result<ModuleReport> run();
 
 private:
     QVariantList rowOf(int strong, const StrongEntry& entry);
@@ -101,7 +101,7 @@ private:
     int m_withReference = 0;
 };
 
-Result<ReferenceReport> DictionaryWriter::run()
+Result<ModuleReport> DictionaryWriter::run()
 {
     const StrongEntries& entries = m_isGreek ? m_content.greekStrong : m_content.hebrewStrong;
     m_store.createTable(dictionaryTable(m_isGreek ? u"TDNT"_s : u"TWOT"_s));
@@ -112,7 +112,7 @@ Result<ReferenceReport> DictionaryWriter::run()
         if (!m_store.addRow(kTable, rowOf(strong, entry)))
             return Failure{FailureKind::Cancelled, {}};
     m_store.addOriginLine(u"korean"_s, m_content.korean.originLine());
-    ReferenceReport report;
+    ModuleReport report;
     report.facts << u"우리말 뜻 %1"_s.arg(m_withKorean);
     if (!m_isGreek)
         report.facts << u"TWOT %1"_s.arg(m_withReference);
@@ -136,7 +136,7 @@ QVariantList DictionaryWriter::rowOf(int strong, const StrongEntry& entry)
             scrambledOrNull(entry.meaning)};
 }
 
-Result<ReferenceReport> fillStrong(OriginalCorpus& corpus, bool isGreek, ModuleStore& store)
+Result<ModuleReport> fillStrong(OriginalCorpus& corpus, bool isGreek, ModuleStore& store)
 {
     const auto& content = corpus.content();
     if (!content)
@@ -162,12 +162,12 @@ QString greekPartOfSpeech(QStringView code)
     return found == kGreekParts.end() ? QString() : found->korean.toString();
 }
 
-Result<ReferenceReport> fillHebrewStrong(OriginalCorpus& corpus, ModuleStore& store)
+Result<ModuleReport> fillHebrewStrong(OriginalCorpus& corpus, ModuleStore& store)
 {
     return fillStrong(corpus, false, store);
 }
 
-Result<ReferenceReport> fillGreekStrong(OriginalCorpus& corpus, ModuleStore& store)
+Result<ModuleReport> fillGreekStrong(OriginalCorpus& corpus, ModuleStore& store)
 {
     return fillStrong(corpus, true, store);
 }

@@ -57,7 +57,7 @@ public:
     {
     }
 
-    Result<ReferenceReport> run();
+    Result<ModuleReport> run();
 
 private:
     bool addVerse(const OriginalVerse& verse);
@@ -73,7 +73,7 @@ private:
     Counts m_greek;
 };
 
-Result<ReferenceReport> AnalysisWriter::run()
+Result<ModuleReport> AnalysisWriter::run()
 {
     constexpr std::size_t kKinds = 7;
     m_store.createTable(analysisTable());
@@ -89,9 +89,9 @@ Result<ReferenceReport> AnalysisWriter::run()
             return Failure{FailureKind::Cancelled, {}};
     }
     m_store.addOriginLine(u"korean"_s, m_content.korean.originLine());
-    ReferenceReport report;
+    ModuleReport report;
     report.facts << m_hebrew.line(u"히브리어"_s) << m_greek.line(u"헬라어"_s);
-    report.remarks << m_content.hebrewRemarks << m_content.greekRemarks
+    report.details << m_content.hebrewRemarks << m_content.greekRemarks
                    << m_content.korean.remarks();
     return report;
 }
@@ -167,7 +167,7 @@ void AnalysisWriter::count(const OriginalVerse& verse)
 
 } // namespace
 
-Result<ReferenceReport> fillWordAnalysis(OriginalCorpus& corpus, ModuleStore& store)
+Result<ModuleReport> fillWordAnalysis(OriginalCorpus& corpus, ModuleStore& store)
 {
     const auto& content = corpus.content();
     if (!content)

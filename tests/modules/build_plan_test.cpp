@@ -6,19 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace lumen {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-const ModuleTask* taskOf(const BuildPlan& plan, int code)
-{
-    const auto found = std::find_if(plan.tasks.begin(), plan.tasks.end(),
-                                    [code](const ModuleTask& task) { return task.code == code; });
-    return found == plan.tasks.end() ? nullptr : &*found;
-}
 
 class BuildPlanTest : public testing::Test
 {
@@ -45,7 +36,7 @@ protected:
     QString remarks() const { return m_plan.remarks.join(u'\n'); }
     QString usedFile(int code) const
     {
-        const ModuleTask* task = taskOf(m_plan, code);
+        const VersionTask* task = versionIn(m_plan, code);
         return task ? task->source.files.value(0) : u"none"_s;
     }
 
@@ -67,20 +58,20 @@ TEST_F(BuildPlanTest, FindsWhatLiesInAUserFolder)
     files.write(u"user/304/a.xml"_s, u"<osis/>"_s);
     files.write(u"user/sword/mods.d/bbe.conf"_s, u"[BBE]\nDataPath=./x/\n"_s);
     plan(true);
-    const ModuleTask* korean = taskOf(m_plan, 101);
+    const VersionTask* korean = versionIn(m_plan, 101);
     ASSERT_NE(korean, nullptr);
     // A damaged file beside the good ones is a fault of the module and not passed over.
     EXPECT_EQ(korean->source.files.size(), 2);
     EXPECT_EQ(korean->numbering, Numbering::Korean);
     EXPECT_TRUE(usedFile(102).contains(u"mixed"_s));
-    ASSERT_NE(taskOf(m_plan, 103), nullptr);
-    EXPECT_EQ(taskOf(m_plan, 103)->mends.size(), korean->mends.size() + 1);
-    ASSERT_NE(taskOf(m_plan, 901), nullptr);
-    EXPECT_EQ(taskOf(m_plan, 901)->name, u"나의 역본"_s);
-    ASSERT_NE(taskOf(m_plan, 211), nullptr);
-    EXPECT_EQ(taskOf(m_plan, 211)->source.format, SourceFormat::Sword);
-    EXPECT_NE(taskOf(m_plan, 214), nullptr);
-    EXPECT_EQ(taskOf(m_plan, 304), nullptr);
+    ASSERT_NE(versionIn(m_plan, 103), nullptr);
+    EXPECT_EQ(versionIn(m_plan, 103)->mends.size(), korean->mends.size() + 1);
+    ASSERT_NE(versionIn(m_plan, 901), nullptr);
+    EXPECT_EQ(versionIn(m_plan, 901)->name, u"나의 역본"_s);
+    ASSERT_NE(versionIn(m_plan, 211), nullptr);
+    EXPECT_EQ(versionIn(m_plan, 211)->source.format, SourceFormat::Sword);
+    EXPECT_NE(versionIn(m_plan, 214), nullptr);
+    EXPECT_EQ(versionIn(m_plan, 304), nullptr);
     EXPECT_TRUE(remarks().contains(u"304: "_s));
 }
 
@@ -89,7 +80,7 @@ TEST_F(BuildPlanTest, OnlyTheWordingOfTheEditionMakesAFolderWithoutANumberTheKor
     book(u"user/a-english/Ruth.json"_s, u"somebody said this is a trial");
     book(u"user/b-new/Ruth.json"_s, kNewKorean);
     plan();
-    EXPECT_EQ(taskOf(m_plan, 101), nullptr);
+    EXPECT_EQ(versionIn(m_plan, 101), nullptr);
     for (const QString& folder : {u"a-english"_s, u"b-new"_s})
         EXPECT_TRUE(remarks().contains(u"알 수 없습니다: "_s + files.path(u"user/"_s + folder)))
             << remarks().toStdString();
@@ -123,9 +114,9 @@ TEST_F(BuildPlanTest, ASuppliedTextGoesBeforeAnInstalledOne)
 {
     files.write(u"user/201/gen.usfm"_s, u"\\id GEN"_s);
     BuildOptions options;
-    EXPECT_EQ(taskOf(planBuild(options, {}).value(), 201)->source.format, SourceFormat::Sword);
+    EXPECT_EQ(versionIn(planBuild(options, {}).value(), 201)->source.format, SourceFormat::Sword);
     options.sourceFolder = files.path(u"user"_s);
-    EXPECT_EQ(taskOf(planBuild(options, {}).value(), 201)->source.format, SourceFormat::Usfm);
+    EXPECT_EQ(versionIn(planBuild(options, {}).value(), 201)->source.format, SourceFormat::Usfm);
 }
 
 TEST_F(BuildPlanTest, OnlyWhatIsAskedForAndTellsWhatHasNoSource)
@@ -135,7 +126,7 @@ TEST_F(BuildPlanTest, OnlyWhatIsAskedForAndTellsWhatHasNoSource)
     const auto plan = planBuild(options, {});
     ASSERT_TRUE(plan.ok());
     ASSERT_EQ(plan.value().tasks.size(), 1U);
-    EXPECT_EQ(plan.value().tasks[0].code, 201);
+    EXPECT_EQ(plan.value().tasks[0]->file, u"201"_s);
     EXPECT_EQ(plan.value().refused.size(), 2U);
     EXPECT_EQ(plan.value().refused[0].state, ModuleState::SourceMissing);
 }
@@ -150,7 +141,7 @@ TEST_F(BuildPlanTest, TakesNamedFilesForOneModule)
     const auto plan = planBuild(options, {});
     ASSERT_TRUE(plan.ok());
     ASSERT_EQ(plan.value().tasks.size(), 1U);
-    EXPECT_EQ(plan.value().tasks[0].name, u"시험"_s);
+    EXPECT_EQ(plan.value().tasks[0]->name, u"시험"_s);
     options.files = {files.path(u"none.xml"_s)};
     EXPECT_EQ(planBuild(options, {}).failure().kind, FailureKind::NotFound);
     options.format = u"sword"_s;

@@ -27,10 +27,10 @@ constexpr int kThirdJohn = 63;
 struct ReadVersion
 {
     VersionResult version = Failure{};
-    ModuleTask task;
+    VersionTask task;
 };
 
-VersionResult readTask(const ModuleTask& task)
+VersionResult readTask(const VersionTask& task)
 {
     VersionResult version = task.reader ? task.reader() : readSource(task.source);
     if (!version)
@@ -48,8 +48,8 @@ const ReadVersion& installed(int code)
     if (known != read.end())
         return known->second;
     ReadVersion& made = read[code];
-    for (const ModuleTask& task : installedTasks(installedFolders(), Renumbering::Keep)) {
-        if (task.code == code) {
+    for (const VersionTask& task : installedTasks(installedFolders(), Renumbering::Keep)) {
+        if (task.code() == code) {
             made.task = task;
             made.version = readTask(task);
         }
@@ -181,7 +181,7 @@ TEST(DebianSources, ABuiltModuleHoldsWhatWasRead)
     ASSERT_TRUE(read.version.ok());
     const ModuleOutcome outcome = buildModule(read.task, out.path(), [](double) { return true; });
     ASSERT_EQ(outcome.state, ModuleState::Built) << outcome.problem.toStdString();
-    const auto rows = storeRows(moduleFile(out.path(), 201),
+    const auto rows = storeRows(out.path(u"201.dts"_s),
                                 u"select Cont, part from KJV where Chap = '시03' order by Verse"_s);
     ASSERT_EQ(rows.size(), 8U);
     for (int verse = 1; verse <= 8; ++verse)
@@ -190,7 +190,7 @@ TEST(DebianSources, ABuiltModuleHoldsWhatWasRead)
     EXPECT_FALSE(rows[0][1].isNull());
     EXPECT_TRUE(rows[1][1].isNull());
     // The packages are whole Bibles: one that lacks a chapter isn't taken for one.
-    ModuleTask cut = read.task;
+    VersionTask cut = read.task;
     cut.reader = [&read]() -> VersionResult {
         VersionText version = read.version.value();
         std::erase_if(version.verses, [](const VerseText& verse) {

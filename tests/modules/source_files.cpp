@@ -40,6 +40,15 @@ QString wordsAt(const VersionText& version, int book, int chapter, int verse)
     return found ? found->text.value_or(u"<no words>"_s) : u"<no row>"_s;
 }
 
+const VersionTask* versionIn(const BuildPlan& plan, int code)
+{
+    for (const auto& task : plan.tasks)
+        if (const auto* version = dynamic_cast<const VersionTask*>(task.get());
+            version && version->code() == code)
+            return version;
+    return nullptr;
+}
+
 std::vector<QVariantList> storeRows(const QString& file, const QString& sql)
 {
     const SqliteHandle handle(file, SQLITE_OPEN_READONLY);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "build/build_run.h"
+#include "build/version_task.h"
 #include "sources/version_text.h"
 
 #include <QString>
@@ -31,6 +33,9 @@ private:
 const VerseText* verseAt(const VersionText& version, int book, int chapter, int verse);
 /// Its words; "<no row>" and "<no words>" tell the two other cases apart.
 QString wordsAt(const VersionText& version, int book, int chapter, int verse);
+
+/// The task of a version in a plan, nullptr when it is not to be made.
+const VersionTask* versionIn(const BuildPlan& plan, int code);
 
 /// The rows that a query of a finished store gives.
 std::vector<QVariantList> storeRows(const QString& file, const QString& sql);

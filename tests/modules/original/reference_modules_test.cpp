@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "build/build_options.h"
 #include "build/build_run.h"
-#include "build/reference_builder.h"
+#include "build/reference_recipes.h"
 #include "modules/original/mini_sources.h"
 #include "original/original_versions.h"
 #include "text/field_scramble.h"
@@ -29,10 +29,10 @@ protected:
     ModuleOutcome build(const QString& file, const BuildAdvance& advance = {})
     {
         OriginalCorpus corpus(sources);
-        for (const ReferenceTask& task : referenceTasks(sources))
+        for (const ReferenceTask& task : referenceTasks(corpus, {files.path(u"references.js"_s)}))
             if (task.file == file)
-                return buildReference(
-                    task, corpus, files.path(), advance ? advance : [](double) { return true; });
+                return buildModule(
+                    task, files.path(), advance ? advance : [](double) { return true; });
         return {};
     }
 
@@ -154,7 +154,6 @@ TEST_F(ReferenceModules, LeaveNothingWhenStopped)
 
 TEST_F(ReferenceModules, TellWhichSourceIsMissingOrDamaged)
 {
-    sources.crossReferences = files.path(u"none.js"_s);
     const ModuleOutcome missing = build(u"CRef"_s);
     EXPECT_EQ(missing.state, ModuleState::SourceMissing);
     EXPECT_TRUE(missing.problem.contains(u"scripts/fetch-npm-data"_s));
@@ -195,28 +194,23 @@ TEST(OriginalPlan, TakesNamesAndCodesAsTheyAreAskedFor)
     ASSERT_TRUE(options.ok());
     const auto plan = planBuild(options.value(), {});
     ASSERT_TRUE(plan.ok());
-    ASSERT_EQ(plan.value().references.size(), 2u);
-    EXPECT_EQ(plan.value().references[0].file, u"z101"_s);
-    EXPECT_EQ(plan.value().references[1].file, u"CRef"_s);
-    ASSERT_EQ(plan.value().tasks.size(), 1u);
-    EXPECT_EQ(plan.value().tasks[0].code, 301);
+    QStringList planned;
+    for (const auto& task : plan.value().tasks)
+        planned << task->file;
+    EXPECT_EQ(planned, (QStringList{u"301"_s, u"z101"_s, u"CRef"_s}));
     EXPECT_FALSE(parseBuildOptions({u"--only"_s, u"z104"_s}).ok());
 }
 
 TEST(OriginalPlan, LeavesTheDividedTextOutUnlessAskedFor)
 {
-    const auto has = [](const BuildPlan& plan, int code) {
-        return std::ranges::any_of(plan.tasks,
-                                   [code](const ModuleTask& task) { return task.code == code; });
-    };
     const auto all = planBuild({}, {});
     ASSERT_TRUE(all.ok());
-    EXPECT_TRUE(has(all.value(), 302));
-    EXPECT_FALSE(has(all.value(), 303));
-    EXPECT_EQ(all.value().references.size(), 7u);
+    EXPECT_TRUE(versionIn(all.value(), 302));
+    EXPECT_FALSE(versionIn(all.value(), 303));
+    EXPECT_EQ(all.value().tasks.back()->file, u"CRef"_s);
     BuildOptions options;
     options.only = {303};
-    EXPECT_TRUE(has(planBuild(options, {}).value(), 303));
+    EXPECT_TRUE(versionIn(planBuild(options, {}).value(), 303));
 }
 
 TEST(OriginalPlan, AModuleIsNotMadeAnewWithoutWhatEnrichedIt)
@@ -230,13 +224,13 @@ TEST(OriginalPlan, AModuleIsNotMadeAnewWithoutWhatEnrichedIt)
     ReferenceTask enriched = plain;
     enriched.enrichment = {files.path(u"korean.json"_s)};
 
-    EXPECT_TRUE(isUpToDate(plain, referenceStamp(plain)));
-    EXPECT_TRUE(isUpToDate(plain, referenceStamp(enriched)));
-    EXPECT_TRUE(isUpToDate(enriched, referenceStamp(enriched)));
-    EXPECT_FALSE(isUpToDate(enriched, referenceStamp(plain)));
+    EXPECT_TRUE(plain.isCurrent(plain.stamp()));
+    EXPECT_TRUE(plain.isCurrent(enriched.stamp()));
+    EXPECT_TRUE(enriched.isCurrent(enriched.stamp()));
+    EXPECT_FALSE(enriched.isCurrent(plain.stamp()));
     ReferenceTask other = plain;
     other.sources = {files.path(u"korean.json"_s)};
-    EXPECT_FALSE(isUpToDate(other, referenceStamp(enriched)));
+    EXPECT_FALSE(other.isCurrent(enriched.stamp()));
 }
 
 TEST(OriginalPlan, FindsTheUsersFiles)
@@ -253,17 +247,15 @@ TEST(OriginalPlan, FindsTheUsersFiles)
     options.sourceFolder = files.path(u"user"_s);
     const auto plan = planBuild(options, {});
     ASSERT_TRUE(plan.ok());
-    EXPECT_EQ(plan.value().corpus->sources().byzantineFiles,
-              QStringList{files.path(u"user/greek/MAT.csv"_s)});
     EXPECT_EQ(plan.value().corpus->sources().koreanFiles.size(), 1);
-    const auto& tasks = plan.value().tasks;
-    const auto received = std::ranges::find(tasks, 306, &ModuleTask::code);
-    ASSERT_NE(received, tasks.end());
+    const VersionTask* received = versionIn(plan.value(), 306);
+    ASSERT_NE(received, nullptr);
     EXPECT_EQ(received->numbering, Numbering::Korean);
     EXPECT_EQ(received->mends.back(), encodeGreek);
     // A text of another shape must not take the place of the Byzantine one.
-    const auto byzantine = std::ranges::find(tasks, 310, &ModuleTask::code);
-    ASSERT_NE(byzantine, tasks.end());
+    const VersionTask* byzantine = versionIn(plan.value(), 310);
+    ASSERT_NE(byzantine, nullptr);
+    EXPECT_EQ(byzantine->source.files, QStringList{files.path(u"user/greek/MAT.csv"_s)});
     EXPECT_TRUE(byzantine->reader);
     EXPECT_TRUE(plan.value().remarks.join(u'\n').contains(u"310: "_s));
 }

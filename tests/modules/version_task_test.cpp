@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/version_module_writer.h"
+#include "build/version_task.h"
 #include "modules/source_files.h"
 
 #include <gtest/gtest.h>
@@ -18,17 +18,19 @@ VersionText madeUp()
     return version;
 }
 
-bool goOn(double)
+void write(const QString& file, const QString& name)
 {
-    return true;
+    ModuleStore store(file, StoreUse::OnlyRead, {{u"source"_s, u"made up"_s}},
+                      [](double) { return true; });
+    ASSERT_TRUE(writeVersion(store, name, madeUp()).ok());
+    store.commit();
 }
 
-TEST(VersionModuleWriter, FillsEveryColumn)
+TEST(VersionTask, FillsEveryColumn)
 {
     const SourceFiles files;
     const QString file = files.path(u"901.dts"_s);
-    const ModuleLabel label{u"나의 역본"_s, {{u"source"_s, u"made up"_s}}};
-    ASSERT_TRUE(writeVersionModule(file, label, madeUp(), goOn).ok());
+    write(file, u"나의 역본"_s);
     const auto rows = storeRows(
         file, u"select \"index\", Chap, Verse, Cont, part, miniTitle, Testa, Category, rowid "
               "from [나의 역본]"_s);
@@ -44,12 +46,11 @@ TEST(VersionModuleWriter, FillsEveryColumn)
     EXPECT_FALSE(rows[1][5].isNull());
 }
 
-TEST(VersionModuleWriter, KeepsPasswordIndexesAndOrigin)
+TEST(VersionTask, KeepsPasswordIndexesAndOrigin)
 {
     const SourceFiles files;
     const QString file = files.path(u"901.dts"_s);
-    ASSERT_TRUE(
-        writeVersionModule(file, {u"X"_s, {{u"source"_s, u"made up"_s}}}, madeUp(), goOn).ok());
+    write(file, u"X"_s);
     EXPECT_EQ(storeRows(file, u"select value from MSysStore where key in ('password', 'compare') "
                               "order by key"_s),
               (std::vector<QVariantList>{{u"binary"_s}, {u"qolvetrinam"_s}}));

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "build/module_task.h"
-
 #include <QString>
 
 namespace lumen {
@@ -14,8 +12,8 @@ inline constexpr int kBuilderVersion = 7;
 inline constexpr QStringView kStampKey = u"stamp";
 inline constexpr QStringView kRulesKey = u"rules";
 
-/// Tells a module's making apart: the rules, the options and the state of the source's files.
-QString taskStamp(const ModuleTask& task);
+/// The stored form of what tells a module's making apart.
+QString stampOf(const QString& making);
 
 /// What a finished module says of its making, "" when there is no such line or the file is no
 /// module.

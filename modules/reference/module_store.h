@@ -24,8 +24,9 @@ public:
     ModuleStore(const QString& file, StoreUse use,
                 const std::vector<std::pair<QString, QString>>& origin, Advance advance);
 
-    /// The number of rows that are to come, for the share that is done.
-    void expect(std::size_t rows) { m_expected = rows; }
+    /// The number of rows that are to come, for the share that is done; `before` is the share of
+    /// the whole work that reading took.
+    void expect(std::size_t rows, double before = 0);
     void addOriginLine(const QString& key, const QString& value);
     void createTable(const TableSchema& schema);
     /// False once the work is to be stopped; then nothing more may be added.
@@ -38,6 +39,7 @@ private:
     RowDigest m_digest;
     Advance m_advance;
     std::size_t m_expected = 0;
+    double m_before = 0;
     std::size_t m_rows = 0;
 };
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "original/module_store.h"
+#include "reference/module_store.h"
 
+#include "data/user_files.h"
 #include "text/field_scramble.h"
+
+#include <algorithm>
 
 namespace lumen {
 
@@ -9,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The one password that the program opens all modules with.
-constexpr QStringView kModulePassword = u"qolvetrinam";
 constexpr std::size_t kRowsPerStep = 1000;
 
 } // namespace
@@ -19,9 +20,15 @@ ModuleStore::ModuleStore(const QString& file, StoreUse use,
                          const std::vector<std::pair<QString, QString>>& origin, Advance advance)
     : m_writer(file, StoreCompare::Binary, use), m_advance(std::move(advance))
 {
-    m_writer.setPassword(kModulePassword.toString());
+    m_writer.setPassword(QString::fromUtf16(kModulePassword));
     for (const auto& [key, value] : origin)
         m_writer.addOriginLine(key, value);
+}
+
+void ModuleStore::expect(std::size_t rows, double before)
+{
+    m_expected = rows;
+    m_before = before;
 }
 
 void ModuleStore::addOriginLine(const QString& key, const QString& value)
@@ -38,7 +45,8 @@ bool ModuleStore::addRow(const QString& table, const QVariantList& values)
 {
     if (m_rows % kRowsPerStep == 0) {
         const double expected = static_cast<double>(std::max(m_expected, m_rows + 1));
-        if (!m_advance(static_cast<double>(m_rows) / expected))
+        const double share = static_cast<double>(m_rows) / expected;
+        if (!m_advance(m_before + (1 - m_before) * share))
             return false;
     }
     ++m_rows;

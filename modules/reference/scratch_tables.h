@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "original/reference_task.h"
+#include "reference/reference_task.h"
 
 namespace lumen {
 
 /// The empty tables that a search of the original languages works in.
-Result<ReferenceReport> fillScratchTables(OriginalCorpus& corpus, ModuleStore& store);
+Result<ModuleReport> fillScratchTables(ModuleStore& store);
 
 } // namespace lumen

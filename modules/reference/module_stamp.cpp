@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/module_stamp.h"
+#include "reference/module_stamp.h"
 
 #include "jet/error.h"
 #include "jet/store/store_inspection.h"
@@ -12,14 +12,10 @@ namespace lumen {
 
 using namespace Qt::StringLiterals;
 
-QString taskStamp(const ModuleTask& task)
+QString stampOf(const QString& making)
 {
-    const QString text = u"%1\n%2\n%3\n%4\n%5\n"_s.arg(kBuilderVersion)
-                             .arg(task.code)
-                             .arg(task.name, task.ownMapping, task.origin) +
-                         sourceStamp(task.source);
     return QString::fromLatin1(
-        QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex());
+        QCryptographicHash::hash(making.toUtf8(), QCryptographicHash::Sha1).toHex());
 }
 
 QString originLine(const QString& moduleFile, QStringView key)
