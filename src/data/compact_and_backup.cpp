@@ -35,10 +35,8 @@ Compaction compact(const QString& from, const QString& to, const UserFile& file,
 {
     const QString password = file.password.toString();
     try {
-        if (!password.isEmpty()) {
-            jet.setDefaultUser(u"admin"_s);
+        if (!password.isEmpty())
             jet.setDefaultPassword(password);
-        }
         jet.CompactDatabase(from, to, {}, password.isEmpty() ? QString() : u";pwd="_s + password);
         return Compaction::Done;
     } catch (const JetError& error) {

@@ -42,10 +42,8 @@ public:
     /// Who speaks with the user about imports; must outlive the engine's use, nullptr for nobody.
     void setImportTalk(ImportTalk* talk) { m_options.talk = talk; }
 
-    void setDefaultUser(const QString& user) { m_defaultUser = user; }
+    /// What CompactDatabase opens a file with when it is given no password.
     void setDefaultPassword(const QString& password) { m_defaultPassword = password; }
-    const QString& DefaultUser() const { return m_defaultUser; }
-    const QString& DefaultPassword() const { return m_defaultPassword; }
 
     /// Ends the implicit transaction that writes outside an explicit one have opened. The window
     /// guard calls the second when a handler failed.
@@ -75,7 +73,6 @@ private:
     std::unique_ptr<ConnectionPool> m_pool;
     std::function<void(const JetError&)> m_commitFailed;
     bool m_opening = false;
-    QString m_defaultUser;
     QString m_defaultPassword;
 };
 

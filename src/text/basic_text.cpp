@@ -176,51 +176,13 @@ QString Str(double number)
     return text.startsWith(u'-') ? text : u' ' + text;
 }
 
-QStringView LTrim(QStringView text)
+QStringView Trim(QStringView text)
 {
     while (text.startsWith(u' '))
         text = text.sliced(1);
-    return text;
-}
-
-QStringView RTrim(QStringView text)
-{
     while (text.endsWith(u' '))
         text.chop(1);
     return text;
-}
-
-QStringView Trim(QStringView text)
-{
-    return LTrim(RTrim(text));
-}
-
-QStringView Mid(QStringView text, qsizetype start)
-{
-    return Mid(text, start, text.size());
-}
-
-QStringView Mid(QStringView text, qsizetype start, qsizetype length)
-{
-    const qsizetype from = qMin(qMax<qsizetype>(start, 1) - 1, text.size());
-    return text.sliced(from, qBound<qsizetype>(0, length, text.size() - from));
-}
-
-QStringView Left(QStringView text, qsizetype length)
-{
-    return text.first(qBound<qsizetype>(0, length, text.size()));
-}
-
-QStringView Right(QStringView text, qsizetype length)
-{
-    return text.last(qBound<qsizetype>(0, length, text.size()));
-}
-
-QString Format(int number, QStringView zeros)
-{
-    const qint64 magnitude = std::abs(static_cast<qint64>(number));
-    const QString digits = QString::number(magnitude).rightJustified(zeros.size(), u'0');
-    return number < 0 ? u'-' + digits : digits;
 }
 
 QString dateText(QDate date)

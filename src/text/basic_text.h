@@ -28,19 +28,6 @@ QString trimmedNumber(double number);
 
 /// Without the blanks (U+0020 only) at both ends.
 QStringView Trim(QStringView text);
-QStringView LTrim(QStringView text);
-QStringView RTrim(QStringView text);
-
-/// The part of a text from a one-based start on; a start below 1 counts as 1, and what lies
-/// behind the end is left out. A negative length counts as 0.
-QStringView Mid(QStringView text, qsizetype start);
-QStringView Mid(QStringView text, qsizetype start, qsizetype length);
-/// The first and the last characters; the whole text when it is shorter.
-QStringView Left(QStringView text, qsizetype length);
-QStringView Right(QStringView text, qsizetype length);
-
-/// A whole number in at least as many digits as the pattern has zeros ("00", "000").
-QString Format(int number, QStringView zeros);
 
 /// A date as it is shown, typed and put into queries, "2024-03-09"; "" for an invalid date.
 QString dateText(QDate date);

@@ -61,19 +61,6 @@ TEST(BasicText, NumbersAreWrittenInTheirThreeForms)
     }
 }
 
-TEST(BasicText, PartsOfTextCountFromOneAndNeverRunOver)
-{
-    EXPECT_EQ(Mid(u"abcdef", 3), u"cdef");
-    EXPECT_EQ(Mid(u"abcdef", 3, 2), u"cd");
-    EXPECT_EQ(Mid(u"abcdef", 6, 9), u"f");
-    EXPECT_EQ(Mid(u"abcdef", 7, 1), u"");
-    EXPECT_EQ(Mid(u"abcdef", 0, 2), u"ab");
-    EXPECT_EQ(Mid(u"abcdef", 2, -1), u"");
-    EXPECT_EQ(Left(u"abc", 5), u"abc");
-    EXPECT_EQ(Right(u"abc", 2), u"bc");
-    EXPECT_EQ(Right(u"abc", -2), u"");
-}
-
 TEST(BasicText, DatesHaveOneFormAndAreReadTolerantly)
 {
     EXPECT_EQ(dateText(QDate(2003, 4, 9)), u"2003-04-09"_s);
