@@ -4,8 +4,8 @@
 // with 201.dts that text is searched, else a made-up one of the same size.
 #include "canon/canon_table.h"
 #include "data/check_data.h"
-#include "search/easy_search.h"
 #include "search/search_window.h"
+#include "search/verses/easy_search.h"
 #include "support/fake_reader.h"
 #include "support/module_files.h"
 #include "support/test_services.h"

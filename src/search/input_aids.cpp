@@ -2,12 +2,12 @@
 #include "search/input_aids.h"
 
 #include "platform/dialogs/modal.h"
-#include "search/easy_panel.h"
-#include "search/key_maps.h"
-#include "search/keyboard_window.h"
-#include "search/parsing_panel.h"
-#include "search/parsing_wizard.h"
-#include "search/power_panel.h"
+#include "search/keyboard/key_maps.h"
+#include "search/keyboard/keyboard_window.h"
+#include "search/original/parsing_panel.h"
+#include "search/verses/easy_panel.h"
+#include "search/verses/power_panel.h"
+#include "search/wizard/parsing_wizard.h"
 
 namespace lumen {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "forms/services.h"
 #include "search/focus_mark.h"
-#include "search/original_query.h"
+#include "search/original/original_query.h"
 
 namespace lumen {
 

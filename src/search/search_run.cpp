@@ -2,12 +2,12 @@
 #include "canon/verse_index.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
+#include "forms/result_pages.h"
 #include "forms/wait_pointer.h"
 #include "platform/dialogs/message_boxes.h"
-#include "search/easy_search.h"
 #include "search/messages.h"
-#include "search/result_pages.h"
 #include "search/search_window.h"
+#include "search/verses/easy_search.h"
 #include "text/basic_text.h"
 
 #include <algorithm>

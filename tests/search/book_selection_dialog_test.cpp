@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/book_selection_dialog.h"
 #include "search/search_fixture.h"
+#include "search/verses/book_selection_dialog.h"
 #include "support/active_window.h"
 
 using namespace Qt::StringLiterals;

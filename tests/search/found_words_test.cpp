@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/found_words.h"
+#include "search/verses/found_words.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/keyboard_window.h"
-#include "search/parsing_wizard.h"
+#include "search/keyboard/keyboard_window.h"
 #include "search/search_fixture.h"
+#include "search/wizard/parsing_wizard.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/keyboard_window.h"
+#include "search/keyboard/keyboard_window.h"
 #include "support/active_window.h"
 #include "support/test_services.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "search/original_query.h"
+#include "search/original/original_query.h"
 #include "support/original_modules.h"
 
 #include <QList>

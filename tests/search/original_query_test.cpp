@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/original_query.h"
+#include "search/original/original_query.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
 #include "search/made_originals.h"
-#include "search/original_search.h"
+#include "search/original/original_search.h"
 #include "support/module_files.h"
 #include "support/test_services.h"
 #include "text/field_scramble.h"

@@ -3,9 +3,9 @@
 #include "canon/verse_index.h"
 #include "data/data_store.h"
 #include "platform/dialogs/progress_dialog.h"
-#include "search/book_selection_dialog.h"
 #include "search/made_originals.h"
 #include "search/search_fixture.h"
+#include "search/verses/book_selection_dialog.h"
 
 #include <QDir>
 #include <QMenu>

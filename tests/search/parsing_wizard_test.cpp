@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "search/parsing_wizard.h"
+#include "search/wizard/parsing_wizard.h"
 #include "support/active_window.h"
 #include "text/original/parsing_decoder.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
 #include "jet/error.h"
-#include "search/scratch_tables.h"
+#include "search/original/scratch_tables.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/verse_index.h"
 #include "data/check_data.h"
+#include "search/original/strong_list_window.h"
 #include "search/search_fixture.h"
-#include "search/strong_list_window.h"
 #include "support/active_window.h"
 #include "text/field_scramble.h"
 #include "text/original/original_unicode.h"

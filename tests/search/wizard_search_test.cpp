@@ -2,8 +2,8 @@
 // What the wizard composes, asked of the module as it is built from the installed sources, beside a
 // reading of the module's codes by the words that tell them. Needs LUMENSCRIPT_MODULES.
 #include "data/data_store.h"
-#include "search/original_search.h"
-#include "search/parsing_wizard.h"
+#include "search/original/original_search.h"
+#include "search/wizard/parsing_wizard.h"
 #include "support/test_services.h"
 #include "text/field_scramble.h"
 #include "text/original/parsing_decoder.h"
