@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "import/jet_conversion.h"
 
-#include "common/interruption.h"
 #include "jet/error.h"
 #include "jet/import/jet_header.h"
+#include "sources/interruption.h"
 
 namespace lumen {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/korean_glosses.h"
 
-#include "common/interruption.h"
 #include "original/korean_stems.h"
 #include "original/word_alignment.h"
+#include "sources/interruption.h"
 #include "sources/json_readers.h"
 #include "sources/text_mending.h"
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/original_corpus.h"
 
-#include "common/interruption.h"
 #include "original/gloss_alignment.h"
 #include "original/greek_words.h"
 #include "original/hebrew_words.h"
 #include "original/kjv_reader.h"
 #include "original/oshb_reader.h"
 #include "original/wlc_versification.h"
+#include "sources/interruption.h"
 
 #include <algorithm>
 #include <future>

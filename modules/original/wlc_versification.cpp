@@ -20,22 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kFirstSamuel = 8;
 constexpr int kFirstKings = 10;
 constexpr int kPsalms = 18;
-constexpr int kSong = 21;
 constexpr int kIsaiah = 22;
-constexpr int kSecondCorinthians = 46;
-constexpr int kThirdJohn = 63;
-
-// A verse whose words up to a certain one stand at one place and the rest at another.
-struct DividedVerse
-{
-    VersePlace verse;
-    int lastWord;
-    VersePlace head;
-    VersePlace rest;
-};
 
 // The map of verses tells that these are divided, but not where: that is seen from the English
 // translation.
@@ -46,36 +33,6 @@ constexpr std::array kHebrewDivided{
     DividedVerse{{kIsaiah, 63, 19}, 9, {kIsaiah, 63, 19}, {kIsaiah, 64, 1}},
     DividedVerse{{kPsalms, 13, 6}, 6, {kPsalms, 13, 5}, {kPsalms, 13, 6}},
 };
-
-constexpr std::array kKoreanDivided{
-    DividedVerse{{kSong, 6, 13}, 7, {kSong, 6, 13}, {kSong, 6, 14}},
-    DividedVerse{{kThirdJohn, 1, 14}, 10, {kThirdJohn, 1, 14}, {kThirdJohn, 1, 15}},
-};
-
-struct MovedVerse
-{
-    VersePlace english;
-    VersePlace korean;
-};
-
-constexpr std::array kKoreanMoved{
-    MovedVerse{{kFirstSamuel, 30, 31}, {kFirstSamuel, 30, 30}},
-    MovedVerse{{kSecondCorinthians, 13, 12}, {kSecondCorinthians, 13, 11}},
-    MovedVerse{{kSecondCorinthians, 13, 13}, {kSecondCorinthians, 13, 12}},
-    MovedVerse{{kSecondCorinthians, 13, 14}, {kSecondCorinthians, 13, 13}},
-};
-
-template <std::size_t N>
-const DividedVerse* dividedAt(const std::array<DividedVerse, N>& verses, const VersePlace& place)
-{
-    const auto found = std::ranges::find(verses, place, &DividedVerse::verse);
-    return found == verses.end() ? nullptr : &*found;
-}
-
-VersePlace placeIn(const DividedVerse& divided, int word)
-{
-    return word <= divided.lastWord ? divided.head : divided.rest;
-}
 
 bool parsePlace(QStringView id, VersePlace& place)
 {
@@ -128,26 +85,10 @@ Result<WlcVersification> WlcVersification::read(const QString& file)
 
 VersePlace WlcVersification::english(const VersePlace& wlc, int word) const
 {
-    if (const DividedVerse* divided = dividedAt(kHebrewDivided, wlc))
-        return placeIn(*divided, word);
+    const auto divided = std::ranges::find(kHebrewDivided, wlc, &DividedVerse::verse);
+    if (divided != kHebrewDivided.end())
+        return divided->placeOf(word);
     return m_places.value(keyOf(wlc), wlc);
-}
-
-VersePlace koreanPlace(const VersePlace& english, int word)
-{
-    if (const DividedVerse* divided = dividedAt(kKoreanDivided, english))
-        return placeIn(*divided, word);
-    const auto moved = std::ranges::find(kKoreanMoved, english, &MovedVerse::english);
-    return moved == kKoreanMoved.end() ? english : moved->korean;
-}
-
-std::vector<VersePlace> koreanPlaces(const VersePlace& english)
-{
-    const VersePlace first = koreanPlace(english, 1);
-    const VersePlace last = koreanPlace(english, std::numeric_limits<int>::max());
-    if (first == last)
-        return {first};
-    return {first, last};
 }
 
 OriginalText regrouped(OriginalText text, const WordPlace& placeOf)

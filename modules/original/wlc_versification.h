@@ -4,12 +4,12 @@
 #include "canon/verse_index.h"
 #include "original/original_text.h"
 #include "platform/result.h"
+#include "sources/key_places.h"
 
 #include <QHash>
 #include <QString>
 
 #include <functional>
-#include <vector>
 
 namespace lumen {
 
@@ -28,12 +28,6 @@ public:
 private:
     QHash<QString, VersePlace> m_places;
 };
-
-/// Where a word of an English verse stands under the keys: they follow the Korean text, which
-/// joins two verses in 삼상30 and 고후13 and divides one in 아6 and 요삼1.
-VersePlace koreanPlace(const VersePlace& english, int word);
-/// All places that an English verse is spread over, one or two.
-std::vector<VersePlace> koreanPlaces(const VersePlace& english);
 
 /// The new place of a word by the place of its verse and its number in it, from 1.
 using WordPlace = std::function<VersePlace(const VersePlace& verse, int word)>;

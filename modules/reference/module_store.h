@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "common/row_digest.h"
+#include "check/row_digest.h"
 #include "jet/store/store_writer.h"
 
 #include <QString>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "sources/sword_process.h"
 
-#include "common/console.h"
-#include "common/interruption.h"
+#include "cli/console.h"
 #include "platform/confined_process.h"
+#include "sources/interruption.h"
 
 #include <QCoreApplication>
 #include <QDataStream>

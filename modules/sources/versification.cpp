@@ -3,7 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
-#include "common/verse_counts.h"
+#include "check/verse_counts.h"
 #include "sources/book_names.h"
 
 #include <QFile>

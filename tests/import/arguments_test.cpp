@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "common/arguments.h"
+#include "cli/arguments.h"
 
 #include <gtest/gtest.h>
 

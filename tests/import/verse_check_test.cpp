@@ -2,7 +2,7 @@
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
 #include "check/verse_check.h"
-#include "common/verse_counts.h"
+#include "check/verse_counts.h"
 
 #include <gtest/gtest.h>
 

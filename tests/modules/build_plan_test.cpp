@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/build_options.h"
-#include "build/build_run.h"
-#include "build/user_sources.h"
+#include "cli/build_options.h"
+#include "cli/build_run.h"
 #include "modules/source_files.h"
+#include "recipes/user_sources.h"
 
 #include <gtest/gtest.h>
 

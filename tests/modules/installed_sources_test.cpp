@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/module_builder.h"
-#include "build/recipes.h"
-#include "build/user_sources.h"
 #include "modules/source_files.h"
+#include "recipes/recipes.h"
+#include "recipes/user_sources.h"
+#include "reference/module_builder.h"
 #include "text/field_scramble.h"
 
 #include <gtest/gtest.h>

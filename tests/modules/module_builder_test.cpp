@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/build_report.h"
-#include "build/build_run.h"
-#include "build/module_builder.h"
-#include "build/recipes.h"
+#include "cli/build_report.h"
+#include "cli/build_run.h"
 #include "modules/source_files.h"
+#include "recipes/recipes.h"
+#include "reference/module_builder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "build/build_run.h"
-#include "build/version_task.h"
+#include "cli/build_run.h"
+#include "recipes/version_task.h"
 #include "sources/version_text.h"
 
 #include <QString>

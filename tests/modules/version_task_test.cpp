@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/version_task.h"
 #include "modules/source_files.h"
+#include "recipes/version_task.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
-#include "original/cross_references.h"
+#include "reference/cross_references.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/build_options.h"
-#include "build/build_run.h"
-#include "build/reference_recipes.h"
+#include "cli/build_options.h"
+#include "cli/build_run.h"
 #include "modules/original/mini_sources.h"
 #include "original/original_versions.h"
+#include "recipes/reference_recipes.h"
 #include "text/field_scramble.h"
 
 #include <gtest/gtest.h>

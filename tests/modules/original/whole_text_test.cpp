@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/original_recipes.h"
 #include "original/original_versions.h"
 #include "original/parsing_search.h"
+#include "recipes/original_recipes.h"
 #include "text/original/original_unicode.h"
 #include "text/original/parsing_tables.h"
 

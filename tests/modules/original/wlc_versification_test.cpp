@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "build/original_recipes.h"
 #include "modules/source_files.h"
 #include "original/wlc_versification.h"
+#include "recipes/original_recipes.h"
 
 #include <gtest/gtest.h>
 

