@@ -139,15 +139,45 @@ Result<SwordConf> readConf(const sword::SWModule& module, const QString& confFil
     return conf;
 }
 
-// The library's plain text keeps notes in brackets amid the words. GBF tells its signs apart by
-// large and small letters.
-QByteArray withoutNotes(const QByteArray& entry)
+// Takes what a pattern finds out of an entry; its first group is what the marks enclose.
+QStringList takenOut(QString& entry, const QRegularExpression& pattern)
 {
-    static const QRegularExpression note(
-        uR"((?i:<note\b(?:[^>]*/>|[^>]*>.*?</note\s*>))|<RF[^>]*>.*?<Rf>|<RX[^>]*>.*?<Rx>)"_s,
-        QRegularExpression::DotMatchesEverythingOption);
-    return QString::fromUtf8(entry).remove(note).toUtf8();
+    QStringList found;
+    for (const QRegularExpressionMatch& match : pattern.globalMatch(entry))
+        found << match.captured(1);
+    entry.remove(pattern);
+    return found;
 }
+
+// The library's plain text keeps notes in brackets amid the words, and headings and titles as words
+// of the verse. GBF tells its signs apart by large and small letters.
+class OtherMarkup
+{
+public:
+    explicit OtherMarkup(const QByteArray& entry) : m_words(QString::fromUtf8(entry))
+    {
+        constexpr auto kAcrossLines = QRegularExpression::DotMatchesEverythingOption;
+        static const QRegularExpression note(
+            uR"((?i:<note\b(?:[^>]*/>|[^>]*>.*?</note\s*>))|<RF[^>]*>.*?<Rf>|<RX[^>]*>.*?<Rx>|<TB>.*?<Tb>)"_s,
+            kAcrossLines);
+        static const QRegularExpression heading(
+            uR"((?|(?i:<div\b[^>]*\bclass\s*=\s*["'](?:sechead|title)["'][^>]*>(.*?)</div\s*>))"
+            uR"(|(?i:<h[1-6]\b[^>]*>(.*?)</h[1-6]\s*>)|<T[ST]\d?>(.*?)<T[st]\d?>))"_s,
+            kAcrossLines);
+        static const QRegularExpression psalmTitle(u"<TH>(.*?)<Th>"_s, kAcrossLines);
+        m_words.remove(note);
+        headings = takenOut(m_words, heading);
+        titles = takenOut(m_words, psalmTitle);
+    }
+
+    QString words() const { return m_words; }
+
+    QStringList headings;
+    QStringList titles; ///< of a Psalm
+
+private:
+    QString m_words;
+};
 
 // Walks over a module from its first entry to its last and makes verses of them.
 class SwordWalk
@@ -168,6 +198,8 @@ private:
     void visitIntroduction(const QString& entry);
     bool isLinkedToTheOneBefore(const sword::VerseKey& key, const QByteArray& entry) const;
     void visitVerse(const sword::VerseKey& key, const QByteArray& entry);
+    void takeOtherMarkup(const QByteArray& entry, VerseText& verse);
+    std::optional<QString> plain(const QByteArray& entry) const;
     void checkEntry(const sword::VerseKey& key, const QByteArray& entry);
     void noteHoles();
     void dropBooksAndChaptersWithoutText(VersionText& version) const;
@@ -344,13 +376,28 @@ void SwordWalk::visitVerse(const sword::VerseKey& key, const QByteArray& entry)
         if (!linked)
             scanMarkup(QString::fromUtf8(entry), m_collector);
         m_collector.takeVerse(verse);
+    } else if (!linked && m_conf.markup == Markup::Other) {
+        takeOtherMarkup(entry, verse);
     } else if (!linked) {
-        const QByteArray words = m_conf.markup == Markup::Other ? withoutNotes(entry) : entry;
-        verse.text = textOrNothing(QString::fromUtf8(m_module.stripText(words.constData())));
+        verse.text = plain(entry);
     }
     if (verse.text)
         m_chaptersWithText.insert({verse.book, verse.chapter});
     m_version.verses.push_back(std::move(verse));
+}
+
+void SwordWalk::takeOtherMarkup(const QByteArray& entry, VerseText& verse)
+{
+    const OtherMarkup markup(entry);
+    for (const QString& heading : markup.headings)
+        addHeading(verse.miniTitle, plain(heading.toUtf8()).value_or(QString()));
+    verse.part = plain(markup.titles.join(u' ').toUtf8());
+    verse.text = plain(markup.words().toUtf8());
+}
+
+std::optional<QString> SwordWalk::plain(const QByteArray& entry) const
+{
+    return textOrNothing(QString::fromUtf8(m_module.stripText(entry.constData())));
 }
 
 // A chapter that the numbering has and that is empty amid a book with words.

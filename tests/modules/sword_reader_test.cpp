@@ -118,17 +118,23 @@ TEST_F(SwordReaderTest, ReadsTextTitlesAndLinks)
     EXPECT_EQ(wordsAt(version.value(), 0, 1, 1), u"<no row>"_s);
 }
 
-TEST_F(SwordReaderTest, TakesTheWordsOfOtherMarkupWithoutNotes)
+TEST_F(SwordReaderTest, TakesTheWordsOfOtherMarkupWithoutNotesAndHeadings)
 {
     const struct
     {
         QString name;
         QByteArray conf, entry;
+        QString part;
     } rows[] = {
         {u"Thml"_s, "SourceType=ThML\n",
-         "<font color=\"red\">one</font><note place=\"foot\">or\nten</note> <b>two</b> &amp; "
-         "three"},
-        {u"Gbf"_s, "SourceType=GBF\n", "one<RF>or ten<Rf> <FI>two<Fi><RX 1.1.1>a<Rx> & three"},
+         "<div class=\"sechead\">The <i>night</i></div><h3>Visit</h3><font "
+         "color=\"red\">one</font><note place=\"foot\">or\nten</note> <b>two</b> &amp; "
+         "three",
+         u"none"_s},
+        {u"Gbf"_s, "SourceType=GBF\n",
+         "<TB>Book<Tb><TS>The night<Ts>\n<TS2>Visit<Ts2><TH>A song<Th>one<RF>or ten<Rf> "
+         "<FI>two<Fi><RX 1.1.1>a<Rx> & three",
+         u"A song"_s},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name.toStdString());
@@ -138,6 +144,9 @@ TEST_F(SwordReaderTest, TakesTheWordsOfOtherMarkupWithoutNotes)
         const auto version = readSwordModule(source);
         ASSERT_TRUE(version.ok()) << version.failure().detail.toStdString();
         EXPECT_EQ(wordsAt(version.value(), 42, 3, 16), u"one two & three"_s);
+        const VerseText* verse = verseAt(version.value(), 42, 3, 16);
+        EXPECT_EQ(verse->miniTitle, u"The night / Visit"_s);
+        EXPECT_EQ(verse->part.value_or(u"none"_s), row.part);
     }
 }
 
