@@ -92,9 +92,14 @@ Connection& Database::open() const
 Connection& Database::writable() const
 {
     Connection& connection = open();
-    if (m_readOnly || connection.isReadOnly())
+    if (isReadOnly())
         throw jetError(ErrorNumber::kReadOnly, connection.source());
     return connection;
+}
+
+bool Database::isReadOnly() const
+{
+    return m_readOnly || open().isReadOnly();
 }
 
 std::unique_ptr<Recordset> Database::OpenRecordset(const QString& source, RecordsetType type)

@@ -58,6 +58,8 @@ public:
     /// Commits and closes the recordsets that came from here; any further use is error 3420. The
     /// destructor commits nothing: writes that nobody has ended wait for the event loop.
     void Close();
+    /// True when every write is refused: opened so, or the file may not be written.
+    bool isReadOnly() const;
     bool isClosed() const { return m_connection == nullptr; }
     /// Lets go of the database without closing its recordsets, which then keep the file open.
     void release();

@@ -52,6 +52,11 @@ bool PersonalNotes::isOpen() const
     return m_dacPersnote.Recordset() != nullptr;
 }
 
+bool PersonalNotes::isReadOnly() const
+{
+    return m_dacPersnote.Database() != nullptr && m_dacPersnote.Database()->isReadOnly();
+}
+
 std::vector<Note> PersonalNotes::load(const QString& chapter)
 {
     open(chapterQuery(chapter) + u" order by seq"_s);

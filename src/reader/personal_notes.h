@@ -23,6 +23,8 @@ public:
 
     /// True when the data control stands on the table of notes.
     bool isOpen() const;
+    /// True when the open table can't be written.
+    bool isReadOnly() const;
     /// The notes of a chapter in their order.
     std::vector<Note> load(const QString& chapter);
     /// Puts `notes` in the place of all notes of the chapter, in one step on disk: after a failure

@@ -114,7 +114,7 @@ void PersonalNotesTab::wire()
 void PersonalNotesTab::enter()
 {
     setStatus(QString());
-    enableControls(m_state.installed.myc);
+    enableControls();
     m_told.clear();
     showPlace();
 }
@@ -138,13 +138,20 @@ void PersonalNotesTab::tellingOnce(const std::function<void()>& work)
     }
 }
 
-void PersonalNotesTab::enableControls(bool enabled)
+void PersonalNotesTab::enableControls()
 {
     // The button that adds stays: it tells what is wrong.
+    const bool isThere = m_state.installed.myc;
+    for (QWidget* control : std::initializer_list<QWidget*>{tx개인주석절범위, flex개인주석목록})
+        control->setEnabled(isThere);
+    // Nothing is typed that can't be kept.
+    const bool canWrite = isThere && !m_notes.isReadOnly();
     for (QWidget* control :
-         std::initializer_list<QWidget*>{tx개인주석절범위, flex개인주석목록, cmd개인주석삭제,
-                                         cmd개인주석위로, cmd개인주석아래로})
-        control->setEnabled(enabled);
+         std::initializer_list<QWidget*>{cmd개인주석삭제, cmd개인주석위로, cmd개인주석아래로})
+        control->setEnabled(canWrite);
+    tx개인주석본문->setReadOnly(m_notes.isReadOnly());
+    tx개인주석본문->setToolTip(
+        m_notes.isReadOnly() ? QString::fromUtf16(messages::kNotesReadOnly.text) : QString());
 }
 
 bool PersonalNotesTab::showsReadersChapter() const
@@ -170,6 +177,7 @@ void PersonalNotesTab::Proc개인주석표시()
         m_list.fill(m_stored);
         m_chapter = chapter;
         lbl개인주석책장->setText(chapter);
+        enableControls();
         fillGrid();
         rowChanged();
     }
@@ -185,6 +193,10 @@ void PersonalNotesTab::Proc개인주석추가()
     // Notes that could not be read are tried again, and what is wrong is told again.
     if (!showsReadersChapter() && !guarded(m_services, m_page, [this] { Proc개인주석표시(); }))
         return;
+    if (m_notes.isReadOnly()) {
+        m_services.messages.show(m_page, messages::kNotesReadOnly);
+        return;
+    }
     const QString place =
         Trim(lbl개인주석책장->text()).toString() + Trim(tx개인주석절범위->text()).toString();
     if (!m_list.add(place)) {
@@ -256,7 +268,7 @@ void PersonalNotesTab::saveInBetween()
 
 void PersonalNotesTab::cmd개인주석삭제_Click()
 {
-    if (m_list.empty())
+    if (m_list.empty() || m_notes.isReadOnly()) // the key asks here too
         return;
     if (m_services.messages.show(m_page, messages::kDeleteNote) != Answer::Ok)
         return;

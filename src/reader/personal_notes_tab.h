@@ -57,7 +57,7 @@ public:
 private:
     void layOut();
     void wire();
-    void enableControls(bool enabled);
+    void enableControls();
     bool showsReadersChapter() const;
     void tellingOnce(const std::function<void()>& work);
     void fillGrid();

@@ -296,6 +296,30 @@ TEST_F(PersonalNotesTabTest, NotesThatCannotBeReadAreToldOnceAndLeaveTheFormerCh
     EXPECT_EQ(shown(), QStringList{u"요5:1="_s}) << "in the chapter that is read";
 }
 
+TEST_F(PersonalNotesTabTest, NothingIsTypedIntoNotesThatCannotBeWritten)
+{
+    openAt(kJohn, 3);
+    addNote(u"16"_s, u"글"_s);
+    panel.leave();
+    dacPersnote.Close();
+    dacPersnote.ReadOnly = true;
+    goTo(kJohn, 4);
+    goTo(kJohn, 3);
+    QTest::keyClick(tab->tx개인주석본문, Qt::Key_A);
+    EXPECT_EQ(tab->tx개인주석본문->toPlainText(), u"글"_s);
+    EXPECT_FALSE(tab->tx개인주석본문->toolTip().isEmpty());
+    tab->flex개인주석목록->setFocus();
+    QTest::keyClick(tab->flex개인주석목록, Qt::Key_Delete);
+    EXPECT_FALSE(tab->cmd개인주석삭제->isEnabled());
+    world.messages.expect(u"추가 불능"_s,
+                          u"개인 주석 파일 Data\\myc.mdb가 읽기 전용으로 열려 있어 주석을 "
+                          u"고치거나 추가할 수 없습니다."_s,
+                          48);
+    click(tab->cmd개인주석추가);
+    EXPECT_EQ(shown(), QStringList{u"요3:16=글"_s});
+    panel.leave(); // has nothing to store, and nothing to refuse
+}
+
 TEST_F(PersonalNotesTabTest, WithoutTheDatabaseAddingTellsWhatIsWrong)
 {
     world.state.installed.myc = false;
