@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <QPoint>
 #include <QString>
 
 #include <functional>
@@ -24,8 +25,8 @@ struct PanelHost
     std::function<Database*()> baseModule = {};
     /// The verses of a Strong's number are asked for.
     std::function<void(const QString& language, const QString& number)> openStrongList = {};
-    /// The right button was used on what can be copied.
-    std::function<void()> popUpEditMenu = {};
+    /// The menu was asked for on what can be copied, at a place of the screen.
+    std::function<void(const QPoint& at)> popUpEditMenu = {};
 };
 
 } // namespace lumen

@@ -142,21 +142,21 @@ WordAnalysis::WordAnalysis(Services& services, const AppState& state, WordAnalys
     };
     grid.onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
         if (button != Qt::LeftButton)
-            popUpEditMenu();
+            popUpEditMenu(m_host.grid.viewport()->mapToGlobal(position));
         else if (m_host.grid.rowAtPoint(position) >= 0 && m_host.grid.colAtPoint(position) > 0)
             wordChosen();
     };
-    grid.onContextMenu = [this](const QPoint&) { popUpEditMenu(); };
+    grid.onContextMenu = [this](const QPoint& at) { popUpEditMenu(at); };
     grid.onDblClick = [this](int, int col) {
         if (col > 0 && onDblClick)
             onDblClick();
     };
 }
 
-void WordAnalysis::popUpEditMenu()
+void WordAnalysis::popUpEditMenu(const QPoint& at)
 {
     if (m_host.popUpEditMenu)
-        m_host.popUpEditMenu();
+        m_host.popUpEditMenu(at);
 }
 
 void WordAnalysis::forget()

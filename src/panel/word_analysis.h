@@ -4,6 +4,7 @@
 #include "panel/strong_entry.h"
 
 #include <QChar>
+#include <QPoint>
 #include <QString>
 
 #include <functional>
@@ -56,8 +57,8 @@ struct WordAnalysisHost
     TextControl& dictionary;
     /// Whether a word of this Strong's number stands out; unset none does.
     std::function<bool(const QString& strongNumber)> marksWord = {};
-    /// The right button was used on the grid.
-    std::function<void()> popUpEditMenu = {};
+    /// The menu was asked for on the grid, at a place of the screen.
+    std::function<void(const QPoint& at)> popUpEditMenu = {};
     /// A click on a cell without a text chooses nothing then.
     bool passesOverEmptyCells = false;
 };
@@ -88,7 +89,7 @@ private:
     void markWords();
     void selectWord(int word);
     void wordChosen();
-    void popUpEditMenu();
+    void popUpEditMenu(const QPoint& at);
     void showWord();
 
     Services& m_services;

@@ -29,14 +29,15 @@ constexpr int kLargestNumber = 99999;
 } // namespace
 
 WordAnalysisTab::WordAnalysisTab(const PanelHost& host)
-    : ModuleTab(host, kModule, &InstalledFlags::z101), m_analysis(host.services, host.state,
-                                                                  {.grid = *flex원전분해,
-                                                                   .txParsing = *txParsing,
-                                                                   .dictionary = *tx스트롱,
-                                                                   .popUpEditMenu = [this] {
-                                                                       if (m_host.popUpEditMenu)
-                                                                           m_host.popUpEditMenu();
-                                                                   }})
+    : ModuleTab(host, kModule, &InstalledFlags::z101),
+      m_analysis(host.services, host.state,
+                 {.grid = *flex원전분해,
+                  .txParsing = *txParsing,
+                  .dictionary = *tx스트롱,
+                  .popUpEditMenu = [this](const QPoint& at) {
+                      if (m_host.popUpEditMenu)
+                          m_host.popUpEditMenu(at);
+                  }})
 {
     // Digits and the point alone, of which the integer part counts; the keys that edit pass.
     txCodeNum->setValidator(

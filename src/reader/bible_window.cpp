@@ -109,9 +109,9 @@ void frm성서::wireTextView()
         placeChanged();
     };
     txCont->onKeyUp = [this](int, Qt::KeyboardModifiers) { placeChanged(); };
-    txCont->onContextMenu = [this](const QPoint&) {
+    txCont->onContextMenu = [this](const QPoint& at) {
         placeChanged(); // the button has moved the caret
-        atbar.popUp(u"ID_편집");
+        atbar.popUp(u"ID_편집", at);
     };
     txCont->onSelectionChange = [this] {
         guarded(m_services, this, [this] { panel->showSelection(); });
@@ -133,7 +133,7 @@ void frm성서::wireTableView()
         }
         // Behind the mark: what the menu does is done to the row under the pointer.
         if (button == Qt::RightButton)
-            atbar.popUp(u"ID_편집");
+            atbar.popUp(u"ID_편집", hflex본문->viewport()->mapToGlobal(position));
     };
     hflex본문->onKeyUp = [this](int) {
         m_tableView.markRow(hflex본문->RowSel());
@@ -142,7 +142,7 @@ void frm성서::wireTableView()
     hflex본문->onSelChange = [this] {
         guarded(m_services, this, [this] { panel->showSelection(); });
     };
-    hflex본문->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
+    hflex본문->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
     hflex본문->onCopy = [this] { copySelection(OriginalText::FontCodes); };
     hflex본문->onResizeEnded = [this] {
         if (m_settings.ViewMode == ViewMode::Table && m_slots.holdsHebrew())
@@ -175,16 +175,17 @@ void frm성서::wirePanes()
     };
 
     panel->addTab(std::make_unique<PersonalNotesTab>(m_services, m_state, *this, m_dacPersnote));
-    addPanelTabs(*panel, {.services = m_services,
-                          .state = m_state,
-                          .reader = *this,
-                          .dacRefTab = m_dacRefTab,
-                          .baseModule = [this] { return m_slots.dacBasis().Database(); },
-                          .openStrongList =
-                              [this](const QString& language, const QString& number) {
-                                  m_windows.openStrongList(language, number);
-                              },
-                          .popUpEditMenu = [this] { atbar.popUp(u"ID_편집"); }});
+    addPanelTabs(*panel,
+                 {.services = m_services,
+                  .state = m_state,
+                  .reader = *this,
+                  .dacRefTab = m_dacRefTab,
+                  .baseModule = [this] { return m_slots.dacBasis().Database(); },
+                  .openStrongList =
+                      [this](const QString& language, const QString& number) {
+                          m_windows.openStrongList(language, number);
+                      },
+                  .popUpEditMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); }});
     panel->onStatus = [this](const QString& text) { statusPanel1->setText(text); };
     panel->onLayout = [this] { layOutPanel(); };
     m_split->onMoved = [this] {

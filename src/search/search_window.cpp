@@ -166,7 +166,7 @@ void frm성서검색::wireSearches()
     }
     m_original.onState = [this](const QString& text) { statusPanel2->setText(text); };
     m_original.onAnalysisLost = [this] { easy->cb역본->setListIndex(0); };
-    m_original.onEditMenu = [this] { atbar.popUp(u"ID_편집"); };
+    m_original.onEditMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
     m_original.onOpenVerse = [this](const QString& reference) { openVerse(reference); };
     sstSearch->onTabClick = [this](int tab, int) {
         if (!m_loading)
@@ -179,7 +179,7 @@ void frm성서검색::wireTextBox(QLineEdit& box)
     box.installEventFilter(this);
     box.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&box, &QLineEdit::customContextMenuRequested, this,
-            [this] { atbar.popUp(u"ID_편집"); });
+            [this, &box](const QPoint& at) { atbar.popUp(u"ID_편집", box.mapToGlobal(at)); });
 }
 
 void frm성서검색::wirePages()
@@ -203,10 +203,10 @@ void frm성서검색::wireResults()
     hflex결과->onEnter = [this, openRow] { openRow(hflex결과->Row()); };
     hflex결과->onResizeEnded = [this] { m_results.divideAnew(); };
     hflex결과->onCopy = [this] { edit(EditCommand::Copy); };
-    hflex결과->onContextMenu = [this](const QPoint&) { atbar.popUp(u"ID_편집"); };
-    hflex결과->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {
+    hflex결과->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
+    hflex결과->onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
         if (button == Qt::RightButton)
-            atbar.popUp(u"ID_편집");
+            atbar.popUp(u"ID_편집", hflex결과->viewport()->mapToGlobal(position));
     };
     hflex결과->highlight = [this](int row, int col, const QString& text) {
         const bool marked = m_settings.MarkHits && row > 0 && col == ResultGrid::kTextColumn;

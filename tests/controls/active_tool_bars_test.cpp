@@ -76,7 +76,7 @@ TEST_F(ActiveToolBarsTest, OpeningAMenuTellsItsIdBeforeItsToolsShow)
         clicks << id;
         bars.tool(u"ID_복사").setEnabled(false);
     };
-    bars.popUp(u"ID_편집");
+    bars.popUp(u"ID_편집", QPoint());
     enabledWhenShown = bars.tool(u"ID_복사").enabled();
     EXPECT_TRUE(bars.menu(u"ID_편집")->isVisible());
     EXPECT_FALSE(enabledWhenShown);

@@ -102,7 +102,7 @@ protected:
             .dacRefTab = dacRefTab,
             .openStrongList = [this](const QString& language,
                                      const QString& number) { lists << language + u' ' + number; },
-            .popUpEditMenu = [this] { ++menus; }});
+            .popUpEditMenu = [this](const QPoint&) { ++menus; }});
         tab = made.get();
         panel.onStatus = [this](const QString& text) { status = text; };
         panel.addTab(std::move(made));

@@ -122,7 +122,9 @@ TEST_F(ReaderToolsTest, TheMenuOfAViewActsOnTheVerseUnderThePointer)
     askForMenu(grid, QContextMenuEvent::Mouse, second);
     EXPECT_TRUE(editMenuIsOpen());
     EXPECT_EQ(place(), u"창세기 1장 2절"_s);
+    QCursor::setPos(reader->mapToGlobal(QPoint(5, 5)));
     askForMenu(grid, QContextMenuEvent::Keyboard, second);
+    EXPECT_EQ(reader->atbar.menu(u"ID_편집")->y(), grid.viewport()->mapToGlobal(second).y());
     EXPECT_TRUE(editMenuIsOpen());
 }
 

@@ -309,10 +309,10 @@ void ActiveToolBars::packButtons(QStringView caption)
     }
 }
 
-void ActiveToolBars::popUp(QStringView menuId)
+void ActiveToolBars::popUp(QStringView menuId, const QPoint& at)
 {
     if (QMenu* found = menu(menuId))
-        found->popup(QCursor::pos());
+        found->popup(at);
 }
 
 QMenu* ActiveToolBars::menu(QStringView id) const

@@ -5,6 +5,7 @@
 #include "platform/controls/tool_row.h"
 
 #include <QAction>
+#include <QPoint>
 #include <QString>
 #include <QVariant>
 
@@ -86,8 +87,9 @@ public:
     /// Lets the text buttons that stand on a bar now take hardly more room than their texts.
     void packButtons(QStringView caption);
 
-    /// Shows a Menu tool at the pointer and returns at once; a click in it ends in onToolClick.
-    void popUp(QStringView menuId);
+    /// Shows a Menu tool at a place of the screen and returns at once; a click in it ends in
+    /// onToolClick.
+    void popUp(QStringView menuId, const QPoint& at);
     /// nullptr when the tool is no Menu.
     QMenu* menu(QStringView id) const;
 

@@ -49,7 +49,7 @@ OriginalTab::OriginalTab(Services& services, const AppState& state, QWidget& win
               .txParsing = *results.txParsing,
               .dictionary = *results.txStrongDic,
               .marksWord = [this](const QString& number) { return wasSearched(number); },
-              .popUpEditMenu = [this] { onEditMenu(); },
+              .popUpEditMenu = [this](const QPoint& at) { onEditMenu(at); },
               .passesOverEmptyCells = true}))
 {
     m_results.lstResult->onClick = [this] { lstResult_Click(); };

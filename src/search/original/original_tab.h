@@ -6,6 +6,7 @@
 #include "search/original/original_search.h"
 #include "search/original/scratch_tables.h"
 
+#include <QPoint>
 #include <QString>
 #include <QStringList>
 
@@ -48,7 +49,7 @@ public:
     /// The user wants to read a verse, told by its short reference.
     std::function<void(const QString& reference)> onOpenVerse;
     /// The right button was used on the grid of words.
-    std::function<void()> onEditMenu;
+    std::function<void(const QPoint& at)> onEditMenu;
 
 private:
     bool isComplete(const OriginalQuestion& question);
