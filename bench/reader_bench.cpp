@@ -125,12 +125,12 @@ void moveToChapter(benchmark::State& state, int versions, ViewMode mode, int boo
     }
     program.reader.atbar_event9(mode == ViewMode::Table ? u"ID_테이블형식"_s : u"ID_텍스트형식"_s);
     for ([[maybe_unused]] const auto iteration : state) {
-        program.reader.goTo(book, chapter == 1 ? 2 : chapter - 1, 1);
+        program.reader.model.goTo(book, chapter == 1 ? 2 : chapter - 1, 1);
         program.reader.repaint();
         QApplication::processEvents();
         QElapsedTimer timer;
         timer.start();
-        program.reader.goTo(book, chapter, 1);
+        program.reader.model.goTo(book, chapter, 1);
         program.reader.repaint();
         state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) / 1e9);
     }

@@ -41,7 +41,7 @@ void Windows::open(WindowId window)
     switch (window) {
     case WindowId::Search:
         if (!m_search)
-            m_search = std::make_unique<frm성서검색>(m_services, m_state, *m_reader);
+            m_search = std::make_unique<frm성서검색>(m_services, m_state, m_reader->model);
         if (!m_search->isVisible())
             m_search->Form_Load();
         raiseWindow(*m_search);
@@ -53,12 +53,12 @@ void Windows::open(WindowId window)
         break;
     }
     case WindowId::Preferences: {
-        dlog환경설정 dialog(m_services, *m_reader);
+        dlog환경설정 dialog(m_services, m_reader->model);
         m_services.modal.run(dialog);
         break;
     }
     case WindowId::UserVersionPreferences: {
-        dlogUserVersionPref dialog(m_services, *m_reader);
+        dlogUserVersionPref dialog(m_services, m_reader->model);
         m_services.modal.run(dialog);
         break;
     }
@@ -73,7 +73,7 @@ void Windows::open(WindowId window)
 void Windows::openStrongList(const QString& language, const QString& number)
 {
     if (!m_strongList)
-        m_strongList = std::make_unique<frm스트롱관주목록>(m_services, m_state, *m_reader);
+        m_strongList = std::make_unique<frm스트롱관주목록>(m_services, m_state, m_reader->model);
     m_strongList->FillBibleIndex(language, number);
 }
 

@@ -28,8 +28,6 @@ public:
     virtual void Proc이동(QString& reference) = 0;
     /// Goes to a verse that the program itself knows; no message, no history entry.
     virtual void goTo(int book, int chapter, int verse) = 0;
-    /// Reads the chapter of all open versions and shows it.
-    virtual void FillBibleText() = 0;
     /// Takes fonts, colours and copy options from the settings anew and fills again.
     virtual void applySettings() = 0;
     /// Shows the reader in front, restored when it was minimised.

@@ -29,8 +29,8 @@ constexpr int kSidePaneWidth = 2500; // twips: two buttons abreast
 } // namespace
 
 frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
-    : panel(new ReferencePanel(services)), m_services(services), m_state(state), m_windows(windows),
-      m_slots(services, state), m_dacPersnote(services.jet), m_dacRefTab(services.jet),
+    : model(services, state, this), panel(new ReferencePanel(services)), m_services(services),
+      m_state(state), m_windows(windows), m_dacPersnote(services.jet), m_dacRefTab(services.jet),
       m_bookmarkFile(services.files, joinedPath(state.AppPath, u"\\data\\bmk.bmf"))
 {
     setObjectName(u"frm성서"_s);
@@ -47,6 +47,9 @@ frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
         if (pickedFromList(toolCombo(toolId)))
             shownView().setFocus();
     };
+    model.onChange = [this](const ReaderChange& change) { showChange(change); };
+    model.onApplySettings = [this] { applySettings(); };
+    model.onBringToFront = [this] { bringToFront(); };
     wireTextView();
     wireTableView();
     wirePanes();
@@ -106,20 +109,21 @@ void frm성서::wireTextView()
     txCont->onMouseUp = [this](Qt::MouseButton button, const QPoint&) {
         if (button == Qt::RightButton)
             return;
-        placeChanged();
+        reportStand();
     };
-    txCont->onKeyUp = [this](int, Qt::KeyboardModifiers) { placeChanged(); };
+    txCont->onKeyUp = [this](int, Qt::KeyboardModifiers) { reportStand(); };
     txCont->onContextMenu = [this](const QPoint& at) {
-        placeChanged(); // the button has moved the caret
+        reportStand(); // the button has moved the caret
         atbar.popUp(u"ID_편집", at);
     };
     txCont->onSelectionChange = [this] {
+        settle();
         guarded(m_services, this, [this] { panel->showSelection(); });
     };
     txCont->onCopy = [this] { copySelection(OriginalText::FontCodes); };
     txCont->onResizeEnded = [this] {
         // The lines of Hebrew verses are cut to the width of the view.
-        if (m_settings.ViewMode == ViewMode::Text && m_slots.holdsHebrew())
+        if (model.view() == ViewMode::Text && model.holdsHebrew())
             FillBibleText();
     };
 }
@@ -129,7 +133,7 @@ void frm성서::wireTableView()
     hflex본문->onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
         if (const int row = hflex본문->rowAtPoint(position); row >= 1) {
             m_tableView.markRow(row);
-            placeChanged();
+            reportStand();
         }
         // Behind the mark: what the menu does is done to the row under the pointer.
         if (button == Qt::RightButton)
@@ -137,50 +141,38 @@ void frm성서::wireTableView()
     };
     hflex본문->onKeyUp = [this](int) {
         m_tableView.markRow(hflex본문->RowSel());
-        placeChanged();
+        reportStand();
     };
     hflex본문->onSelChange = [this] {
+        settle();
         guarded(m_services, this, [this] { panel->showSelection(); });
     };
     hflex본문->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
     hflex본문->onCopy = [this] { copySelection(OriginalText::FontCodes); };
     hflex본문->onResizeEnded = [this] {
-        if (m_settings.ViewMode == ViewMode::Table && m_slots.holdsHebrew())
+        if (model.view() == ViewMode::Table && model.holdsHebrew())
             FillBibleText();
     };
 }
 
 void frm성서::wirePanes()
 {
-    quickMove->onMove = [this](QString& reference) { Proc이동(reference); };
+    quickMove->onMove = [this](QString& reference) { model.Proc이동(reference); };
     bookmarks->onMove = [this](const QString& reference) {
         QString target = reference;
-        Proc이동(target);
+        model.Proc이동(target);
     };
     // Not at the end alone: a power cut must not take marks away.
     bookmarks->onChanged = [this] { Save책갈피(); };
-    bookmarks->currentReference = [this] {
-        QString reference;
-        guarded(m_services, this, [this, &reference] {
-            const int verse = GetCurVerse();
-            Recordset* const rows = m_slots.dacBasis().Recordset();
-            if (verse < 1 || rows == nullptr)
-                return;
-            // By its number: where the chapter has a hole, the n-th record is another verse.
-            rows->FindFirst(u"verse = %1"_s.arg(verse));
-            if (!rows->NoMatch())
-                reference = BibleCode::IndexToRef(Text(rows->Fields(u"Index")));
-        });
-        return reference;
-    };
+    bookmarks->currentReference = [this] { return model.reference(); };
 
-    panel->addTab(std::make_unique<PersonalNotesTab>(m_services, m_state, *this, m_dacPersnote));
+    panel->addTab(std::make_unique<PersonalNotesTab>(m_services, m_state, model, m_dacPersnote));
     addPanelTabs(*panel,
                  {.services = m_services,
                   .state = m_state,
-                  .reader = *this,
+                  .reader = model,
                   .dacRefTab = m_dacRefTab,
-                  .baseModule = [this] { return m_slots.dacBasis().Database(); },
+                  .baseModule = [this] { return model.baseModule(); },
                   .openStrongList =
                       [this](const QString& language, const QString& number) {
                           m_windows.openStrongList(language, number);
@@ -197,14 +189,7 @@ void frm성서::wirePanes()
 void frm성서::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
-    if (m_shownOnce)
-        return;
-    m_shownOnce = true;
-    // While the window was hidden no Hebrew verse could be divided and there was no current verse.
-    if (m_slots.holdsHebrew())
-        FillBibleText();
-    else
-        placeChanged();
+    model.appear();
 }
 
 void frm성서::changeEvent(QEvent* event)

@@ -4,7 +4,6 @@
 #include "data/app_state.h"
 #include "data/settings.h"
 #include "forms/edit_commands.h"
-#include "forms/reader_place.h"
 #include "forms/services.h"
 #include "forms/verse_copy.h"
 #include "panel/reference_panel.h"
@@ -17,9 +16,9 @@
 #include "reader/bookmark_file.h"
 #include "reader/bookmark_pane.h"
 #include "reader/quick_move_pane.h"
+#include "reader/reader_model.h"
 #include "reader/table_view.h"
 #include "reader/text_view.h"
-#include "reader/version_slots.h"
 #include "text/original/hebrew_division.h"
 
 #include <QLabel>
@@ -32,9 +31,9 @@ class HotMoveWindow;
 class StartupProgress;
 class WindowOpener;
 
-/// The main window: owner of the place, of the versions in use and of the view mode. All its
-/// commands come in by atbar_event9 (tool clicks) and atbar_event10 (tool combos).
-class frm성서 : public QMainWindow, public ReaderPlace // no Q_OBJECT: moc cannot read the name
+/// The main window. It shows what its model holds; all its commands come in by atbar_event9 (tool
+/// clicks) and atbar_event10 (tool combos).
+class frm성서 : public QMainWindow // no Q_OBJECT: moc cannot read the name
 {
 public:
     frm성서(Services& services, AppState& state, WindowOpener& windows);
@@ -49,36 +48,22 @@ public:
     void atbar_event9(const QString& toolId);
     void atbar_event10(const QString& toolId);
 
-    // ReaderPlace
-    int book() const override;
-    int chapter() const override;
-    QString versionName(int slot) const override;
-    int versionCode(int slot) const override;
-    int GetCurVerse() const override;
-    QString GetCurVerseRange() const override;
-    void Proc이동(QString& reference) override;
-    void goTo(int book, int chapter, int verse) override;
-    void FillBibleText() override;
+    /// Shows the text that the model holds, in the look that the settings have.
+    void FillBibleText();
     /// Fills tx미리보기 with the chapter as the print preview takes it.
     void Proc텍스트미리보기채우기();
-    void applySettings() override;
-    void bringToFront() override;
 
-    void ShowTableView();
-    void HideTableView();
-    void ShowTextView();
-    void HideTextView();
     /// Marks a verse in the open view and scrolls to it.
     void Proc절선택표시(int verse);
     /// Writes the place into the second panel of the status bar.
     void Proc현재위치표시();
     /// Selects the word under the pointer in the text view, blanks being its bounds.
     void SelectClickedWord();
-    void ProcChangeBaseVersion();
-    void ProcChangeParallelVersion(int slot);
     void SaveBibleSettings();
     void Load책갈피();
     void Save책갈피();
+
+    ReaderModel model; // before the tabs, which ask it
 
     ActiveToolBars atbar{*this};
     TextControl* txCont = named<TextControl>(u"txCont", u"성서 본문");
@@ -100,11 +85,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    /// Holds fills back while several combos change; one fill runs at its end if any was asked for.
-    class FillHold;
-    /// The panel is asked once at its end, however often the place has changed meanwhile.
-    class PlaceHold;
-
     /// What the last fill has put on show.
     struct ShownChapter
     {
@@ -136,8 +116,6 @@ private:
     // Form_Load, step by step
     void setUpVersionLists(StartupProgress& splash);
     void loadView();
-    void loadPlace();
-    void loadVersions();
 
     bool Form_Unload();
     /// What could not be copied into the backup.
@@ -146,11 +124,17 @@ private:
 
     ComboBox& toolCombo(QStringView id) const { return atbar.tool(id).combo(); }
     ComboBox& versionCombo(int slot) const;
-    void bookChanged();
-    void selectBookAndChapter(int book, int chapter);
-    void stepChapter(int step);
+    void showChange(const ReaderChange& change);
+    void showPlace();
+    void showVersions();
+    void showText();
+    void showLineSpacing();
+    void applySettings();
+    void bringToFront();
+    /// Tells the model where the view on show stands; reportStand also that the user went there.
+    void settle();
+    void reportStand();
     void openHotMove(int book);
-    void chooseVersion(int slot);
     void setViewMode(ViewMode mode);
     void showViewMode();
     QWidget& shownView() const;
@@ -167,45 +151,31 @@ private:
     void enableEditTools();
     void runEdit(EditCommand command);
 
-    void fillChapter();
-    void clearChapter();
     void tellUnreadVersions();
     KeptPlace placeToKeep() const;
     void keepPlace(const KeptPlace& kept);
     ChapterStyle chapterStyle();
-    void fillTextView(const std::vector<ChapterSource>& sources);
-    void fillTableView(const std::vector<ChapterSource>& sources);
+    void fillTextView();
+    void fillTableView();
     QString divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf);
-    void placeChanged();
-    /// The verse of the base version that a move to `wanted` ends at, after a message when that
-    /// one isn't there. The chapter has a verse.
-    int verseThereFor(int wanted);
 
     Services& m_services;
     AppState& m_state;
     WindowOpener& m_windows;
     ReaderSettings m_settings; ///< as they are in use now
-    VersionSlots m_slots;
     DataControl m_dacPersnote;
     DataControl m_dacRefTab; ///< shared by the tabs of the panel, which point it anew
     BookmarkFile m_bookmarkFile;
     FontLineBreaker m_lineBreaker;
     TextView m_textView{*txCont};
     mutable TableView m_tableView{*hflex본문};
-    std::vector<ChapterSource> m_chapter; ///< what is on show
     ToolDispatch m_tools;
     ToolDispatch m_combos;
     Splitter* m_split = named<Splitter>(u"RefBarSplit");
     QWidget* m_sidePane = named<QWidget>(u"SidePane");
 
-    bool m_loading = false;
-    int m_fillHolds = 0;
-    bool m_fillWanted = false;
-    int m_placeHolds = 0;
-    bool m_placeWanted = false;
     QStringList m_unreadTold; // what the user knows of versions that can't be read
     ShownChapter m_shown;
-    bool m_shownOnce = false;
     bool m_isMinimized = false;
     QStringList m_storedBookmarks;   ///< as the file holds them
     bool m_bookmarksRefused = false; ///< the user knows that they can't be stored

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/canon_table.h"
-#include "canon/verse_index.h"
 #include "forms/book_combo.h"
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
 #include "platform/dialogs/clipboard.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/registry/registry_store.h"
+#include "reader/bible_window.h"
 #include "reader/copy_tail.h"
-#include "reader/fill_hold.h"
 #include "reader/messages.h"
-#include "reader/typed_reference.h"
 #include "text/original/hebrew_division.h"
 
 #include <algorithm>
@@ -19,212 +17,114 @@ using namespace Qt::StringLiterals;
 
 namespace lumen {
 
-int frm성서::book() const
-{
-    return std::max(0, toolCombo(u"ID_cb책명").ListIndex());
-}
-
-int frm성서::chapter() const
-{
-    return std::max(0, toolCombo(u"ID_cb장").ListIndex()) + 1;
-}
-
-QString frm성서::versionName(int slot) const
-{
-    return m_slots(slot).table;
-}
-
-int frm성서::versionCode(int slot) const
-{
-    return m_slots(slot).code;
-}
-
-int frm성서::GetCurVerse() const
-{
-    if (m_loading || !isVisible())
-        return 0;
-    return m_settings.ViewMode == ViewMode::Text ? m_textView.currentVerse()
-                                                 : m_tableView.currentVerse();
-}
-
-QString frm성서::GetCurVerseRange() const
-{
-    if (m_loading || !isVisible())
-        return {};
-    return m_settings.ViewMode == ViewMode::Text ? m_textView.currentRange()
-                                                 : m_tableView.currentRange();
-}
-
-void frm성서::ShowTableView()
-{
-    hflex본문->show();
-}
-
-void frm성서::HideTableView()
-{
-    hflex본문->hide();
-}
-
-void frm성서::ShowTextView()
-{
-    txCont->show();
-}
-
-void frm성서::HideTextView()
-{
-    txCont->hide();
-}
-
 void frm성서::SelectClickedWord()
 {
     txCont->SelectClickedWord();
 }
 
-void frm성서::bookChanged()
+void frm성서::showChange(const ReaderChange& change)
 {
-    const FillHold hold(*this);
-    ComboBox& chapters = toolCombo(u"ID_cb장");
-    fillChapterCombo(chapters, book());
-    chapters.setListIndex(0);
-}
-
-void frm성서::selectBookAndChapter(int book, int chapter)
-{
-    ComboBox& books = toolCombo(u"ID_cb책명");
-    if (books.ListIndex() != book)
-        books.setListIndex(book);
-    toolCombo(u"ID_cb장").setListIndex(chapter - 1);
-}
-
-void frm성서::stepChapter(int step)
-{
-    // The chapters of a book go round: behind the last one comes its first.
-    ComboBox& chapters = toolCombo(u"ID_cb장");
-    const int count = chapters.ListCount();
-    if (count < 2) // a book of one chapter has no other to go to
-        return;
-    hflex본문->setTag(u"1"_s);
-    chapters.setListIndex((chapters.ListIndex() + step + count) % count);
-}
-
-void frm성서::Proc이동(QString& reference)
-{
-    std::optional<TypedReference> typed = parseTypedReference(reference);
-    if (!typed) {
-        m_services.messages.show(this, messages::kBadReference);
-        return;
+    if (change.versions)
+        showVersions();
+    if (change.view)
+        showViewMode();
+    if (change.text) {
+        showPlace();
+        tellUnreadVersions();
     }
-    reference = typed->reference;
-    // The chapter comes with its first verse, then the wanted one is marked.
-    const PlaceHold once(*this);
-    {
-        const FillHold hold(*this);
-        m_fillWanted = true; // also when book and chapter stay: the text is filled again
-        const LimitedNumber wanted = limitedTo(chapterCount(typed->book), typed->chapter);
-        selectBookAndChapter(typed->book, 1);
-        if (wanted.wasTooLarge)
-            m_services.messages.show(this, messages::kChapterTooLarge);
-        selectBookAndChapter(typed->book, std::max(1, wanted.value));
+    if (change.text || change.view)
+        showText();
+    if (change.marked != 0)
+        Proc절선택표시(change.marked);
+    if (change.text || change.view || change.stand) {
+        guarded(m_services, this, [this] { panel->showPlace(); });
+        Proc현재위치표시();
     }
-    if (m_chapter.empty() || m_chapter.front().verses.empty())
+    if (change.moved.isEmpty())
         return;
-    const int shown = verseThereFor(typed->verse);
-    Proc절선택표시(shown);
-    quickMove->remember(u"%1%2:%3"_s.arg(bookAbbreviation(book())).arg(chapter()).arg(shown));
+    quickMove->remember(change.moved);
     // Whoever has typed a place wants to read, mark and copy there.
     if (quickMove->isTyping())
         shownView().setFocus();
 }
 
-int frm성서::verseThereFor(int wanted)
+void frm성서::showPlace()
 {
-    const ChapterSource& base = m_chapter.front();
-    const LimitedNumber verse = limitedTo(base.lastVerse(), std::max(1, wanted));
-    if (verse.wasTooLarge)
-        m_services.messages.show(this, messages::kVerseTooLarge);
-    if (base.find(verse.value) != nullptr)
-        return verse.value;
-    // A hole in the chapter: what stands before it is where the reader would look.
-    m_services.messages.show(this, messages::kVerseAbsent);
-    int before = base.verses.front().verse;
-    for (const ChapterVerse& row : base.verses)
-        if (row.verse < verse.value)
-            before = row.verse;
-    return before;
+    // The events of combos that are set here ask the model for what it has already.
+    ComboBox& books = toolCombo(u"ID_cb책명");
+    ComboBox& chapters = toolCombo(u"ID_cb장");
+    if (books.ListIndex() != model.book() || chapters.ListCount() != chapterCount(model.book()))
+        fillChapterCombo(chapters, model.book());
+    books.setListIndex(model.book());
+    chapters.setListIndex(model.chapter() - 1);
 }
 
-void frm성서::goTo(int book, int chapter, int verse)
+void frm성서::settle()
 {
-    const PlaceHold once(*this);
-    {
-        const FillHold hold(*this);
-        m_fillWanted = true;
-        selectBookAndChapter(std::clamp(book, 0, kBookCount - 1), 1);
-        selectBookAndChapter(this->book(), std::clamp(chapter, 1, chapterCount(this->book())));
-    }
-    Proc절선택표시(verse);
+    if (model.view() == ViewMode::Text)
+        model.settle(m_textView.currentVerse(), m_textView.currentRange());
+    else
+        model.settle(m_tableView.currentVerse(), m_tableView.currentRange());
+}
+
+void frm성서::reportStand()
+{
+    settle();
+    model.stand();
 }
 
 void frm성서::Proc절선택표시(int verse)
 {
-    if (m_settings.ViewMode == ViewMode::Text)
+    if (model.view() == ViewMode::Text)
         m_textView.selectVerse(verse);
     else
         m_tableView.selectVerse(verse);
-    placeChanged();
+    settle();
 }
 
 void frm성서::Proc현재위치표시()
 {
-    const int verse = GetCurVerse();
+    const int verse = model.GetCurVerse();
     QString place;
     if (verse != 0)
-        place = u"%1 %2장"_s.arg(bookName(book())).arg(chapter());
+        place = u"%1 %2장"_s.arg(bookName(model.book())).arg(model.chapter());
     // An empty page has no verse to stand at.
-    if (verse != 0 && !m_chapter.empty() && !m_chapter.front().verses.empty())
+    if (verse != 0 && model.hasText())
         place += u" %1절"_s.arg(verse);
     statusPanel2->setText(place);
 }
 
-void frm성서::placeChanged()
+void frm성서::FillBibleText()
 {
-    m_placeWanted = m_placeHolds > 0;
-    if (m_placeWanted)
-        return;
+    showText();
     guarded(m_services, this, [this] { panel->showPlace(); });
     Proc현재위치표시();
 }
 
-void frm성서::FillBibleText()
+void frm성서::showText()
 {
-    if (m_loading || m_fillHolds > 0) {
-        m_fillWanted = true;
-        return;
-    }
-    m_fillWanted = false;
-    if (!guarded(m_services, this, [this] { fillChapter(); }))
-        clearChapter();
-    placeChanged();
-    tellUnreadVersions();
-}
-
-void frm성서::clearChapter()
-{
-    // A text that stays from before would stand under another place.
-    m_chapter.clear();
-    m_shown = {};
-    m_textView.show({});
-    m_tableView.clear();
+    const WaitPointer wait;
+    const KeptPlace kept = placeToKeep();
+    if (kept.verse == 0)
+        hflex본문->setTag(u"1"_s);
+    if (model.view() == ViewMode::Text)
+        fillTextView();
+    else
+        fillTableView();
+    keepPlace(kept);
+    m_shown = model.text().empty() ? ShownChapter()
+                                   : ShownChapter{model.book(), model.chapter(), model.view()};
+    settle();
 }
 
 void frm성서::tellUnreadVersions()
 {
     QStringList unread;
     QStringList problems;
-    for (const ChapterSource& source : m_chapter) {
+    for (const ChapterSource& source : model.text()) {
         if (source.problem.isEmpty())
             continue;
-        unread << m_slots(source.slot).table;
+        unread << model.versionName(source.slot);
         problems << unread.last() + u": "_s + source.problem;
     }
     // Once for as long as the same modules fail, not with each chapter.
@@ -232,23 +132,10 @@ void frm성서::tellUnreadVersions()
         m_services.messages.show(this, messages::kVersionUnread, {problems.join(u"\r\n"_s)});
 }
 
-void frm성서::fillChapter()
-{
-    const WaitPointer wait;
-    const KeptPlace kept = placeToKeep();
-    m_chapter = m_slots.readChapter(book(), chapter());
-    if (m_settings.ViewMode == ViewMode::Text)
-        fillTextView(m_chapter);
-    else
-        fillTableView(m_chapter);
-    keepPlace(kept);
-    m_shown = {book(), chapter(), m_settings.ViewMode};
-}
-
 frm성서::KeptPlace frm성서::placeToKeep() const
 {
     // The same chapter comes in another look: the reader stays at his verse.
-    if (m_shown.book != book() || m_shown.chapter != chapter())
+    if (m_shown.book != model.book() || m_shown.chapter != model.chapter())
         return {};
     const auto placeIn = [](auto& view) {
         const int verse = view.currentVerse();
@@ -267,7 +154,7 @@ void frm성서::keepPlace(const KeptPlace& kept)
         if (kept.isInView && !view.isInView(kept.verse))
             view.scrollToVerse(kept.verse);
     };
-    if (m_settings.ViewMode == ViewMode::Table) {
+    if (model.view() == ViewMode::Table) {
         m_tableView.selectVerse(kept.verse);
         m_tableView.selectRange(kept.selected);
         keepIn(m_tableView);
@@ -283,8 +170,7 @@ void frm성서::keepPlace(const KeptPlace& kept)
 QString frm성서::divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf)
 {
     HebrewTarget shown = target;
-    shown.isVisible =
-        isVisible() && (m_settings.ViewMode == ViewMode::Text || hflex본문->isVisible());
+    shown.isVisible = isVisible() && (model.view() == ViewMode::Text || hflex본문->isVisible());
     return DivideHebrewCont(stored, shown, asRtf, m_lineBreaker);
 }
 
@@ -310,21 +196,19 @@ ChapterStyle frm성서::chapterStyle()
     return style;
 }
 
-void frm성서::fillTextView(const std::vector<ChapterSource>& sources)
+void frm성서::fillTextView()
 {
-    m_textView.show(composeChapter(sources, chapterStyle()));
+    m_textView.show(composeChapter(model.text(), chapterStyle()));
 }
 
 void frm성서::Proc텍스트미리보기채우기()
 {
     ChapterStyle style = chapterStyle();
     style.kind = DocumentKind::Preview;
-    const ComposedChapter composed =
-        composeChapter(m_slots.readChapter(book(), chapter(), DocumentKind::Preview), style);
-    TextView(*tx미리보기).show(composed);
+    TextView(*tx미리보기).show(composeChapter(model.readPreview(), style));
 }
 
-void frm성서::fillTableView(const std::vector<ChapterSource>& sources)
+void frm성서::fillTableView()
 {
     TableStyle style;
     style.fontSize = m_settings.FontSize;
@@ -338,9 +222,12 @@ void frm성서::fillTableView(const std::vector<ChapterSource>& sources)
         return divideHebrew(stored, {font, halfPoints, width, taken}, false);
     };
     QStringList headers;
-    for (const ChapterSource& source : sources)
+    for (const ChapterSource& source : model.text())
         headers << versionCombo(source.slot).Text();
-    m_tableView.show(sources, headers, style);
+    if (model.text().empty())
+        m_tableView.clear();
+    else
+        m_tableView.show(model.text(), headers, style);
 }
 
 void frm성서::applyColors()
@@ -364,9 +251,9 @@ void frm성서::applySettings()
 void frm성서::copySelection(OriginalText originals)
 {
     const std::vector<SelectedVerse> selected =
-        m_settings.ViewMode == ViewMode::Text
+        model.view() == ViewMode::Text
             ? m_textView.selectedVerses()
-            : m_tableView.selectedVerses(m_chapter, m_settings.ShowMiniTitle);
+            : m_tableView.selectedVerses(model.text(), m_settings.ShowMiniTitle);
     if (selected.empty())
         return;
     std::vector<CopiedVerse> copied;
@@ -383,12 +270,12 @@ void frm성서::copySelection(OriginalText originals)
     options.crLf = m_settings.copy.crLf; // unlike the others it counts as it was at the start
     CopySource source;
     for (int slot = 0; slot < kSlotCount; ++slot)
-        if (slot == 0 || m_slots(slot).isOpen())
-            source.versions << versionName(slot);
-    source.bookName = toolCombo(u"ID_cb책명").Text();
-    source.abbreviation = bookAbbreviation(book());
-    source.chapter = toolCombo(u"ID_cb장").Text();
-    source.verseRange = GetCurVerseRange();
+        if (slot == 0 || model.versionCode(slot) != 0)
+            source.versions << model.versionName(slot);
+    source.bookName = bookName(model.book());
+    source.abbreviation = bookAbbreviation(model.book());
+    source.chapter = QString::number(model.chapter());
+    source.verseRange = model.GetCurVerseRange();
     m_services.clipboard.set(composeVerseCopy(copied, copyEnding(options, source), originals));
 }
 

@@ -10,7 +10,7 @@
 #include "platform/dialogs/message_boxes.h"
 #include "platform/files/shell.h"
 #include "platform/registry/registry_store.h"
-#include "reader/fill_hold.h"
+#include "reader/bible_window.h"
 #include "reader/hot_move_window.h"
 #include "reader/messages.h"
 #include "reader/reader_tools.h"
@@ -150,15 +150,12 @@ void frm성서::bindTools()
     m_tools.on(u"ID_전체선택", [this] { runEdit(EditCommand::SelectAll); });
     for (int slot = 0; slot < kSlotCount; ++slot) {
         const auto at = static_cast<std::size_t>(slot);
-        m_combos.on(kSlotCombos[at], [this, slot] { chooseVersion(slot); });
+        m_combos.on(kSlotCombos[at],
+                    [this, slot] { model.chooseVersion(slot, versionCombo(slot).ListIndex()); });
         // The tool's tag is the place of its version in the slot's combo.
         m_tools.onFamily(u"ID_대역본%1-"_s.arg(slot), [this, slot](const QString& version) {
-            Tool tool = atbar.tool(u"ID_대역본%1-"_s.arg(slot) + version);
-            const int index = tool.tag().toInt();
-            if (index == versionCombo(slot).ListIndex())
-                tool.setChecked(true);
-            else
-                versionCombo(slot).setListIndex(index);
+            const Tool tool = atbar.tool(u"ID_대역본%1-"_s.arg(slot) + version);
+            model.chooseVersion(slot, tool.tag().toInt());
         });
     }
 }
@@ -214,8 +211,8 @@ void frm성서::bindViewTools()
 
 void frm성서::bindMoveTools()
 {
-    m_tools.on(u"ID_이전장", [this] { stepChapter(-1); });
-    m_tools.on(u"ID_다음장", [this] { stepChapter(1); });
+    m_tools.on(u"ID_이전장", [this] { model.stepChapter(-1); });
+    m_tools.on(u"ID_다음장", [this] { model.stepChapter(1); });
     m_tools.on(u"ID_QuickMove", [this] {
         m_sidePane->show();
         atbar.tool(u"ID_SidePane").setChecked(true);
@@ -223,13 +220,20 @@ void frm성서::bindMoveTools()
     });
     m_tools.on(u"ID_ToText", [this] { shownView().setFocus(); });
     m_tools.on(u"ID_AddBookmark", [this] { bookmarks->cmd책갈피추가_Click(); });
-    m_tools.onNumbered(u"ID_성서책",
-                       [this](int book) { toolCombo(u"ID_cb책명").setListIndex(book); });
+    const auto goToChapter = [this](int book, int chapter) {
+        // What shows the place comes here too.
+        if (book != model.book() || chapter != model.chapter())
+            model.moveTo({book, chapter, 0});
+    };
+    const auto goToBook = [this, goToChapter](int book) {
+        if (book != model.book())
+            goToChapter(book, 1);
+    };
+    m_tools.onNumbered(u"ID_성서책", goToBook);
     m_tools.onNumbered(u"ID_", [this](int book) { openHotMove(book); });
-    m_combos.on(u"ID_cb책명", [this] { bookChanged(); });
-    m_combos.on(u"ID_cb장", [this] {
-        hflex본문->setTag(u"1"_s);
-        FillBibleText();
+    m_combos.on(u"ID_cb책명", [this, goToBook] { goToBook(toolCombo(u"ID_cb책명").ListIndex()); });
+    m_combos.on(u"ID_cb장", [this, goToChapter] {
+        goToChapter(model.book(), toolCombo(u"ID_cb장").ListIndex() + 1);
     });
 }
 
@@ -282,11 +286,9 @@ void frm성서::setBarVisible(QStringView barTool, bool visible)
 void frm성서::setViewMode(ViewMode mode)
 {
     const bool atText = focusWidget() == &shownView();
-    m_settings.ViewMode = mode;
-    showViewMode();
+    model.setView(mode);
     if (atText)
         shownView().setFocus();
-    FillBibleText();
 }
 
 void frm성서::turnPane(const QWidget& pane, const std::function<bool()>& turn)
@@ -301,19 +303,15 @@ void frm성서::turnPane(const QWidget& pane, const std::function<bool()>& turn)
 
 QWidget& frm성서::shownView() const
 {
-    return m_settings.ViewMode == ViewMode::Text ? static_cast<QWidget&>(*txCont) : *hflex본문;
+    return model.view() == ViewMode::Text ? static_cast<QWidget&>(*txCont) : *hflex본문;
 }
 
 void frm성서::showViewMode()
 {
-    const bool table = m_settings.ViewMode == ViewMode::Table;
-    if (table) {
-        HideTextView();
-        ShowTableView();
-    } else {
-        HideTableView();
-        ShowTextView();
-    }
+    const bool table = model.view() == ViewMode::Table;
+    // Never both: what goes is hidden first.
+    (table ? static_cast<QWidget*>(txCont) : hflex본문)->hide();
+    shownView().show();
     atbar.tool(u"ID_테이블형식").setChecked(table);
     atbar.tool(u"ID_텍스트형식").setChecked(!table);
     for (const LineSpacingTool& spacing : kLineSpacings)
@@ -323,10 +321,15 @@ void frm성서::showViewMode()
 void frm성서::setLineSpacing(int percent)
 {
     m_settings.LineSpacing = percent;
-    for (const LineSpacingTool& spacing : kLineSpacings)
-        atbar.tool(spacing.id).setChecked(spacing.percent == percent);
-    txCont->setLineSpacing(percent);
+    showLineSpacing();
     FillBibleText();
+}
+
+void frm성서::showLineSpacing()
+{
+    for (const LineSpacingTool& spacing : kLineSpacings)
+        atbar.tool(spacing.id).setChecked(spacing.percent == m_settings.LineSpacing);
+    txCont->setLineSpacing(m_settings.LineSpacing);
 }
 
 void frm성서::setFontSize(int step)
@@ -336,41 +339,20 @@ void frm성서::setFontSize(int step)
     FillBibleText();
 }
 
-void frm성서::chooseVersion(int slot)
+void frm성서::showVersions()
 {
-    if (slot == 0)
-        ProcChangeBaseVersion();
-    else
-        ProcChangeParallelVersion(slot);
-}
-
-void frm성서::ProcChangeBaseVersion()
-{
-    ProcChangeParallelVersion(0);
-}
-
-void frm성서::ProcChangeParallelVersion(int slot)
-{
-    ComboBox& combo = versionCombo(slot);
-    const ChosenVersion chosen = m_slots(slot).choice.choose(this, combo.ListIndex(), m_loading);
-    if (!chosen.accepted) {
-        combo.setListIndex(chosen.index); // whose event runs this again
-        return;
+    for (int slot = 0; slot < kSlotCount; ++slot) {
+        versionCombo(slot).setListIndex(model.choice(slot).previousIndex());
+        const int code = model.versionCode(slot);
+        const QString family = u"ID_대역본%1-"_s.arg(slot);
+        atbar.checkOnly(family, family + (code == 0 ? u"없음"_s : QString::number(code)));
     }
-    m_slots.take(slot, chosen);
-    const QString version = chosen.code == 0 ? u"없음"_s : QString::number(chosen.code);
-    const QString family = u"ID_대역본%1-"_s.arg(slot);
-    atbar.checkOnly(family, family + version);
-    FillBibleText();
 }
 
 void frm성서::openHotMove(int book)
 {
     auto* chapters = new HotMoveWindow(book, this);
-    chapters->onChapter = [this, book](int chapter) {
-        const FillHold hold(*this);
-        selectBookAndChapter(book, chapter);
-    };
+    chapters->onChapter = [this, book](int chapter) { model.moveTo({book, chapter, 0}); };
     const QString bar =
         (book < kFirstNewTestamentBook ? reader_bar::kMove1 : reader_bar::kMove2).toString();
     const QWidget* const button =
@@ -409,9 +391,9 @@ void frm성서::runEdit(EditCommand command)
         runEditCommand(command, editTarget(*this), m_services.clipboard);
     if (command == EditCommand::SelectAll && copiesVerses()) {
         // No key or button of the view's own has told of the new place.
-        if (m_settings.ViewMode == ViewMode::Table)
+        if (model.view() == ViewMode::Table)
             m_tableView.markRow(hflex본문->RowSel());
-        placeChanged();
+        reportStand();
     }
 }
 

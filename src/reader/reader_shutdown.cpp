@@ -41,11 +41,13 @@ void frm성서::Save책갈피()
 
 void frm성서::SaveBibleSettings()
 {
-    m_settings.BookNum = book();
-    m_settings.ChapNum = chapter() - 1;
-    m_settings.DefVerNum = versionCombo(0).ListIndex();
+    m_settings.BookNum = model.book();
+    m_settings.ChapNum = model.chapter() - 1;
+    m_settings.ViewMode = model.view();
+    m_settings.DefVerNum = model.choice(0).previousIndex();
     for (int slot = 1; slot < kSlotCount; ++slot)
-        m_settings.Interlinear[static_cast<std::size_t>(slot - 1)] = versionCombo(slot).ListIndex();
+        m_settings.Interlinear[static_cast<std::size_t>(slot - 1)] =
+            model.choice(slot).previousIndex();
     m_settings.TabNum = panel->sst관주사전->Tab();
     m_settings.RefBarMode = panel->state();
     saveFormGeometry(m_services.registry, geometry::kBible, *this);
@@ -67,7 +69,7 @@ void frm성서::tellWhatWasNotStored()
 QStringList frm성서::compactAndBackUp()
 {
     // What is open can't be compacted.
-    m_slots.close();
+    model.close();
     m_dacPersnote.Close();
     m_dacRefTab.Close();
     QStringList notCopied;

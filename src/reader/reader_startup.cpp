@@ -44,10 +44,9 @@ bool languageBarRuns(const ProcessList& processes)
 
 bool frm성서::Form_Load(StartupProgress& splash)
 {
-    m_loading = true;
     m_state.LanguageBarRunning = languageBarRuns(m_services.processes);
     CheckData(m_state, m_services.files, m_services.jet);
-    m_slots.takeStock();
+    model.takeStock();
     m_state.fonts.userFonts = GetUserFontSize(m_services.registry);
     splash.showSplash();
     splash.setProgress(kProgressStart);
@@ -69,15 +68,11 @@ bool frm성서::Form_Load(StartupProgress& splash)
     m_state.fonts.mainFont = m_settings.MainFont;
     applyColors();
     hflex본문->setStretchShares(m_settings.TableColumns);
-    loadPlace();
-    loadVersions();
-    hflex본문->setTag(u"1"_s);
+    FillBookCombo(toolCombo(u"ID_cb책명"));
     panel->sst관주사전->setTab(m_settings.TabNum);
     splash.setProgress(kProgressText);
-    setLineSpacing(m_settings.LineSpacing);
-
-    m_loading = false;
-    FillBibleText();
+    showLineSpacing();
+    model.open(m_settings);
     splash.setProgress(kProgressDone);
     // The splash window draws its full bar before the reader comes up.
     m_services.modal.letEventsRun();
@@ -105,7 +100,7 @@ void frm성서::setUpVersionLists(StartupProgress& splash)
                                                          u"ID_대역본2", u"ID_대역본3"};
     splash.setProgress(kProgressLists[0]);
     for (int slot = 0; slot < kSlotCount; ++slot) {
-        m_slots(slot).choice.fill(versionCombo(slot));
+        model.choice(slot).fill(versionCombo(slot));
         setUpVersionMenu(atbar, kMenus[static_cast<std::size_t>(slot)],
                          SetupMenu(m_state.installed, slot));
         splash.setProgress(kProgressLists[static_cast<std::size_t>(slot) + 1]);
@@ -115,32 +110,11 @@ void frm성서::setUpVersionLists(StartupProgress& splash)
 
 void frm성서::loadView()
 {
-    showViewMode();
     atbar.tool(u"ID_소주제표시").setChecked(m_settings.ShowMiniTitle);
     atbar.tool(u"ID_표준도구모음").setChecked(true);
     atbar.tool(u"ID_대조도구모음").setChecked(true);
     atbar.tool(u"ID_SidePane").setChecked(true);
     panel->setState(m_settings.RefBarMode);
-}
-
-void frm성서::loadPlace()
-{
-    ComboBox& books = toolCombo(u"ID_cb책명");
-    FillBookCombo(books);
-    books.setListIndex(m_settings.BookNum); // whose event fills the chapters
-    ComboBox& chapters = toolCombo(u"ID_cb장");
-    const bool known = m_settings.ChapNum >= 0 && m_settings.ChapNum < chapters.ListCount();
-    chapters.setListIndex(known ? m_settings.ChapNum : 0);
-}
-
-void frm성서::loadVersions()
-{
-    versionCombo(0).setListIndex(
-        restoredVersionIndex(m_slots(0).choice.items(), m_settings.DefVerNum));
-    for (int slot = 1; slot < kSlotCount; ++slot)
-        versionCombo(slot).setListIndex(
-            restoredVersionIndex(m_slots(slot).choice.items(),
-                                 m_settings.Interlinear[static_cast<std::size_t>(slot - 1)]));
 }
 
 } // namespace lumen

@@ -109,7 +109,7 @@ TEST_F(WindowsTest, ASyllableUnderCompositionStaysInItsBoxBehindATool)
     QWidget* const next = bar->widgetForAction(reader.atbar.tool(u"ID_다음장").action());
     ASSERT_NE(next, nullptr);
     QTest::mouseClick(next, Qt::LeftButton);
-    EXPECT_EQ(reader.chapter(), 2);
+    EXPECT_EQ(reader.model.chapter(), 2);
     EXPECT_EQ(box->text(), u"창"_s);
     reader.close();
 }

@@ -93,9 +93,9 @@ TEST_F(ReaderStartTest, EverythingIsThereAgainAtTheNextStart)
     EXPECT_EQ(reader->geometry(), QRect(20, 30, 760, 540));
     EXPECT_EQ(place(), u"요한복음 3장 1절"_s);
     EXPECT_TRUE(reader->hflex본문->isVisible());
-    EXPECT_EQ(reader->versionName(1), u"KJV"_s);
-    EXPECT_EQ(reader->versionName(2), u"None"_s);
-    EXPECT_EQ(reader->versionName(3), u"TR Stephanus"_s);
+    EXPECT_EQ(reader->model.versionName(1), u"KJV"_s);
+    EXPECT_EQ(reader->model.versionName(2), u"None"_s);
+    EXPECT_EQ(reader->model.versionName(3), u"TR Stephanus"_s);
     EXPECT_TRUE(reader->atbar.tool(u"ID_글자크기5").checked());
     EXPECT_FALSE(reader->atbar.tool(u"ID_글자크기3").checked());
     EXPECT_TRUE(reader->atbar.tool(u"ID_줄간격2배").checked());
@@ -119,8 +119,8 @@ TEST_F(ReaderStartTest, StoredValuesOutsideTheirLimitsFallBack)
     start();
     EXPECT_TRUE(reader->atbar.tool(u"ID_글자크기3").checked());
     EXPECT_EQ(place(), u"요한복음 1장 1절"_s);
-    EXPECT_EQ(reader->versionName(0), u"개역한글"_s);
-    EXPECT_EQ(reader->versionName(1), u"None"_s);
+    EXPECT_EQ(reader->model.versionName(0), u"개역한글"_s);
+    EXPECT_EQ(reader->model.versionName(1), u"None"_s);
 }
 
 TEST_F(ReaderStartTest, StoredColoursAndFontsAreOnShow)
@@ -167,7 +167,7 @@ TEST_F(ReaderStartTest, StoredColoursAndFontsAreOnShow)
     store(u"MainFont"_s, u"굴림체"_s);
     store(u"UserFont1"_s, u"궁서"_s);
     store(u"CpCrLf"_s, u"1"_s);
-    reader->applySettings(); // the preferences have been applied
+    reader->model.applySettings(); // the preferences have been applied
     EXPECT_EQ(font().families(), QStringList{u"굴림체"_s});
     click(u"ID_텍스트형식");
     EXPECT_EQ(colorOf(base), QColor(9, 8, 7));

@@ -18,12 +18,12 @@ TEST_F(ReaderVersionsTest, MenusAndCombosChooseTheSameVersion)
     start();
     click(u"ID_대역본1-201");
     EXPECT_EQ(combo(u"ID_cb대역본1").Text(), u"대역본1 - KJV"_s);
-    EXPECT_EQ(reader->versionName(1), u"KJV"_s);
+    EXPECT_EQ(reader->model.versionName(1), u"KJV"_s);
     click(u"ID_대역본0-201");
-    EXPECT_EQ(reader->versionName(0), u"KJV"_s) << "the same version may stand in two slots";
+    EXPECT_EQ(reader->model.versionName(0), u"KJV"_s) << "the same version may stand in two slots";
     EXPECT_TRUE(reader->txCont->Text().startsWith(u"1\t"_s + TinyData::text(201, 0, 1, 1)));
     click(u"ID_대역본1-없음");
-    EXPECT_EQ(reader->versionCode(1), 0);
+    EXPECT_EQ(reader->model.versionCode(1), 0);
 }
 
 TEST_F(ReaderVersionsTest, AnAbsentVersionIsRefusedAndTheFormerOneStays)
@@ -37,14 +37,14 @@ TEST_F(ReaderVersionsTest, AnAbsentVersionIsRefusedAndTheFormerOneStays)
     expectWarning(u"역본 미설치"_s, u"해당 역본이 설치되어 있지 않습니다."_s);
     pickVersion(u"ID_cb대역본1", 305);
     EXPECT_EQ(combo(u"ID_cb대역본1").Text(), u"대역본1 - 없음"_s);
-    EXPECT_EQ(reader->versionName(1), u"None"_s);
+    EXPECT_EQ(reader->model.versionName(1), u"None"_s);
 
     // The module goes while the program runs.
     ASSERT_TRUE(QFile::remove(services.folders.data(u"201.dts"_s)));
     expectWarning(u"CD 삽입 후 재시행 요망"_s,
                   u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요."_s);
     click(u"ID_대역본0-201");
-    EXPECT_EQ(reader->versionName(0), u"개역한글"_s);
+    EXPECT_EQ(reader->model.versionName(0), u"개역한글"_s);
     EXPECT_TRUE(reader->atbar.tool(u"ID_대역본0-101").checked());
     EXPECT_FALSE(reader->atbar.tool(u"ID_대역본0-201").checked());
     EXPECT_EQ(reader->txCont->Text(), before);
@@ -105,7 +105,7 @@ TEST_F(ReaderVersionsTest, HebrewLinesAppearOnceTheWindowIsShown)
     start();
     pickVersion(u"ID_cb기본버전", 301);
     start();
-    ASSERT_EQ(reader->versionName(0), u"BHS"_s);
+    ASSERT_EQ(reader->model.versionName(0), u"BHS"_s);
     const QString text = reader->txCont->Text();
     EXPECT_TRUE(text.startsWith(u"1   "_s));
     EXPECT_GT(text.split(u'\n').first().size(), 10) << text.left(60).toStdString();

@@ -67,7 +67,7 @@ TEST_F(ReaderViewsTest, TheMarkFollowsMouseAndKeys)
     QTest::keyClick(&table, Qt::Key_Down);
     EXPECT_EQ(place(), u"창세기 1장 4절"_s);
     QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(reader->GetCurVerseRange(), u"4-5"_s);
+    EXPECT_EQ(reader->model.GetCurVerseRange(), u"4-5"_s);
     click(u"ID_다음장");
     EXPECT_EQ(place(), u"창세기 2장 1절"_s);
 
@@ -88,7 +88,7 @@ TEST_F(ReaderViewsTest, AnotherLookKeepsTheVerse)
         EXPECT_TRUE(reader->focusWidget() == reader->txCont || reader->focusWidget() == &grid());
     }
     click(u"ID_다음장");
-    EXPECT_EQ(reader->GetCurVerse(), 1);
+    EXPECT_EQ(reader->model.GetCurVerse(), 1);
 }
 
 TEST_F(ReaderViewsTest, AViewThatWasScrolledStaysWhereItIs)
@@ -109,14 +109,14 @@ TEST_F(ReaderViewsTest, AViewThatWasScrolledStaysWhereItIs)
     for (const QStringView look : {u"ID_줄간격1.5배", u"ID_소주제표시", u"ID_글자크기4"}) {
         click(look);
         EXPECT_TRUE(top().contains(fourth)) << look.toString().toStdString() << top().toStdString();
-        EXPECT_EQ(reader->GetCurVerse(), 1) << "the caret has not moved";
+        EXPECT_EQ(reader->model.GetCurVerse(), 1) << "the caret has not moved";
     }
     click(u"ID_테이블형식");
     QApplication::processEvents();
     EXPECT_EQ(cell(grid().TopRow(), 1), u"4"_s);
     click(u"ID_대역본1-201");
     EXPECT_EQ(cell(grid().TopRow(), 1), u"4"_s);
-    EXPECT_EQ(reader->GetCurVerse(), 1);
+    EXPECT_EQ(reader->model.GetCurVerse(), 1);
 
     // A verse that is gone to comes up with its heading.
     click(u"ID_소주제표시");
@@ -201,12 +201,12 @@ TEST_F(ReaderViewsTest, ASelectionIsNamedCopiedAndKeptByItsVerses)
     // From the first verse into the heading of the third.
     const int first = positionOf(u"1\t"_s + TinyData::text(101, 0, 1, 1));
     text.select(first, positionOf(u"둘째 제목"_s) + 2 - first);
-    EXPECT_EQ(reader->GetCurVerseRange(), u"1-2"_s);
+    EXPECT_EQ(reader->model.GetCurVerseRange(), u"1-2"_s);
     EXPECT_TRUE(copied().endsWith(u"(개역한글 창1:1~2)"_s)) << copied().toStdString();
     for (const QStringView look : {u"ID_글자크기5", u"ID_테이블형식", u"ID_글자크기2",
                                    u"ID_소주제표시", u"ID_소주제표시", u"ID_텍스트형식"}) {
         click(look);
-        EXPECT_EQ(reader->GetCurVerseRange(), u"1-2"_s) << look.toString().toStdString();
+        EXPECT_EQ(reader->model.GetCurVerseRange(), u"1-2"_s) << look.toString().toStdString();
     }
     quickMove(u"창 1:1"_s);
     click(u"ID_글자크기3");
@@ -218,7 +218,7 @@ TEST_F(ReaderViewsTest, ASelectionIsNamedCopiedAndKeptByItsVerses)
     text.setFocus();
     click(u"ID_전체선택");
     EXPECT_EQ(place(), u"창세기 1장 1절"_s);
-    EXPECT_EQ(reader->GetCurVerseRange(), u"1-31"_s);
+    EXPECT_EQ(reader->model.GetCurVerseRange(), u"1-31"_s);
 }
 
 TEST_F(ReaderViewsTest, AHeadingRowStandsForTheVerseBelow)
@@ -232,7 +232,7 @@ TEST_F(ReaderViewsTest, AHeadingRowStandsForTheVerseBelow)
     EXPECT_EQ(copied(), u"3\t"_s + TinyData::text(101, 0, 1, 3) + u" (개역한글 창1:3)"_s);
     quickMove(u"창 1:2"_s);
     QTest::keyClick(reader->hflex본문, Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(reader->GetCurVerseRange(), u"2"_s);
+    EXPECT_EQ(reader->model.GetCurVerseRange(), u"2"_s);
 }
 
 } // namespace

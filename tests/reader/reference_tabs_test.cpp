@@ -135,7 +135,7 @@ TEST_F(ReferenceTabsTest, AJumpToAnotherChapterAsksTheOpenTabOnce)
     quickMove(u"요 3:16"_s);
     services.messages.verify();
     services.messages.expect(u"Lumenscript"_s, missing, 16);
-    reader->goTo(kGenesis, 1, 2);
+    reader->model.goTo(kGenesis, 1, 2);
 }
 
 TEST_F(ReferenceTabsTest, ANoteIsStoredAtMinimisingElseLaterAndKeepsTheWindowOpenUntilItIs)

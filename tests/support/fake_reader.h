@@ -25,7 +25,6 @@ public:
         chapterNumber = chapter;
         range = QString::number(verse);
     }
-    void FillBibleText() override { ++fills; }
     void applySettings() override { ++applications; }
     void bringToFront() override { ++raises; }
 
@@ -35,7 +34,6 @@ public:
     QStringList versions;
     QList<int> codes;
     QStringList moves;
-    int fills = 0;
     int applications = 0;
     int raises = 0;
 };
