@@ -15,11 +15,9 @@
 #include "platform/controls/tool_dispatch.h"
 #include "reader/bookmark_file.h"
 #include "reader/bookmark_pane.h"
+#include "reader/chapter_views.h"
 #include "reader/quick_move_pane.h"
 #include "reader/reader_model.h"
-#include "reader/table_view.h"
-#include "reader/text_view.h"
-#include "text/original/hebrew_division.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -85,23 +83,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    /// What the last fill has put on show.
-    struct ShownChapter
-    {
-        int book = -1; ///< -1 before the first fill
-        int chapter = 0;
-        ViewMode mode = ViewMode::Text;
-    };
-
-    /// Where the reader stands in a chapter that comes anew in another look.
-    struct KeptPlace
-    {
-        int verse = 0;       ///< 0: another chapter comes
-        VerseRange selected; ///< what the selection spans
-        int top = 0;         ///< the verse at the top of the view, 0 the chapter's head
-        bool isInView = false;
-    };
-
     void layOut();
     void layOutPanel();
     void addGeneratedTools();
@@ -152,30 +133,21 @@ private:
     void runEdit(EditCommand command);
 
     void tellUnreadVersions();
-    KeptPlace placeToKeep() const;
-    void keepPlace(const KeptPlace& kept);
-    ChapterStyle chapterStyle();
-    void fillTextView();
-    void fillTableView();
-    QString divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf);
 
     Services& m_services;
     AppState& m_state;
     WindowOpener& m_windows;
     ReaderSettings m_settings; ///< as they are in use now
+    ChapterViews m_views{*txCont, *hflex본문, model, m_settings, m_state};
     DataControl m_dacPersnote;
     DataControl m_dacRefTab; ///< shared by the tabs of the panel, which point it anew
     BookmarkFile m_bookmarkFile;
-    FontLineBreaker m_lineBreaker;
-    TextView m_textView{*txCont};
-    mutable TableView m_tableView{*hflex본문};
     ToolDispatch m_tools;
     ToolDispatch m_combos;
     Splitter* m_split = named<Splitter>(u"RefBarSplit");
     QWidget* m_sidePane = named<QWidget>(u"SidePane");
 
     QStringList m_unreadTold; // what the user knows of versions that can't be read
-    ShownChapter m_shown;
     bool m_isMinimized = false;
     QStringList m_storedBookmarks;   ///< as the file holds them
     bool m_bookmarksRefused = false; ///< the user knows that they can't be stored

@@ -392,7 +392,7 @@ void frm성서::runEdit(EditCommand command)
     if (command == EditCommand::SelectAll && copiesVerses()) {
         // No key or button of the view's own has told of the new place.
         if (model.view() == ViewMode::Table)
-            m_tableView.markRow(hflex본문->RowSel());
+            m_views.markRow(hflex본문->RowSel());
         reportStand();
     }
 }

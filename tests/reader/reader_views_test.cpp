@@ -201,8 +201,8 @@ TEST_F(ReaderViewsTest, ASelectionIsNamedCopiedAndKeptByItsVerses)
     // From the first verse into the heading of the third.
     const int first = positionOf(u"1\t"_s + TinyData::text(101, 0, 1, 1));
     text.select(first, positionOf(u"둘째 제목"_s) + 2 - first);
-    EXPECT_EQ(reader->model.GetCurVerseRange(), u"1-2"_s);
     EXPECT_TRUE(copied().endsWith(u"(개역한글 창1:1~2)"_s)) << copied().toStdString();
+    EXPECT_EQ(reader->model.GetCurVerseRange(), u"1-2"_s);
     for (const QStringView look : {u"ID_글자크기5", u"ID_테이블형식", u"ID_글자크기2",
                                    u"ID_소주제표시", u"ID_소주제표시", u"ID_텍스트형식"}) {
         click(look);
