@@ -153,7 +153,8 @@ TEST(Content, EveryBookHasItsIntroduction)
     ASSERT_EQ(pages.size(), kBookCount);
     for (int book = 0; book < kBookCount; ++book) {
         SCOPED_TRACE(pages[book].toStdString());
-        EXPECT_TRUE(pages[book].startsWith(u"%1-"_s.arg(book + 1, 2, 10, u'0')));
+        EXPECT_TRUE(
+            pages[book].startsWith(QString::number(book + 1).rightJustified(2, u'0') + u'-'));
         QFile page(folder.filePath(pages[book]));
         ASSERT_TRUE(page.open(QIODevice::ReadOnly));
         EXPECT_TRUE(QString::fromUtf8(page.readAll()).contains(bookName(book)));
