@@ -20,7 +20,7 @@ ModuleStore::ModuleStore(const QString& file, StoreUse use,
                          const std::vector<std::pair<QString, QString>>& origin, Advance advance)
     : m_writer(file, StoreCompare::Binary, use), m_advance(std::move(advance))
 {
-    m_writer.setPassword(QString::fromUtf16(kModulePassword));
+    m_writer.setPassword(kModulePassword.toString());
     for (const auto& [key, value] : origin)
         m_writer.addOriginLine(key, value);
 }

@@ -14,7 +14,7 @@
 namespace lumen {
 
 /// The password of all modules, and of the user files that came with them.
-inline constexpr char16_t kModulePassword[] = u"qolvetrinam";
+inline constexpr QStringView kModulePassword = u"qolvetrinam";
 
 /// Whether the end of the program compacts a file. The test for a left-over copy makes a doubled
 /// backslash a blank and a backslash in the odd windows, so that it never finds one in a drive's

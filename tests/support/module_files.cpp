@@ -39,7 +39,7 @@ void writeModule(const QString& nativePath, const QList<ModuleTable>& tables)
 {
     QDir().mkpath(QFileInfo(nativePath).path());
     StoreWriter writer(nativePath, StoreCompare::Binary);
-    writer.setPassword(QString::fromUtf16(kModulePassword));
+    writer.setPassword(kModulePassword.toString());
     for (const ModuleTable& table : tables) {
         writer.createTable(table.schema);
         for (const QVariantList& row : table.rows)
