@@ -2,6 +2,7 @@
 #include "recipes/recipes.h"
 
 #include "data/version_lists.h"
+#include "data/versions.h"
 #include "original/original_versions.h"
 #include "sources/psalm_titles.h"
 #include "sources/text_mending.h"
@@ -62,15 +63,6 @@ constexpr std::array kRecipes{
     Recipe{223, Origin::Sword, SourceFormat::Sword, u"sword-text-sparv", u"spaRV1909eb",
            PsalmTitles::spanish, u"Reina-Valera (1909)", kPublicDomain},
 };
-
-// The user's own versions have the codes of the fifteen slots.
-constexpr int kFirstUserSlot = 901;
-constexpr int kLastUserSlot = 915;
-
-bool isUserSlot(int code)
-{
-    return code >= kFirstUserSlot && code <= kLastUserSlot;
-}
 
 QStringList matchingFiles(const QString& folder, const QString& path)
 {
@@ -138,11 +130,6 @@ bool isSuppliedGreek(int code)
     return code == 305 || code == 306 || code == 307 || code == 309 || code == 311;
 }
 
-bool isKorean(int code)
-{
-    return code < 200;
-}
-
 } // namespace
 
 SourceFolders installedFolders()
@@ -182,11 +169,11 @@ VersionTask userTask(int code, const QString& name, const ModuleSource& source,
 {
     VersionTask task;
     task.setCode(code);
-    task.name = isUserSlot(code) ? name.trimmed() : catalogueName(code);
+    task.name = isUserVersion(code) ? name.trimmed() : catalogueName(code);
     task.source = source;
     task.origin = u"사용자가 준비한 파일"_s;
     task.licence = u"이용 조건은 파일을 준비한 사람이 확인해야 함"_s;
-    if (isKorean(code)) {
+    if (versionRow(code).group == VersionGroup::Korean) {
         task.numbering = Numbering::Korean;
         task.mends.push_back(Mending::korean);
     }
@@ -217,14 +204,14 @@ VersionTask baptistTask(const VersionTask& korean)
 
 QString catalogueName(int code)
 {
-    return isUserSlot(code) ? QString() : versionName(code, InstalledFlags());
+    return isUserVersion(code) ? QString() : versionName(code, InstalledFlags());
 }
 
 QString whyNotBuildable(int code, const QString& name)
 {
-    if (code >= 300 && code < 400 && !isSuppliedGreek(code))
+    if (versionRow(code).group == VersionGroup::Original && !isSuppliedGreek(code))
         return u"%1: 원어 본문은 이 방법으로 만들 수 없습니다."_s.arg(code);
-    if (!isUserSlot(code))
+    if (!isUserVersion(code))
         return catalogueName(code).isEmpty() ? u"%1: 없는 역본 번호입니다."_s.arg(code) : QString();
     // The name becomes a table's; "(없음)" behind it marks an absent row in the lists.
     static const QRegularExpression refused(uR"([\[\]!`".\x00-\x1F]|\(없음\)$|^MSys)"_s,
