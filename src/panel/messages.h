@@ -27,4 +27,18 @@ inline constexpr MessageText kNoConcordance{
 inline constexpr MessageText kNotSearchable{
     u"검색할 수 없는 검색어", u"선택 또는 입력한 단어나 어구를 검색할 수 없습니다.", 16};
 
+inline constexpr MessageText kNotePlaceTaken{
+    u"추가 불능", u"동일한 장절에 대한 개인 주석이 이미 존재합니다.", 48};
+inline constexpr MessageText kNotesAbsent{u"추가 불능",
+                                          u"개인 주석 파일 Data\\myc.mdb가 없어 주석을 저장할 수 "
+                                          u"없습니다. Data 폴더에 쓸 수 있는지 확인한 뒤 "
+                                          u"프로그램을 다시 시작하시기 바랍니다.",
+                                          48};
+inline constexpr MessageText kNotesReadOnly{
+    u"추가 불능",
+    u"개인 주석 파일 Data\\myc.mdb가 읽기 전용으로 열려 있어 "
+    u"주석을 고치거나 추가할 수 없습니다.",
+    48};
+inline constexpr MessageText kDeleteNote{u"삭제 확인", u"현재의 개인 주석을 삭제하시겠습니까?", 49};
+
 } // namespace lumen::messages

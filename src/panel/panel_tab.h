@@ -53,6 +53,8 @@ public:
     virtual void showSelection() {}
     /// Another tab, place or window state comes: what the user typed has to be stored now.
     virtual void leave() {}
+    /// The program ends: what the tab itself has opened is freed.
+    virtual void close() {}
 
     /// Puts a text into the first panel of the status bar; "" clears it. Set by the panel.
     std::function<void(const QString&)> setStatus;

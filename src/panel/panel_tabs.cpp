@@ -5,6 +5,7 @@
 #include "panel/cross_references.h"
 #include "panel/dictionary_tabs.h"
 #include "panel/matthew_henry.h"
+#include "panel/personal_notes_tab.h"
 #include "panel/reference_panel.h"
 #include "panel/unit_converter.h"
 #include "panel/wesley.h"
@@ -23,8 +24,9 @@ std::unique_ptr<PanelTab> made(const PanelHost& host)
 }
 
 constexpr std::array kMakers{
-    made<CrossReferences>, made<BibleDictionary>, made<Concordance>,     made<EnglishDictionary>,
-    made<MatthewHenry>,    made<Wesley>,          made<WordAnalysisTab>, made<UnitConverter>,
+    made<CrossReferences>,   made<BibleDictionary>, made<Concordance>,
+    made<EnglishDictionary>, made<MatthewHenry>,    made<Wesley>,
+    made<PersonalNotesTab>,  made<WordAnalysisTab>, made<UnitConverter>,
 };
 
 } // namespace

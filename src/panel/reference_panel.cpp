@@ -120,6 +120,12 @@ void ReferencePanel::leave()
         tab->leave();
 }
 
+void ReferencePanel::closeTabs()
+{
+    for (const auto& [caption, tab] : m_tabs)
+        tab->close();
+}
+
 void ReferencePanel::tabChanged(int previousTab)
 {
     hideTextBox();

@@ -46,6 +46,8 @@ public:
     /// changes and before it closes. A JetError comes through, so that a failed save stops what
     /// was to follow.
     void leave();
+    /// Frees the files of the tabs, behind leave().
+    void closeTabs();
 
     TabControl* sst관주사전 = named<TabControl>(u"sst관주사전", u"관주사전");
 

@@ -26,7 +26,6 @@
 #include "platform/registry/registry_store.h"
 #include "reader/copy_tail.h"
 #include "reader/messages.h"
-#include "reader/personal_notes_tab.h"
 #include "reader/reader_tools.h"
 
 #include <QCloseEvent>
@@ -65,7 +64,7 @@ bool languageBarRuns(const ProcessList& processes)
 
 frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
     : model(services, state, this), panel(new ReferencePanel(services)), m_services(services),
-      m_state(state), m_windows(windows), m_dacPersnote(services.jet), m_dacRefTab(services.jet),
+      m_state(state), m_windows(windows), m_dacRefTab(services.jet),
       m_bookmarkFile(services.files, joinedPath(state.AppPath, u"\\data\\bmk.bmf"))
 {
     setObjectName(u"frm성서"_s);
@@ -201,7 +200,6 @@ void frm성서::wirePanes()
     bookmarks->onChanged = [this] { Save책갈피(); };
     bookmarks->currentReference = [this] { return model.reference(); };
 
-    panel->addTab(std::make_unique<PersonalNotesTab>(m_services, m_state, model, m_dacPersnote));
     addPanelTabs(*panel,
                  {.services = m_services,
                   .state = m_state,
@@ -542,7 +540,7 @@ QStringList frm성서::compactAndBackUp()
 {
     // What is open can't be compacted.
     model.close();
-    m_dacPersnote.Close();
+    panel->closeTabs();
     m_dacRefTab.Close();
     QStringList notCopied;
     for (const UserFile& file : {user_file::kNotes, user_file::kBookmarks})

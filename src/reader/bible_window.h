@@ -139,7 +139,6 @@ private:
     WindowOpener& m_windows;
     ReaderSettings m_settings; ///< as they are in use now
     ChapterViews m_views{*txCont, *hflex본문, model, m_settings, m_state};
-    DataControl m_dacPersnote;
     DataControl m_dacRefTab; ///< shared by the tabs of the panel, which point it anew
     BookmarkFile m_bookmarkFile;
     ToolDispatch m_tools;

@@ -4,9 +4,9 @@
 #include "jet/data_control.h"
 #include "jet/engine.h"
 #include "jet/error.h"
+#include "panel/personal_notes_tab.h"
 #include "panel/reference_panel.h"
 #include "platform/controls/typing_watch.h"
-#include "reader/personal_notes_tab.h"
 #include "support/active_window.h"
 #include "support/fake_reader.h"
 #include "support/test_services.h"
@@ -37,8 +37,10 @@ protected:
         EXPECT_TRUE(createUserDatabases(world.state.AppPath, world.files, world.drives,
                                         world.clock.now().date()));
         CheckData(world.state, world.files, world.jet);
-        auto made =
-            std::make_unique<PersonalNotesTab>(world.services, world.state, reader, dacPersnote);
+        auto made = std::make_unique<PersonalNotesTab>(PanelHost{.services = world.services,
+                                                                 .state = world.state,
+                                                                 .reader = reader,
+                                                                 .dacRefTab = dacRefTab});
         tab = made.get();
         panel.addTab(std::move(made));
         panel.resize(900, 300);
@@ -96,7 +98,7 @@ protected:
     const QString kDatabase = u"C:\\lumenscript\\Data\\myc.mdb"_s;
     TestServices world;
     FakeReader reader;
-    DataControl dacPersnote{world.jet};
+    DataControl dacRefTab{world.jet};
     ReferencePanel panel{world.services};
     PersonalNotesTab* tab = nullptr;
 };
@@ -278,7 +280,7 @@ TEST_F(PersonalNotesTabTest, NotesThatCannotBeReadAreToldOnceAndLeaveTheFormerCh
     openAt(kJohn, 3, u"16"_s);
     addNote(u"16"_s, u"글"_s);
     panel.leave();
-    dacPersnote.Close();
+    tab->dacPersnote.Close();
     QFile file(world.folders.data(u"myc.mdb"_s));
     ASSERT_TRUE(file.rename(file.fileName() + u".away"_s));
     EXPECT_THROW(goTo(kJohn, 4), JetError);
@@ -301,8 +303,8 @@ TEST_F(PersonalNotesTabTest, NothingIsTypedIntoNotesThatCannotBeWritten)
     openAt(kJohn, 3);
     addNote(u"16"_s, u"글"_s);
     panel.leave();
-    dacPersnote.Close();
-    dacPersnote.ReadOnly = true;
+    tab->dacPersnote.Close();
+    tab->dacPersnote.ReadOnly = true;
     goTo(kJohn, 4);
     goTo(kJohn, 3);
     QTest::keyClick(tab->tx개인주석본문, Qt::Key_A);

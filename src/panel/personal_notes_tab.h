@@ -2,10 +2,12 @@
 #pragma once
 
 #include "forms/services.h"
+#include "jet/data_control.h"
+#include "panel/panel_host.h"
 #include "panel/panel_tab.h"
+#include "panel/personal_notes.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/controls/named.h"
-#include "reader/personal_notes.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -14,16 +16,13 @@
 
 namespace lumen {
 
-class ReaderPlace;
-struct AppState;
-
 /// The tab "개인주석": the user's notes on the verses of the chapter on show. The grid holds place
 /// and text (hidden) of each note; the notes are stored as a whole when the tab is left.
 class PersonalNotesTab : public PanelTab
 {
 public:
-    PersonalNotesTab(Services& services, const AppState& state, const ReaderPlace& reader,
-                     DataControl& dacPersnote);
+    /// The host outlives the tab.
+    explicit PersonalNotesTab(const PanelHost& host);
 
     QStringView caption() const override { return panel_caption::kPersonalNotes; }
     QWidget* page() override { return m_page; }
@@ -31,6 +30,7 @@ public:
     void showPlace() override;
     void showSelection() override;
     void leave() override { Proc개인주석저장(); }
+    void close() override { dacPersnote.Close(); }
 
     /// Shows the notes of the reader's chapter; those of a chapter shown before are saved first.
     /// What fails leaves all as it was, under the former chapter's label.
@@ -40,6 +40,8 @@ public:
     /// Saves the notes for the chapter that the list was filled with, unless the table holds the
     /// same already or nobody has touched them.
     void Proc개인주석저장();
+
+    DataControl dacPersnote;
 
 private:
     QWidget* m_page; // before the controls, which it takes over

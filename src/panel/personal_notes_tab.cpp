@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "reader/personal_notes_tab.h"
+#include "panel/personal_notes_tab.h"
 
 #include "data/app_state.h"
 #include "data/module_path.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
+#include "panel/messages.h"
 #include "platform/controls/colors.h"
 #include "platform/dialogs/message_boxes.h"
-#include "reader/messages.h"
 
 #include <QHBoxLayout>
 #include <QPalette>
@@ -42,10 +42,10 @@ QString noteText(QString shown)
 
 } // namespace
 
-PersonalNotesTab::PersonalNotesTab(Services& services, const AppState& state,
-                                   const ReaderPlace& reader, DataControl& dacPersnote)
-    : m_page(new QWidget), m_services(services), m_state(state), m_reader(reader),
-      m_notes(dacPersnote, joinedPath(state.AppPath, u"\\Data\\myc.mdb"))
+PersonalNotesTab::PersonalNotesTab(const PanelHost& host)
+    : dacPersnote(host.services.jet), m_page(new QWidget), m_services(host.services),
+      m_state(host.state), m_reader(host.reader),
+      m_notes(dacPersnote, joinedPath(host.state.AppPath, u"\\Data\\myc.mdb"))
 {
     tx개인주석절범위->setMaxLength(kLongestRange);
     tx개인주석절범위->setAccessibleName(u"절 범위"_s);
