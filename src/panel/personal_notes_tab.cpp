@@ -76,6 +76,7 @@ void PersonalNotesTab::layOut()
     auto* list = new QHBoxLayout;
     list->addWidget(flex개인주석목록, 1);
     list->addLayout(buttons);
+    m_page->setFocusProxy(tx개인주석본문);
     auto* layout = new QVBoxLayout(m_page);
     layout->addLayout(place);
     layout->addLayout(list, 1);

@@ -25,7 +25,7 @@ QWidget* emptyPage()
 /// control.
 QWidget* firstControl(QWidget& page)
 {
-    if (page.focusProxy() != nullptr)
+    if (page.focusProxy() != nullptr && page.focusProxy()->isEnabled())
         return page.focusProxy();
     for (QWidget* next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain())
         if (page.isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) != 0 &&
@@ -94,7 +94,7 @@ void ReferencePanel::showTab(int tab)
         toggle();
     if (PanelTab* const shown = currentTab())
         if (QWidget* const first = firstControl(*shown->page()))
-            first->setFocus();
+            first->setFocus(Qt::ShortcutFocusReason); // a line is selected: typing replaces it
 }
 
 void ReferencePanel::showPlace()
