@@ -6,6 +6,7 @@
 #include "data/module_path.h"
 #include "data/version_lists.h"
 #include "forms/guarded.h"
+#include "forms/module_query.h"
 #include "forms/reader_place.h"
 #include "forms/right_to_left_typing.h"
 #include "forms/version_combo.h"
@@ -156,12 +157,8 @@ void ConcordanceLookup::search(QString& word)
 // False when no word was found.
 bool ConcordanceLookup::open(const QString& word)
 {
-    m_result.DatabaseName = modulePath(m_services.files, m_state, versionFile(code(), u"c"));
-    m_result.Connect = QString::fromUtf16(connect_text::kDataControl);
-    m_result.ReadOnly = true;
-    m_result.RecordSource = concordanceQuery(word, m_controls.holds.isChecked());
-    m_result.Refresh();
-    const Recordset& rows = *m_result.Recordset();
+    const Recordset& rows = askModule(m_result, m_services, m_state, versionFile(code(), u"c"),
+                                      concordanceQuery(word, m_controls.holds.isChecked()));
     m_found = foundWords(rows.columnTexts(u"Word"), rows.columnTexts(u"num"), word);
     std::ranges::stable_sort(m_found, {}, &ConcordanceWord::word);
     return !m_found.empty();
@@ -235,20 +232,19 @@ void ConcordanceLookup::tellFound()
 }
 
 Concordance::Concordance(const PanelHost& host)
-    : ModuleTab(host, {}, nullptr), m_lookup(host.services, host.state,
-                                             {.page = *m_page,
-                                              .version = *cbConcVer,
-                                              .word = *tx성구사전검색어,
-                                              .begins = *op성구시작,
-                                              .holds = *op성구포함,
-                                              .search = *cmd성구사전검색,
-                                              .words = *flex성구결과,
-                                              .verses = *lst성구인덱스,
-                                              .text = *tx성구본문})
+    : m_host(host), m_page(new QWidget), m_lookup(host.services, host.state,
+                                                  {.page = *m_page,
+                                                   .version = *cbConcVer,
+                                                   .word = *tx성구사전검색어,
+                                                   .holds = *op성구포함,
+                                                   .search = *cmd성구사전검색,
+                                                   .words = *flex성구결과,
+                                                   .verses = *lst성구인덱스,
+                                                   .text = *tx성구본문})
 {
     op성구시작->setChecked(true);
     layOut();
-    m_lookup.tell = [this](const QString& status) { tell(status); };
+    m_lookup.tell = [this](const QString& status) { setStatus(status); };
     m_lookup.onVerse = [this](const VersePlace& place) {
         m_host.reader.goTo(place.book, place.chapter, place.verse);
     };
@@ -283,7 +279,7 @@ void Concordance::enter()
         m_lookup.fillVersions(indexOfVersion(SetClassicCombo(m_host.state.installed, 0),
                                              m_host.reader.versionCode(0)));
     }
-    tell(m_lookup.status());
+    setStatus(m_lookup.status());
 }
 
 } // namespace lumen

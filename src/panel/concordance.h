@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "canon/verse_index.h"
 #include "jet/data_control.h"
 #include "panel/concordance_words.h"
-#include "panel/module_tab.h"
+#include "panel/panel_host.h"
+#include "panel/panel_tab.h"
 #include "panel/verse_box.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/controls/item_boxes.h"
@@ -24,7 +26,6 @@ struct ConcordanceControls
     QWidget& page;
     ComboBox& version; ///< the item data is the version's code
     QLineEdit& word;
-    QRadioButton& begins;
     QRadioButton& holds;
     QPushButton& search;
     FlexGrid& words;
@@ -74,18 +75,24 @@ private:
 };
 
 /// The tab "성구사전".
-class Concordance : public ModuleTab
+class Concordance : public PanelTab
 {
 public:
     explicit Concordance(const PanelHost& host);
 
     QStringView caption() const override { return panel_caption::kConcordance; }
+    QWidget* page() override { return m_page; }
     void enter() override;
     void showPlace() override {}
 
     /// `word` comes back as it was looked up.
     void Proc성구사전검색(QString& word) { m_lookup.search(word); }
 
+private:
+    PanelHost m_host;
+    QWidget* m_page; // before the controls, which it takes over
+
+public:
     ComboBox* cbConcVer = named<ComboBox>(u"cbConcVer", u"역본");
     QLineEdit* tx성구사전검색어 = named<QLineEdit>(u"tx성구사전검색어", u"검색어");
     QRadioButton* op성구시작 = named<QRadioButton>(u"op성구시작", u"시작");

@@ -57,9 +57,7 @@ QString cleanedConcordanceWord(const QString& word, int code)
 
 QString concordanceQuery(const QString& word, bool within)
 {
-    QString literal = EscapeLikeText(DES::ScrambleField(word.toLower()), true);
-    if (literal.contains(u'|'))
-        literal = EscapeSqlText(literal);
+    const QString literal = EscapeLikeText(DES::ScrambleField(word.toLower()), true);
     return u"Select * from 성구사전 where word like '"_s + (within ? u"*"_s : QString()) + literal +
            u"*'"_s;
 }

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/dictionary.h"
 
-#include "data/data_store.h"
-#include "data/module_path.h"
 #include "forms/guarded.h"
+#include "forms/module_query.h"
 #include "forms/wait_pointer.h"
 #include "jet/rows/recordset.h"
 #include "panel/messages.h"
@@ -35,11 +34,11 @@ constexpr std::array kBibleSources{
 constexpr QStringView kNoWord = u"정의된 단어가 없습니다.";
 constexpr QStringView kNoQuery = u"검색할 수 없는 단어 또는 어구입니다.";
 
-/// A word as the condition of a query has it.
-QString literalOf(const QString& word)
+/// Whether the engine refused the query's text; anything else is a fault of the module.
+bool isRefusal(const JetError& error)
 {
-    const QString literal = EscapeLikeText(DES::ScrambleField(word), true);
-    return literal.contains(u'|') ? EscapeSqlText(literal) : literal;
+    return error.number() == ErrorNumber::kInvalidPattern ||
+           error.number() == ErrorNumber::kCriterionSyntax;
 }
 
 } // namespace
@@ -61,7 +60,8 @@ QString dictionaryQuery(const DictionaryProfile& profile, DictionaryMatch match,
 {
     // Entries are stored in small letters, their texts as they are.
     const bool meaning = match == DictionaryMatch::Meaning;
-    const QString literal = literalOf(meaning ? word : word.toLower());
+    const QString literal =
+        EscapeLikeText(DES::ScrambleField(meaning ? word : word.toLower()), true);
     const bool openStart = match == DictionaryMatch::Within || meaning;
     QString query = u"Select * from "_s + profile.table.toString() + u" where "_s +
                     (meaning ? u"def"_s : u"word"_s) + u" like '"_s +
@@ -111,9 +111,6 @@ void DictionaryLookup::search(const QString& typed)
         return;
     const WaitPointer wait;
     const int source = m_controls.source == nullptr ? 0 : m_controls.source->ListIndex();
-    m_result.DatabaseName = modulePath(m_services.files, m_state, m_profile.module);
-    m_result.Connect = QString::fromUtf16(connect_text::kDataControl);
-    m_result.ReadOnly = true;
     if (!runQuery(dictionaryQuery(m_profile, how, word, source))) {
         m_controls.meaning.setText(kNoQuery.toString());
         return;
@@ -148,17 +145,15 @@ bool DictionaryLookup::confirms(DictionaryMatch match, const QString& word) cons
            m_services.messages.show(&m_controls.page, m_profile.longSearch, {word}) == Answer::Yes;
 }
 
-// False when the engine refuses the pattern; a module that can't be opened is an error.
+// False when the engine refuses the pattern; a module that can't be read is an error.
 bool DictionaryLookup::runQuery(const QString& query)
 {
-    m_result.RecordSource = m_profile.table.toString();
-    if (m_result.Database() == nullptr)
-        m_result.Refresh();
-    m_result.RecordSource = query;
     try {
-        m_result.Refresh();
+        askModule(m_result, m_services, m_state, m_profile.module, query);
         return true;
-    } catch (const JetError&) {
+    } catch (const JetError& error) {
+        if (!isRefusal(error))
+            throw;
         return false;
     }
 }

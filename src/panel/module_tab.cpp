@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/module_tab.h"
 
-#include "data/data_store.h"
-#include "data/module_path.h"
+#include "forms/module_query.h"
 #include "forms/reader_place.h"
 #include "forms/services.h"
-#include "jet/data_control.h"
 
 namespace lumen {
 
@@ -25,13 +23,7 @@ bool ModuleTab::takeStock()
 
 Recordset& ModuleTab::ask(const QString& query)
 {
-    DataControl& dac = m_host.dacRefTab;
-    dac.DatabaseName = modulePath(m_host.services.files, m_host.state, m_module);
-    dac.Connect = QString::fromUtf16(connect_text::kDataControl);
-    dac.ReadOnly = true;
-    dac.RecordSource = query;
-    dac.Refresh();
-    return *dac.Recordset();
+    return askModule(m_host.dacRefTab, m_host.services, m_host.state, m_module, query);
 }
 
 void ModuleTab::tell(const QString& status) const

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/strong_entry.h"
 
-#include "data/data_store.h"
-#include "data/module_path.h"
+#include "forms/module_query.h"
 #include "platform/controls/text_control.h"
 #include "text/field_scramble.h"
 #include "text/rtf/rtf_composer.h"
@@ -82,13 +81,10 @@ bool StrongEntry::find(double number, Testament testament)
 {
     const QStringView module = testament == Testament::Old ? QStringView(u"\\Data\\StrongDicH.dts")
                                                            : u"\\Data\\StrongDicG.dts";
-    m_dictionary.DatabaseName = modulePath(m_services.files, m_state, module);
-    m_dictionary.Connect = QString::fromUtf16(connect_text::kDataControl);
-    m_dictionary.ReadOnly = true;
-    m_dictionary.RecordSource =
-        u"select * from StrongDic where Num = "_s + QString::number(std::trunc(number), 'f', 0);
-    m_dictionary.Refresh();
-    return m_dictionary.Recordset()->RecordCount() > 0;
+    const Recordset& entries = askModule(m_dictionary, m_services, m_state, module,
+                                         u"select * from StrongDic where Num = "_s +
+                                             QString::number(std::trunc(number), 'f', 0));
+    return entries.RecordCount() > 0;
 }
 
 } // namespace lumen

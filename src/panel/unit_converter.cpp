@@ -6,10 +6,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
-
-#include <utility>
 
 namespace lumen {
 
@@ -99,15 +96,13 @@ UnitFamily UnitConverter::family() const
 void UnitConverter::fillUnits()
 {
     for (ComboBox* units : cb단위명) {
-        // The result is worked out once, when both lists are there.
-        const auto quiet = std::exchange(units->onClick, nullptr);
         units->Clear();
         for (const QStringView unit : unitsOf(family()))
             units->AddItem(unit.toString());
-        units->setListIndex(0);
-        units->onClick = quiet;
     }
-    Proc단위변환();
+    // Nothing is worked out before the second list has its choice.
+    for (ComboBox* units : cb단위명)
+        units->setListIndex(0);
 }
 
 } // namespace lumen

@@ -31,7 +31,8 @@ protected:
               {add(u"moses"_s, u"drawn out of the Nile"_s, u"e"_s),
                add(u"mo"_s, u"a short head"_s, u"h"_s), add(u"moab"_s, {}, u"i"_s),
                add(u"모세"_s, u"백성을 이끌었다"_s, u"t"_s),
-               add(u"amos"_s, u"a shepherd, not of the NILE"_s, u"e"_s)}}});
+               add(u"amos"_s, u"a shepherd, not of the NILE"_s, u"e"_s),
+               add(u"zz"_s, u"with F> in it"_s, u"e"_s)}}});
         open();
     }
 
@@ -118,6 +119,9 @@ TEST_F(BibleDictionaryTest, TextsAreSearchedAfterAQuestion)
     typeAndEnter(u"Nile"_s);
     EXPECT_EQ(words(), QStringList{u"MOSES"_s}) << "the case counts in texts";
     EXPECT_EQ(meaning(), u"drawn out of the Nile"_s);
+    expectQuestion(u"F>"_s, Answer::Yes);
+    typeAndEnter(u"F>"_s);
+    EXPECT_EQ(words(), QStringList{u"ZZ"_s}) << "stored as a quote and a bar";
 }
 
 TEST_F(BibleDictionaryTest, UsedWordsAreKeptOnceAndLookedUpAgain)
@@ -141,6 +145,16 @@ TEST_F(BibleDictionaryTest, UsedWordsAreKeptOnceAndLookedUpAgain)
         typeAndEnter(word);
         EXPECT_EQ(words(), QStringList()) << word.toStdString();
     }
+}
+
+TEST_F(BibleDictionaryTest, AModuleThatCannotBeReadIsNoUnknownWord)
+{
+    writeModule(world.folders.data(u"BibleDic.dts"_s),
+                {{{u"another"_s, {{u"word"_s}}, {}}, {{u"moses"_s}}}});
+    open();
+    world.messages.expect(u"Lumenscript"_s, u"테이블을 찾을 수 없습니다.\n성경사전"_s, 16);
+    typeAndEnter(u"moses"_s);
+    EXPECT_EQ(meaning(), QString());
 }
 
 TEST_F(BibleDictionaryTest, WithoutTheModuleThePageTakesNoInput)
