@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/controls/flex_grid.h"
-#include "platform/controls/text_control.h"
+#include "platform/controls/grid/flex_grid.h"
+#include "platform/controls/text/text_control.h"
 #include "text/codepage949.h"
 
 #include <QApplication>

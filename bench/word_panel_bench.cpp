@@ -7,7 +7,7 @@
 #include "data/check_data.h"
 #include "jet/data_control.h"
 #include "panel/reference_panel.h"
-#include "panel/word_analysis_tab.h"
+#include "panel/words/word_analysis_tab.h"
 #include "support/fake_reader.h"
 #include "support/module_files.h"
 #include "support/original_modules.h"

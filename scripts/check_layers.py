@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Reads every #include below src/ and tells those that point upwards.
+"""Reads every #include below src/ and modules/ and tells those that point upwards.
 
 A folder may include itself and what its row names, directly or through those rows. A row may also
 name one file, without its suffix, that lies lower than the folder it stands in.
@@ -40,7 +40,18 @@ LAYERS = {
     "reader": ["panel", "print"],
     "app": ["reader", "search", "tools", "records"],
 }
-OUTSIDE = ("platform", "jet")
+# The builder of data modules: folders below modules/.
+BUILDER = {
+    "check": ["canon", "jet"],
+    "sources": ["check", "platform"],
+    "reference": ["sources", "data"],
+    "original": ["reference", "text/original"],
+    "recipes": ["original"],
+    "import": ["sources", "jet"],
+    "cli": ["recipes", "import"],
+}
+LAYERS |= BUILDER
+OUTSIDE = ("platform", "jet", *BUILDER)
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 # What only platform/ and the engine may name: the rest meets it through narrow interfaces.
 GUARDED = re.compile(
@@ -84,6 +95,7 @@ def faults(root):
 
 
 if __name__ == "__main__":
-    found = list(faults(pathlib.Path(__file__).resolve().parent.parent / "src"))
+    top = pathlib.Path(__file__).resolve().parent.parent
+    found = [*faults(top / "src"), *faults(top / "modules")]
     print("\n".join(found) if found else "layers: in order")
     sys.exit(1 if found else 0)

@@ -115,6 +115,20 @@ constexpr std::array<unsigned char, kChapterTotal> kVerses{
 
 static_assert(std::accumulate(kVerses.begin(), kVerses.end(), 0) == 31102);
 
+struct EnglishChapter
+{
+    int book = 0;
+    int chapter = 0;
+    int verses = 0;
+};
+
+constexpr std::array kEnglishChapters{
+    EnglishChapter{8, 30, 31},
+    EnglishChapter{21, 6, 13},
+    EnglishChapter{46, 13, 14},
+    EnglishChapter{63, 1, 14},
+};
+
 int firstChapterOf(int book)
 {
     int chapters = 0;
@@ -125,19 +139,15 @@ int firstChapterOf(int book)
 
 } // namespace
 
-int verseCount(int book, int chapter)
+int verseCount(Numbering numbering, int book, int chapter)
 {
     if (chapter < 1 || chapter > chapterCount(book))
         return 0;
+    if (numbering == Numbering::English)
+        for (const EnglishChapter& row : kEnglishChapters)
+            if (row.book == book && row.chapter == chapter)
+                return row.verses;
     return kVerses[static_cast<std::size_t>(firstChapterOf(book) + chapter - 1)];
-}
-
-int verseCount(int book)
-{
-    int verses = 0;
-    for (int chapter = 1; chapter <= chapterCount(book); ++chapter)
-        verses += verseCount(book, chapter);
-    return verses;
 }
 
 } // namespace lumen

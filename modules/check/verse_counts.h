@@ -3,10 +3,11 @@
 
 namespace lumen {
 
-/// The number of verses of a chapter in the numbering that all keys use. Books count from 0,
-/// chapters from 1; 0 outside the canon.
-int verseCount(int book, int chapter);
-/// The number of verses of a whole book, 0 outside the canon.
-int verseCount(int book);
+/// How a version counts its verses. They differ in four chapters: 삼상30 has 30 verses in Korean
+/// Bibles and 31 in English ones, 아6 14 and 13, 고후13 13 and 14, 요삼1 15 and 14.
+enum class Numbering { Korean, English };
+
+/// The verses of a chapter; 0 outside the canon. Books count from 0, chapters from 1.
+int verseCount(Numbering numbering, int book, int chapter);
 
 } // namespace lumen

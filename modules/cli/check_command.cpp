@@ -54,10 +54,10 @@ bool checkVerses(const QString& path, const StoreTable& table)
     VerseCheck check;
     readColumnPair(
         path, table.name, u"index"_s, u"Cont"_s,
-        [&check](const QString& key, const QString& text) { check.addVerse(key, !text.isNull()); });
-    printLine(
-        u"  절 %1개, 본문이 없는 절 %2개"_s.arg(check.verses()).arg(check.versesWithoutText()));
-    for (const QString& line : check.deviations())
+        [&check](const QString& key, const QString& text) { check.addKey(key, !text.isNull()); });
+    const CanonCheck canon = check.againstNearest();
+    printLine(u"  절 %1개, 본문이 없는 절 %2개"_s.arg(canon.rows).arg(canon.withoutWords));
+    for (const QString& line : canon.deviations)
         printLine(u"  "_s + line);
     if (check.badKeys().isEmpty())
         return true;

@@ -7,7 +7,7 @@
 #include "platform/log.h"
 #include "sources/fault_texts.h"
 #include "sources/interruption.h"
-#include "sources/sword_process.h"
+#include "sources/sword/sword_process.h"
 
 #include <QCoreApplication>
 #include <QStringList>

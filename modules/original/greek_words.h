@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "original/kjv_reader.h"
 #include "original/original_text.h"
+#include "original/readers/kjv_reader.h"
 
 #include <QStringList>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "original/original_text.h"
-#include "original/oshb_reader.h"
+#include "original/readers/oshb_reader.h"
 
 #include <QString>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "original/original_corpus.h"
 
-#include "original/gloss_alignment.h"
+#include "original/glosses/gloss_alignment.h"
 #include "original/greek_words.h"
 #include "original/hebrew_words.h"
-#include "original/kjv_reader.h"
-#include "original/oshb_reader.h"
+#include "original/readers/kjv_reader.h"
+#include "original/readers/oshb_reader.h"
 #include "original/wlc_versification.h"
 #include "sources/interruption.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "original/korean_glosses.h"
+#include "original/glosses/korean_glosses.h"
 #include "original/original_text.h"
-#include "original/strong_reader.h"
+#include "original/readers/strong_reader.h"
 #include "platform/result.h"
 
 #include <QString>

@@ -5,7 +5,7 @@
 #include "recipes/korean_edition.h"
 #include "recipes/recipes.h"
 #include "sources/json_readers.h"
-#include "sources/usfm_reader.h"
+#include "sources/usfm/usfm_reader.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -27,7 +27,8 @@ PlaceOrder orderOf(const VersePlace& place)
 
 bool inCanon(const VersePlace& place)
 {
-    return place.verse >= 1 && place.verse <= verseCount(place.book, place.chapter);
+    return place.verse >= 1 &&
+           place.verse <= verseCount(Numbering::Korean, place.book, place.chapter);
 }
 
 QString shortReference(const PlaceOrder& place)

@@ -9,7 +9,4 @@ void watchForInterruption();
 /// True once the user has asked to stop; long loops look now and then.
 bool interrupted();
 
-/// The exit code of a command that the user stopped, as shells give it for Ctrl-C.
-inline constexpr int kExitInterrupted = 130;
-
 } // namespace lumen

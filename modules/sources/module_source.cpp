@@ -2,9 +2,9 @@
 #include "sources/module_source.h"
 
 #include "sources/json_readers.h"
-#include "sources/osis_reader.h"
-#include "sources/sword_process.h"
-#include "sources/usfm_reader.h"
+#include "sources/sword/osis_reader.h"
+#include "sources/sword/sword_process.h"
+#include "sources/usfm/usfm_reader.h"
 
 #include <QDateTime>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "sources/sword_reader.h"
+#include "sources/sword/sword_reader.h"
 #include "sources/version_text.h"
 
 #include <QString>

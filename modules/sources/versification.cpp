@@ -1,110 +1,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "sources/versification.h"
 
-#include "canon/canon_table.h"
 #include "canon/verse_index.h"
-#include "check/verse_counts.h"
 #include "sources/book_names.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
-#include <QSet>
-
-#include <array>
 
 namespace lumen {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct EnglishChapter
-{
-    int book = 0;
-    int chapter = 0;
-    int verses = 0;
-};
-
-constexpr std::array kEnglishChapters{
-    EnglishChapter{8, 30, 31},
-    EnglishChapter{21, 6, 13},
-    EnglishChapter{46, 13, 14},
-    EnglishChapter{63, 1, 14},
-};
-
-// The verses of one book: those of the canon without a row, and rows beyond the canon.
-struct BookDeviation
-{
-    int book = 0;
-    QStringList missing;
-    QStringList beyond;
-    QStringList withoutWords;
-    bool hasRows = false;
-};
-
-QString shortPlace(int chapter, int verse)
-{
-    return u"%1:%2"_s.arg(chapter).arg(verse);
-}
-
-QString listed(const QStringList& places)
-{
-    constexpr int kShown = 12;
-    if (places.size() <= kShown)
-        return places.join(u", "_s);
-    return u"%1 외 %2절"_s.arg(places.first(kShown).join(u", "_s)).arg(places.size() - kShown);
-}
-
-QString deviationLine(const BookDeviation& deviation)
-{
-    QStringList pieces;
-    if (!deviation.missing.isEmpty())
-        pieces << u"없는 절 %1 (%2)"_s.arg(deviation.missing.size()).arg(listed(deviation.missing));
-    if (!deviation.beyond.isEmpty())
-        pieces
-            << u"정경 밖의 절 %1 (%2)"_s.arg(deviation.beyond.size()).arg(listed(deviation.beyond));
-    if (!deviation.withoutWords.isEmpty())
-        pieces << u"본문 없는 절 %1 (%2)"_s.arg(deviation.withoutWords.size())
-                      .arg(listed(deviation.withoutWords));
-    return u"%1: %2"_s.arg(bookName(deviation.book), pieces.join(u"; "_s));
-}
-
-QStringList missingVerses(const QSet<QString>& present, Numbering numbering, int book)
-{
-    QStringList missing;
-    for (int chapter = 1; chapter <= chapterCount(book); ++chapter)
-        for (int verse = 1; verse <= verseCount(numbering, book, chapter); ++verse)
-            if (!present.contains(BibleCode::verseKey(book, chapter, verse)))
-                missing << shortPlace(chapter, verse);
-    return missing;
-}
-
-void addDeviation(CanonCheck& check, const BookDeviation& deviation)
-{
-    check.missing += static_cast<int>(deviation.missing.size());
-    check.beyond += static_cast<int>(deviation.beyond.size());
-    check.withoutWords += static_cast<int>(deviation.withoutWords.size());
-    if (!deviation.missing.isEmpty() || !deviation.beyond.isEmpty() ||
-        !deviation.withoutWords.isEmpty())
-        check.deviations << deviationLine(deviation);
-}
-
-// "없는 책 27권: 마태복음-요한계시록"; books that follow one another are a run.
-QString absentLine(const std::vector<int>& books)
-{
-    QStringList runs;
-    for (std::size_t i = 0; i < books.size();) {
-        std::size_t end = i + 1;
-        while (end < books.size() && books[end] == books[end - 1] + 1)
-            ++end;
-        const QString first = bookName(books[i]);
-        runs << (end - i == 1 ? first : u"%1-%2"_s.arg(first, bookName(books[end - 1])));
-        i = end;
-    }
-    return u"없는 책 %1권: %2"_s.arg(books.size()).arg(runs.join(u", "_s));
-}
 
 using Places = QHash<QString, VersePlace>;
 
@@ -163,45 +72,12 @@ void moveVerse(VerseText& verse, const VersePlace& to)
 
 } // namespace
 
-int verseCount(Numbering numbering, int book, int chapter)
-{
-    if (numbering == Numbering::English)
-        for (const EnglishChapter& row : kEnglishChapters)
-            if (row.book == book && row.chapter == chapter)
-                return row.verses;
-    return verseCount(book, chapter);
-}
-
 CanonCheck checkAgainstCanon(const VersionText& version, Numbering numbering)
 {
-    CanonCheck check;
-    std::array<BookDeviation, kBookCount> books;
-    QSet<QString> present;
-    for (const VerseText& verse : version.verses) {
-        auto& book = books[static_cast<std::size_t>(verse.book)];
-        present.insert(BibleCode::verseKey(verse.book, verse.chapter, verse.verse));
-        book.hasRows = true;
-        ++check.rows;
-        if (!verse.text)
-            book.withoutWords << shortPlace(verse.chapter, verse.verse);
-        if (verse.verse > verseCount(numbering, verse.book, verse.chapter))
-            book.beyond << shortPlace(verse.chapter, verse.verse);
-    }
-    std::vector<int> absent;
-    for (int book = 0; book < kBookCount; ++book) {
-        auto& deviation = books[static_cast<std::size_t>(book)];
-        deviation.book = book;
-        if (!deviation.hasRows) {
-            absent.push_back(book);
-            continue;
-        }
-        deviation.missing = missingVerses(present, numbering, book);
-        addDeviation(check, deviation);
-    }
-    check.absentBooks = static_cast<int>(absent.size());
-    if (!absent.empty())
-        check.deviations << absentLine(absent);
-    return check;
+    VerseCheck check;
+    for (const VerseText& verse : version.verses)
+        check.addVerse(verse.book, verse.chapter, verse.verse, verse.text.has_value());
+    return check.against(numbering);
 }
 
 Result<Done> renumberVerses(VersionText& version, const QString& ownMapping,

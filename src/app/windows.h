@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/window_opener.h"
-#include "platform/controls/typing_watch.h"
+#include "platform/controls/text/typing_watch.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -2,8 +2,8 @@
 #include "forms/edit_commands.h"
 
 #include "data/version_font.h"
-#include "platform/controls/active_tool_bars.h"
-#include "platform/controls/flex_grid.h"
+#include "platform/controls/bars/active_tool_bars.h"
+#include "platform/controls/grid/flex_grid.h"
 #include "platform/dialogs/clipboard.h"
 
 #include <QApplication>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "panel/lookup/verse_box.h"
 #include "panel/module_tab.h"
-#include "panel/verse_box.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
-#include "platform/controls/text_control.h"
+#include "platform/controls/text/text_control.h"
 
 #include <optional>
 

@@ -5,7 +5,7 @@
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
 #include "jet/rows/recordset.h"
-#include "platform/controls/wrapping_row.h"
+#include "platform/controls/bars/wrapping_row.h"
 #include "text/basic_text.h"
 #include "text/field_scramble.h"
 

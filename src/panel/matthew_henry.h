@@ -3,7 +3,7 @@
 
 #include "panel/module_tab.h"
 #include "platform/controls/named.h"
-#include "platform/controls/text_control.h"
+#include "platform/controls/text/text_control.h"
 
 #include <QLineEdit>
 #include <QRadioButton>

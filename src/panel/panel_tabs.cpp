@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/panel_tabs.h"
 
-#include "panel/concordance.h"
 #include "panel/cross_references.h"
-#include "panel/dictionary_tabs.h"
+#include "panel/lookup/concordance.h"
+#include "panel/lookup/dictionary_tabs.h"
 #include "panel/matthew_henry.h"
-#include "panel/personal_notes_tab.h"
+#include "panel/notes/personal_notes_tab.h"
 #include "panel/reference_panel.h"
-#include "panel/unit_converter.h"
+#include "panel/units/unit_converter.h"
 #include "panel/wesley.h"
-#include "panel/word_analysis_tab.h"
+#include "panel/words/word_analysis_tab.h"
 
 #include <array>
 #include <memory>

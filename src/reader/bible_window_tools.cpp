@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/canon_table.h"
 #include "data/module_path.h"
-#include "forms/book_combo.h"
 #include "forms/guarded.h"
-#include "forms/page_failure.h"
-#include "forms/version_combo.h"
+#include "forms/results/page_failure.h"
+#include "forms/versions/book_combo.h"
+#include "forms/versions/version_combo.h"
 #include "forms/window_opener.h"
 #include "platform/dialogs/html_help.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/files/shell.h"
 #include "platform/registry/registry_store.h"
 #include "reader/bible_window.h"
-#include "reader/hot_move_window.h"
 #include "reader/messages.h"
+#include "reader/move/hot_move_window.h"
 #include "reader/reader_tools.h"
 
 #include <QActionGroup>

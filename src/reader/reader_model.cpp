@@ -6,7 +6,7 @@
 #include "forms/wait_pointer.h"
 #include "platform/dialogs/message_boxes.h"
 #include "reader/messages.h"
-#include "reader/typed_reference.h"
+#include "reader/move/typed_reference.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include "canon/verse_index.h"
 #include "data/settings.h"
 #include "forms/reader_place.h"
-#include "reader/chapter_document.h"
 #include "reader/version_slots.h"
+#include "reader/views/chapter_document.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/controls/tool_row.h"
+#include "platform/controls/bars/tool_row.h"
 
 #include <array>
 

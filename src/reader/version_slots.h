@@ -2,9 +2,9 @@
 #pragma once
 
 #include "data/version_lists.h"
-#include "forms/version_choice.h"
+#include "forms/versions/version_choice.h"
 #include "jet/data_control.h"
-#include "reader/chapter_document.h"
+#include "reader/views/chapter_document.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 #include "canon/verse_index.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
-#include "forms/result_pages.h"
+#include "forms/results/result_pages.h"
 #include "forms/wait_pointer.h"
 #include "platform/dialogs/message_boxes.h"
 #include "search/messages.h"

@@ -3,7 +3,7 @@
 
 #include "data/settings.h"
 #include "forms/services.h"
-#include "forms/version_choice.h"
+#include "forms/versions/version_choice.h"
 #include "jet/data_control.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"

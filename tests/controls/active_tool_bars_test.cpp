@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/controls/active_tool_bars.h"
+#include "platform/controls/bars/active_tool_bars.h"
 
 #include <gtest/gtest.h>
 

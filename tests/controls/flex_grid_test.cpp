@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/controls/flex_grid.h"
-#include "platform/controls/grid_layout.h"
+#include "platform/controls/grid/flex_grid.h"
+#include "platform/controls/grid/grid_layout.h"
 #include "platform/controls/twips.h"
 
 #include <gtest/gtest.h>

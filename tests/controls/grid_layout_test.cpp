@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/controls/grid_layout.h"
+#include "platform/controls/grid/grid_layout.h"
 #include "platform/controls/twips.h"
 #include "text/original/hebrew_division.h"
 

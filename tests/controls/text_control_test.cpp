@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/controls/text_control.h"
+#include "platform/controls/text/text_control.h"
 #include "platform/controls/twips.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/controls/tool_dispatch.h"
+#include "platform/controls/bars/tool_dispatch.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "platform/controls/typing_watch.h"
+#include "platform/controls/text/typing_watch.h"
 #include "support/active_window.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "forms/edit_commands.h"
-#include "platform/controls/active_tool_bars.h"
-#include "platform/controls/flex_grid.h"
-#include "platform/controls/text_control.h"
+#include "platform/controls/bars/active_tool_bars.h"
+#include "platform/controls/grid/flex_grid.h"
+#include "platform/controls/text/text_control.h"
 #include "support/test_platform.h"
 
 #include <gtest/gtest.h>

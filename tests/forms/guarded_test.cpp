@@ -3,7 +3,7 @@
 #include "forms/wait_pointer.h"
 #include "jet/engine.h"
 #include "jet/store/store_writer.h"
-#include "platform/controls/flex_grid.h"
+#include "platform/controls/grid/flex_grid.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/import_messages.h"
+#include "forms/files/import_messages.h"
 #include "support/scripted_message_boxes.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/result_pages.h"
+#include "forms/results/result_pages.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "forms/tool_icons.h"
-#include "platform/controls/active_tool_bars.h"
+#include "platform/controls/bars/active_tool_bars.h"
 
 #include <gtest/gtest.h>
 

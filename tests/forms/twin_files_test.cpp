@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/twin_files.h"
+#include "forms/files/twin_files.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>

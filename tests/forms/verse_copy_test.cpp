@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/verse_copy.h"
+#include "forms/results/verse_copy.h"
 #include "text/rtf/rtf_reader.h"
 
 #include <gtest/gtest.h>

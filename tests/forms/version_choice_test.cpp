@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/version_choice.h"
+#include "forms/versions/version_choice.h"
 #include "platform/controls/item_boxes.h"
 #include "support/test_services.h"
 

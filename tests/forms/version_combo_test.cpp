@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/book_combo.h"
-#include "forms/version_combo.h"
-#include "platform/controls/active_tool_bars.h"
+#include "forms/versions/book_combo.h"
+#include "forms/versions/version_combo.h"
+#include "platform/controls/bars/active_tool_bars.h"
 
 #include <gtest/gtest.h>
 

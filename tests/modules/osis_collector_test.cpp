@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "sources/markup_scanner.h"
-#include "sources/osis_collector.h"
+#include "sources/sword/markup_scanner.h"
+#include "sources/sword/osis_collector.h"
 #include "sources/text_cleaning.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
-#include "sources/osis_reader.h"
+#include "sources/sword/osis_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
-#include "sources/sword_process.h"
+#include "sources/sword/sword_process.h"
 
 #include <gtest/gtest.h>
 

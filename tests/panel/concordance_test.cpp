@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "panel/concordance.h"
+#include "panel/lookup/concordance.h"
 #include "panel/panel_fixture.h"
 #include "text/codepage949.h"
 #include "text/original/original_unicode.h"

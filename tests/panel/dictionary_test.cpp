@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "panel/dictionary_tabs.h"
+#include "panel/lookup/dictionary_tabs.h"
 #include "panel/panel_fixture.h"
 
 #include <QAbstractItemView>

@@ -4,7 +4,7 @@
 #include "jet/data_control.h"
 #include "jet/engine.h"
 #include "jet/error.h"
-#include "panel/personal_notes.h"
+#include "panel/notes/personal_notes.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "jet/data_control.h"
-#include "panel/unit_converter.h"
+#include "panel/units/unit_converter.h"
 #include "support/fake_reader.h"
 #include "support/test_services.h"
 

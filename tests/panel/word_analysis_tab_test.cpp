@@ -3,7 +3,7 @@
 #include "jet/data_control.h"
 #include "jet/error.h"
 #include "panel/reference_panel.h"
-#include "panel/word_analysis_tab.h"
+#include "panel/words/word_analysis_tab.h"
 #include "support/active_window.h"
 #include "support/fake_reader.h"
 #include "support/module_files.h"

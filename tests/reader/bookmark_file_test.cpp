@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/files/file_system.h"
-#include "reader/bookmark_file.h"
+#include "reader/bookmarks/bookmark_file.h"
 
 #include <gtest/gtest.h>
 

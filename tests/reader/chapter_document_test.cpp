@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/chapter_reader.h"
-#include "reader/chapter_document.h"
+#include "reader/views/chapter_document.h"
 #include "text/rtf/rtf_reader.h"
 
 #include <gtest/gtest.h>

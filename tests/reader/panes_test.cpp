@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "reader/bookmark_pane.h"
-#include "reader/move_history.h"
-#include "reader/quick_move_pane.h"
+#include "reader/bookmarks/bookmark_pane.h"
+#include "reader/move/move_history.h"
+#include "reader/move/quick_move_pane.h"
 #include "support/active_window.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/canon_table.h"
-#include "reader/typed_reference.h"
+#include "reader/move/typed_reference.h"
 
 #include <gtest/gtest.h>
 

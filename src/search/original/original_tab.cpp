@@ -8,7 +8,7 @@
 #include "forms/guarded.h"
 #include "forms/wait_pointer.h"
 #include "jet/engine.h"
-#include "panel/word_analysis.h"
+#include "panel/words/word_analysis.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/dialogs/progress_dialog.h"
 #include "platform/files/file_system.h"

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "data/settings.h"
-#include "platform/controls/flex_grid.h"
+#include "platform/controls/grid/flex_grid.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
 #include "platform/controls/splitter.h"
 #include "platform/controls/tab_control.h"
-#include "platform/controls/text_control.h"
+#include "platform/controls/text/text_control.h"
 #include "search/original/original_query.h"
 
 #include <QLabel>

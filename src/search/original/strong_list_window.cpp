@@ -8,7 +8,7 @@
 #include "forms/edit_commands.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
-#include "forms/result_pages.h"
+#include "forms/results/result_pages.h"
 #include "forms/tool_icons.h"
 #include "forms/wait_pointer.h"
 #include "jet/engine.h"

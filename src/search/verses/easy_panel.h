@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "forms/page_mover.h"
+#include "forms/results/page_mover.h"
 #include "platform/controls/item_boxes.h"
 #include "platform/controls/named.h"
 

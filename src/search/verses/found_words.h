@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/controls/text_range.h"
+#include "platform/controls/text/text_range.h"
 
 #include <QList>
 #include <QString>

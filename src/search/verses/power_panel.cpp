@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/verses/power_panel.h"
 
-#include "platform/controls/wrapping_row.h"
+#include "platform/controls/bars/wrapping_row.h"
 #include "text/basic_text.h"
 
 #include <QHBoxLayout>

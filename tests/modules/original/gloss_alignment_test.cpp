@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "original/gloss_alignment.h"
+#include "original/glosses/gloss_alignment.h"
 
 #include <gtest/gtest.h>
 

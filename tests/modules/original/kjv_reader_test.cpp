@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/original/mini_sources.h"
 #include "original/greek_words.h"
-#include "original/kjv_reader.h"
+#include "original/readers/kjv_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
-#include "original/korean_glosses.h"
-#include "original/korean_stems.h"
-#include "original/word_alignment.h"
+#include "original/glosses/korean_glosses.h"
+#include "original/glosses/korean_stems.h"
+#include "original/glosses/word_alignment.h"
 
 #include <gtest/gtest.h>
 

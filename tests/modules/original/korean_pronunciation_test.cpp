@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "original/korean_pronunciation.h"
+#include "original/glosses/korean_pronunciation.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "modules/original/mini_sources.h"
 #include "original/hebrew_words.h"
 #include "original/original_versions.h"
-#include "original/oshb_reader.h"
+#include "original/readers/oshb_reader.h"
 #include "text/original/original_unicode.h"
 
 #include <gtest/gtest.h>
