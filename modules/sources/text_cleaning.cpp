@@ -47,21 +47,6 @@ bool isBlank(QChar c)
 
 } // namespace
 
-QString joinedBlanks(QStringView text)
-{
-    QString result;
-    result.reserve(text.size());
-    for (const QChar c : text) {
-        if (!isBlank(c))
-            result += c;
-        else if (!result.isEmpty() && result.back() != u' ')
-            result += u' ';
-    }
-    if (result.endsWith(u' '))
-        result.chop(1);
-    return result;
-}
-
 QString tidyText(QStringView text)
 {
     QString result;

@@ -8,9 +8,6 @@
 
 namespace lumen {
 
-/// Runs of blanks, tabs and line ends made one blank, none at the ends. A no-break space stays.
-QString joinedBlanks(QStringView text);
-
 /// A verse or title out of mark-up: no pilcrow, blanks joined and none before , . ; : ? !
 QString tidyText(QStringView text);
 

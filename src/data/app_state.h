@@ -30,7 +30,6 @@ struct InstalledFlags
     QString firstVersion;
 
     bool hasVersion(int code) const { return versions.count(code) > 0; }
-    bool hasConcordance(int code) const { return concordances.count(code) > 0; }
 };
 
 /// What the windows share; made in `Main` and passed by reference.

@@ -69,9 +69,7 @@ void ReaderModel::appear()
 
 void ReaderModel::moveTo(const VersePlace& place)
 {
-    const int book = std::clamp(place.book, 0, kBookCount - 1);
-    m_place = {book, std::clamp(place.chapter, 1, chapterCount(book)), 1};
-    read();
+    readChapter(place.book, place.chapter);
     tell({.text = true, .marked = place.verse});
 }
 
@@ -93,8 +91,7 @@ void ReaderModel::Proc이동(QString& reference)
     const LimitedNumber wanted = limitedTo(chapterCount(typed->book), typed->chapter);
     if (wanted.wasTooLarge)
         m_services.messages.show(m_window, messages::kChapterTooLarge);
-    m_place = {typed->book, std::max(1, wanted.value), 1};
-    read();
+    readChapter(typed->book, wanted.value);
     if (!hasText()) {
         tell({.text = true});
         return;
@@ -146,6 +143,13 @@ void ReaderModel::settle(int verse, const QString& range)
 {
     m_place.verse = verse;
     m_range = range;
+}
+
+void ReaderModel::readChapter(int book, int chapter)
+{
+    const int known = std::clamp(book, 0, kBookCount - 1);
+    m_place = {known, std::clamp(chapter, 1, chapterCount(known)), 1};
+    read();
 }
 
 void ReaderModel::read()

@@ -92,6 +92,8 @@ public:
 
 private:
     bool take(int slot, int index, bool loading);
+    /// Numbers beyond book or chapter are brought to their limits.
+    void readChapter(int book, int chapter);
     void read();
     void tell(const ReaderChange& change) const;
 

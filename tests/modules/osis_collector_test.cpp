@@ -85,7 +85,6 @@ TEST(OsisCollector, WritesTheNumbersBehindEachWordThatIsThere)
 TEST(TextCleaning, JoinsBlanksButKeepsTheNoBreakSpace)
 {
     EXPECT_EQ(tidyText(u" a \t b\u00A0: c \n;d ! "), u"a b\u00A0: c;d!"_s);
-    EXPECT_EQ(joinedBlanks(u"\n a  , b "), u"a , b"_s);
     EXPECT_FALSE(textOrNothing(u" ¶ \n").has_value());
 }
 

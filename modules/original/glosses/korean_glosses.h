@@ -26,7 +26,6 @@ public:
     /// Up to three words, the best first.
     QStringList words(bool isGreek, int strong) const;
     bool isDerived(bool isGreek, int strong) const;
-    bool hasDerived() const { return m_hasDerived; }
 
     /// What a module's origin says about them.
     QString originLine() const;

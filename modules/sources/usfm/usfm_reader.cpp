@@ -369,13 +369,4 @@ VersionResult readUsfmFiles(const QStringList& files)
     return version;
 }
 
-bool looksLikeUsfm(const QString& file)
-{
-    const auto text = decodedFile(file);
-    if (!text)
-        return false;
-    const auto tokens = usfmTokens(text.value());
-    return !tokens.empty() && tokens.front().marker == u"id";
-}
-
 } // namespace lumen

@@ -12,7 +12,4 @@ namespace lumen {
 /// line. A verse bridge ("\v 3-4") fills its first verse; the others have no words.
 VersionResult readUsfmFiles(const QStringList& files);
 
-/// True for a file whose first marker is \id.
-bool looksLikeUsfm(const QString& file);
-
 } // namespace lumen

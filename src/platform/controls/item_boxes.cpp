@@ -134,12 +134,6 @@ QString ListBox::List(int index) const
     return found ? found->text() : QString();
 }
 
-void ListBox::setList(int index, const QString& text)
-{
-    if (QListWidgetItem* found = item(index))
-        found->setText(text);
-}
-
 int ListBox::ItemData(int index) const
 {
     const QListWidgetItem* found = item(index);

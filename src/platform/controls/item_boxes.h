@@ -62,7 +62,6 @@ public:
     /// "" outside the list.
     QString List(int index) const;
     /// Changes an item's text in place; nothing outside the list.
-    void setList(int index, const QString& text);
     int ItemData(int index) const;
     void setItemData(int index, int itemData);
     /// The text of the chosen item, "" without one.

@@ -26,7 +26,6 @@ public:
     bool selectCaption(const QString& caption);
     /// Leaves the headers alone in view, or shows the pages again.
     void setCollapsed(bool collapsed);
-    bool isCollapsed() const { return m_collapsed; }
     /// The height of the headers in pixels, which is all that a collapsed control takes.
     int headerHeight() const;
 

@@ -101,7 +101,6 @@ TEST(KoreanGlosses, AreDerivedFromTheUsersText)
     EXPECT_TRUE(glosses.value().isDerived(false, 7001));
     EXPECT_EQ(glosses.value().gloss(false, 7003), QString()) << "seen once";
     EXPECT_EQ(glosses.value().gloss(true, 7001), QString()) << "other language";
-    EXPECT_TRUE(glosses.value().hasDerived());
 }
 
 TEST(KoreanGlosses, WithoutAKoreanTextOnlyWrittenOnesAreThere)
@@ -109,7 +108,6 @@ TEST(KoreanGlosses, WithoutAKoreanTextOnlyWrittenOnesAreThere)
     const auto glosses = koreanGlosses(repeatedText(), {});
     ASSERT_TRUE(glosses.ok());
     EXPECT_EQ(glosses.value().gloss(false, 7001), QString());
-    EXPECT_FALSE(glosses.value().hasDerived());
     EXPECT_EQ(glosses.value().gloss(false, 1961), u"있다"_s);
     EXPECT_EQ(glosses.value().words(true, 863).size(), 3);
     EXPECT_FALSE(glosses.value().isDerived(false, 1961));

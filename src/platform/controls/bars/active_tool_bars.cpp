@@ -290,12 +290,6 @@ void ActiveToolBars::setBarVisible(QStringView caption, bool visible)
         found->setVisible(visible);
 }
 
-void ActiveToolBars::joinBar(QStringView caption)
-{
-    if (QToolBar* found = bar(caption))
-        m_window.removeToolBarBreak(found);
-}
-
 void ActiveToolBars::packButtons(QStringView caption)
 {
     const QToolBar* const found = bar(caption);

@@ -81,8 +81,6 @@ public:
     QToolBar* bar(QStringView caption) const;
     bool barVisible(QStringView caption) const;
     void setBarVisible(QStringView caption, bool visible);
-    /// Puts a bar behind the one before it, on the same line.
-    void joinBar(QStringView caption);
 
     /// Lets the text buttons that stand on a bar now take hardly more room than their texts.
     void packButtons(QStringView caption);

@@ -26,7 +26,6 @@ public:
 
     /// False when nothing handles the id.
     bool run(const QString& id) const;
-    bool handles(const QString& id) const { return !patternFor(id).isEmpty(); }
     /// What handles an id: the id itself, "prefix#" for a number, "prefix*" for a family, "" if
     /// nothing does.
     QString patternFor(const QString& id) const;

@@ -110,21 +110,6 @@ void GridModel::setFixedCols(int count)
     tellHeaders();
 }
 
-void GridModel::insertEmptyRow(int row)
-{
-    Row fresh;
-    fresh.cells.resize(static_cast<std::size_t>(m_cols));
-    const int place = std::clamp(row, m_fixedRows, rows());
-    if (m_held) {
-        m_rows.insert(m_rows.begin() + place, std::move(fresh));
-        m_keptRows = std::min(m_keptRows, place);
-        return;
-    }
-    beginInsertRows({}, place - m_fixedRows, place - m_fixedRows);
-    m_rows.insert(m_rows.begin() + place, std::move(fresh));
-    endInsertRows();
-}
-
 void GridModel::removeGridRow(int row)
 {
     if (row < m_fixedRows || row >= rows())

@@ -46,7 +46,6 @@ public:
     int fixedCols() const { return m_fixedCols; }
     /// 1: the texts of column 0 are the labels of the rows; 0: it is a column like all others.
     void setFixedCols(int cols);
-    void insertEmptyRow(int row);
     void removeGridRow(int row);
     void clear();
 
