@@ -78,6 +78,28 @@ TEST_F(DesktopShellTest, FilesAndPagesGoToTheDesktop)
     EXPECT_EQ(receiver.urls.size(), 2);
 }
 
+TEST_F(DesktopShellTest, ATuneNeedsAPlayerAndNoBrowser)
+{
+    const auto write = [this](const QString& name, const QByteArray& content) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.setPermissions(file.permissions() | QFile::ExeOwner);
+    };
+    write(u"1.mid"_s, "MThd");
+    write(u"page.htm"_s, "<html>");
+    write(u"xdg-mime"_s, "#!/bin/sh\n[ \"$3\" = audio/midi ] && echo player.desktop\n");
+    qunsetenv("BROWSER");
+    const QByteArray programs = qgetenv("PATH");
+    qputenv("PATH", folder.path().toLocal8Bit());
+    EXPECT_TRUE(shell.open(u"C:\\1.mid"_s));
+    EXPECT_EQ(kindOf(u"C:\\page.htm"_s), FailureKind::System);
+    write(u"xdg-mime"_s, "#!/bin/sh\n");
+    qputenv("BROWSER", "browser");
+    EXPECT_EQ(kindOf(u"C:\\1.mid"_s), FailureKind::System);
+    qputenv("PATH", programs);
+}
+
 TEST_F(DesktopShellTest, WhatIsMissingOrNoPageIsNotOpened)
 {
     EXPECT_EQ(kindOf(u"C:\\none.htm"_s), FailureKind::NotFound);

@@ -3,6 +3,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -18,20 +19,34 @@ bool isAddress(const QString& target)
     return target.contains(u"://"_s);
 }
 
-/// The opener of the desktop reports success also where it finds nothing to show a page with, so
-/// this is looked into first.
-bool hasBrowser()
+bool hasProgramFor(const QString& mimeType)
 {
     constexpr int kMostWait = 800; // milliseconds
+    QProcess query;
+    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, mimeType});
+    return query.waitForFinished(kMostWait) && !query.readAllStandardOutput().trimmed().isEmpty();
+}
+
+bool hasBrowser()
+{
     if (qEnvironmentVariableIsSet("BROWSER"))
         return true;
     for (const QString& name : {u"x-www-browser"_s, u"firefox"_s, u"firefox-esr"_s, u"chromium"_s,
                                 u"google-chrome"_s, u"epiphany"_s, u"konqueror"_s})
         if (!QStandardPaths::findExecutable(name).isEmpty())
             return true;
-    QProcess query;
-    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"text/html"_s});
-    return query.waitForFinished(kMostWait) && !query.readAllStandardOutput().trimmed().isEmpty();
+    return hasProgramFor(u"text/html"_s);
+}
+
+/// The opener of the desktop reports success also where it finds nothing to show a file with, so
+/// this is looked into first.
+bool canShow(const QUrl& url)
+{
+    if (!url.isLocalFile())
+        return hasBrowser();
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(url.toLocalFile());
+    const bool isPage = type.inherits(u"text/html"_s) || type.inherits(u"application/xhtml+xml"_s);
+    return isPage ? hasBrowser() : hasProgramFor(type.name());
 }
 
 } // namespace
@@ -49,7 +64,7 @@ Result<Done> DesktopShell::open(const QString& target)
             return Failure{FailureKind::NotFound, target};
         url = QUrl::fromLocalFile(native);
     }
-    if (!hasBrowser() || !QDesktopServices::openUrl(url))
+    if (!canShow(url) || !QDesktopServices::openUrl(url))
         return Failure{FailureKind::System, url.toString()};
     return Done{};
 }
