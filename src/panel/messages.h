@@ -18,6 +18,14 @@ inline constexpr MessageText kLongEnglishSearch{
     u"계속하시겠습니까?",
     52};
 
+/// %1 is the file.
+inline constexpr MessageText kTuneMissing{u"곡 파일 없음", u"이 찬송가의 곡 파일이 없습니다.\r\n%1",
+                                          48};
+inline constexpr MessageText kNoPlayer{u"연주 프로그램 없음",
+                                       u"MIDI 파일을 연주할 프로그램이 없습니다.\r\n"
+                                       u"연주 프로그램을 설치한 후 다시 실행하십시오.\r\n%1",
+                                       48};
+
 /// %1 is the version's name.
 inline constexpr MessageText kNoConcordance{
     u"성구 사전 모듈 미설치",

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "panel/module_tab.h"
 
+#include "data/module_path.h"
 #include "forms/module_query.h"
 #include "forms/reader_place.h"
 #include "forms/services.h"
@@ -14,7 +15,9 @@ ModuleTab::ModuleTab(const PanelHost& host, QStringView module, Flag installed)
 
 bool ModuleTab::takeStock()
 {
-    const bool installed = m_host.state.installed.*m_installed;
+    const bool installed = m_installed != nullptr
+                               ? m_host.state.installed.*m_installed
+                               : moduleExists(m_host.services.files, m_host.state, m_module);
     m_page->setEnabled(installed);
     if (!installed)
         tell(QString());

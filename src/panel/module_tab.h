@@ -25,8 +25,8 @@ protected:
     using Flag = bool InstalledFlags::*;
 
     /// `module` is relative to the program, "\Data\CRef.dts"; `installed` tells whether the start
-    /// has found it. The host outlives the tab.
-    ModuleTab(const PanelHost& host, QStringView module, Flag installed);
+    /// has found it; a module without a flag is looked for each time. The host outlives the tab.
+    ModuleTab(const PanelHost& host, QStringView module, Flag installed = nullptr);
 
     /// False without the module: the page takes no input then, and the status is empty.
     bool takeStock();

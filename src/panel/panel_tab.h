@@ -58,6 +58,8 @@ public:
 
     /// Puts a text into the first panel of the status bar; "" clears it. Set by the panel.
     std::function<void(const QString&)> setStatus;
+    /// Brings this tab on show, as a click on its header would. Set by the panel.
+    std::function<void()> bringOnShow;
 };
 
 } // namespace lumen

@@ -2,6 +2,7 @@
 #include "panel/panel_tabs.h"
 
 #include "panel/cross_references.h"
+#include "panel/hymnal/hymnal.h"
 #include "panel/lookup/concordance.h"
 #include "panel/lookup/dictionary_tabs.h"
 #include "panel/matthew_henry.h"
@@ -24,9 +25,9 @@ std::unique_ptr<PanelTab> made(const PanelHost& host)
 }
 
 constexpr std::array kMakers{
-    made<CrossReferences>,   made<BibleDictionary>, made<Concordance>,
-    made<EnglishDictionary>, made<MatthewHenry>,    made<Wesley>,
-    made<PersonalNotesTab>,  made<WordAnalysisTab>, made<UnitConverter>,
+    made<CrossReferences>, made<BibleDictionary>, made<Concordance>,      made<EnglishDictionary>,
+    made<MatthewHenry>,    made<Wesley>,          made<PersonalNotesTab>, made<WordAnalysisTab>,
+    made<UnitConverter>,   made<Hymnal>,
 };
 
 } // namespace

@@ -59,6 +59,7 @@ void ReferencePanel::addTab(std::unique_ptr<PanelTab> tab)
     const auto index = static_cast<int>(place - kPanelCaptions.cbegin());
     sst관주사전->widget(index)->layout()->addWidget(tab->page());
     tab->setStatus = [this](const QString& text) { setStatus(text); };
+    tab->bringOnShow = [this, index] { showTab(index); };
     m_tabs[tab->caption().toString()] = std::move(tab);
 }
 
