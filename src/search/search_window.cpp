@@ -24,6 +24,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -37,17 +38,12 @@ constexpr int kHeightWithoutPages = 1695;
 constexpr EditToolIds kEditTools{.paste = u"ID_붙여넣기"};
 constexpr QStringView kHelpPage = u"HowtoSearchBible.htm";
 
-constexpr VersionChoiceRule kVersionRule{.missingFile = AbsentVersion::ComboRow,
-                                         .pastLastRow = PastLastRow::OneBack,
-                                         .afterMissingFile = AfterMissingFile::First};
-
 } // namespace
 
 frm성서검색::frm성서검색(Services& services, AppState& state, ReaderPlace& reader, QWidget* parent)
     : QMainWindow(parent), m_services(services), m_state(state), m_reader(reader),
-      m_versions(services, state, kVersionRule), m_scopes(services, *this, *easy, *power, *parsing),
-      m_search(services.jet),
-      m_original(services, state, *this, *parsing, parsingResults, m_search),
+      m_model(services, state, this),
+      m_original(services, state, *this, *parsing, parsingResults, m_model.lookUps()),
       m_inputAids(services, *this, *easy, *power, *parsing),
       m_results(*hflex결과,
                 [this](const QString& text, const QString& font, int halfPoints, int width) {
@@ -59,6 +55,8 @@ frm성서검색::frm성서검색(Services& services, AppState& state, ReaderPlac
     layOut();
     addTools();
     bindTools();
+    m_model.onChange = [this](const SearchChange& change) { showChange(change); };
+    wireScopes();
     wireSearches();
     wirePages();
     wireResults();
@@ -102,9 +100,9 @@ void frm성서검색::bindTools()
     m_tools.on(u"ID_전체선택", [this] { edit(EditCommand::SelectAll); });
     for (int index = 0; index < static_cast<int>(kScopes.size()); ++index)
         m_tools.on(kScopes[static_cast<std::size_t>(index)].toolId,
-                   [this, index] { m_scopes.choose(index); });
+                   [this, index] { m_model.chooseScope(index); });
     m_tools.onFamily(u"ID_대역본0-", [this](const QString& code) {
-        easy->cb역본->setListIndex(easy->cb역본->findItemData(code.toInt()));
+        m_model.chooseVersion(m_model.versions().indexOf(code.toInt()));
     });
     m_tools.on(u"ID_쉬운검색", [this] { sstSearch->setTab(static_cast<int>(SearchTab::Easy)); });
     m_tools.on(u"ID_파워검색", [this] { sstSearch->setTab(static_cast<int>(SearchTab::Power)); });
@@ -115,8 +113,8 @@ void frm성서검색::bindTools()
         hflex결과->viewport()->update();
     });
     m_tools.on(u"ID_검색", [this] { startSearch(); });
-    m_tools.on(u"ID_PreviousPage", [this] { turnPage(false); });
-    m_tools.on(u"ID_NextPage", [this] { turnPage(true); });
+    m_tools.on(u"ID_PreviousPage", [this] { m_model.turnPage(false); });
+    m_tools.on(u"ID_NextPage", [this] { m_model.turnPage(true); });
     m_tools.on(u"ID_성경창으로이동", [this] { m_reader.bringToFront(); });
     bindHelp();
     atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };
@@ -135,17 +133,11 @@ void frm성서검색::bindHelp()
 
 void frm성서검색::wireSearches()
 {
-    easy->cb역본->onClick = [this] { cb역본_Click(); };
-    power->cbPVersion->onClick = [this] {
-        easy->cb역본->setListIndex(power->cbPVersion->ListIndex());
-    };
+    for (ComboBox* versions : {easy->cb역본, power->cbPVersion})
+        versions->onClick = [this, versions] { m_model.chooseVersion(versions->ListIndex()); };
     easy->cb검색->onClick = [this] {
         easy->tx검색->setText(easy->cb검색->Text());
         easy->tx검색->setFocus();
-    };
-    m_scopes.onScopeText = [this](const QString& text) {
-        statusPanel1->setText(text);
-        showToolStates();
     };
     connect(easy->cmd검색, &QPushButton::clicked, this, [this] { cmd검색_Click(); });
     connect(power->cmdPSearch, &QPushButton::clicked, this, [this] { cmdPSearch_Click(); });
@@ -156,22 +148,17 @@ void frm성서검색::wireSearches()
         connect(box, &QLineEdit::returnPressed, this, [this] { cmdPSearch_Click(); });
         wireTextBox(*box);
     }
-    const auto searchOriginal = [this] {
-        m_original.ProcParsingSearch(m_scopes.parsingScopeTag());
-    };
+    const auto searchOriginal = [this] { m_original.ProcParsingSearch(m_model.parsingScopeTag()); };
     connect(parsing->cmdParsingSearch, &QPushButton::clicked, this, searchOriginal);
     for (QLineEdit* box : parsing->txHGSearch) {
         connect(box, &QLineEdit::returnPressed, this, searchOriginal);
         wireTextBox(*box);
     }
     m_original.onState = [this](const QString& text) { statusPanel2->setText(text); };
-    m_original.onAnalysisLost = [this] { easy->cb역본->setListIndex(0); };
+    m_original.onAnalysisLost = [this] { m_model.chooseVersion(0); };
     m_original.onEditMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
     m_original.onOpenVerse = [this](const QString& reference) { openVerse(reference); };
-    sstSearch->onTabClick = [this](int tab, int) {
-        if (!m_loading)
-            sstSearch_Click(static_cast<SearchTab>(tab));
-    };
+    sstSearch->onTabClick = [this](int tab, int) { sstSearch_Click(static_cast<SearchTab>(tab)); };
 }
 
 void frm성서검색::wireTextBox(QLineEdit& box)
@@ -186,9 +173,9 @@ void frm성서검색::wirePages()
 {
     for (const PageMover* mover : {&easy->mover, &power->mover}) {
         ComboBox* pages = mover->pages;
-        pages->onClick = [this, pages] { showPage(pages->ListIndex()); };
-        connect(mover->previous, &QToolButton::clicked, this, [this] { turnPage(false); });
-        connect(mover->next, &QToolButton::clicked, this, [this] { turnPage(true); });
+        pages->onClick = [this, pages] { m_model.showPage(pages->ListIndex()); };
+        connect(mover->previous, &QToolButton::clicked, this, [this] { m_model.turnPage(false); });
+        connect(mover->next, &QToolButton::clicked, this, [this] { m_model.turnPage(true); });
     }
 }
 
@@ -197,7 +184,7 @@ void frm성서검색::wireResults()
     hflex결과->onClick = [this] { UpdateEditMenu(); };
     const auto openRow = [this](int row) {
         if (row > 0)
-            openVerse(hflex결과->TextMatrix(row, ResultGrid::kReferenceColumn));
+            openVerse(m_results.reference(row));
     };
     hflex결과->onDblClick = [openRow](int row, int) { openRow(row); };
     hflex결과->onEnter = [this, openRow] { openRow(hflex결과->Row()); };
@@ -210,37 +197,35 @@ void frm성서검색::wireResults()
     };
     hflex결과->highlight = [this](int row, int col, const QString& text) {
         const bool marked = m_settings.MarkHits && row > 0 && col == ResultGrid::kTextColumn;
-        return marked ? m_foundWords.ranges(text) : QList<TextRange>();
+        return marked ? m_model.foundWords().ranges(text) : QList<TextRange>();
     };
 }
 
 void frm성서검색::Form_Load()
 {
-    m_loading = true;
     Proc시동크기위치설정(m_services.registry, geometry::kBibleSearch, *this);
     m_settings = readSettings(m_services.registry, searchTable());
-    m_paged = true;
+    // The tab is opened below, once everything is filled.
+    const auto openTab = std::exchange(sstSearch->onTabClick, nullptr);
     sstSearch->setTab(static_cast<int>(SearchTab::Easy));
+    sstSearch->onTabClick = openTab;
     Proc성서검색창버전설정();
-    m_scopes.Proc검색범위초기화();
-    for (ComboBox* first : {easy->cb역본, easy->cb범위, power->cbCond1, power->cbCond2})
-        first->setListIndex(0);
+    Proc검색범위초기화();
+    for (ComboBox* condition : {power->cbCond1, power->cbCond2})
+        condition->setListIndex(0);
     parsing->reset();
     parsing->cbParVer->setListIndex(0);
     m_original.Form_Load();
     for (QLineEdit* box : {easy->tx검색, power->txPSearch1, power->txPSearch2, power->txPSearch3})
         box->clear();
-    easy->cb검색->Clear();
-    m_results.clear();
-    m_loading = false;
-    // The empty result that the tab begins with.
+    m_model.open();
     sstSearch_Click(SearchTab::Easy);
 }
 
 void frm성서검색::Proc성서검색창버전설정()
 {
-    m_versions.fill(*easy->cb역본);
-    m_versions.fill(*power->cbPVersion);
+    m_model.versions().fill(*easy->cb역본);
+    m_model.versions().fill(*power->cbPVersion);
     setUpVersionMenu(atbar, u"ID_버전", SetupMenu(m_state.installed, 0));
     parsing->cbParVer->Clear();
     parsing->cbParVer->AddItem(u"히브리어"_s);
@@ -253,9 +238,8 @@ void frm성서검색::Form_Unload()
     parsingResults.store(m_settings);
     saveSettings(m_services.registry, searchTable(), m_settings);
     ignoreFailure(m_services.registry.flush(), "unsaved settings never keep the window open");
-    m_search.close();
+    m_model.close();
     m_original.Form_Unload();
-    m_paged = false;
 }
 
 void frm성서검색::closeEvent(QCloseEvent* event)
@@ -266,10 +250,11 @@ void frm성서검색::closeEvent(QCloseEvent* event)
 
 void frm성서검색::Form_Resize()
 {
-    const bool parsingTab = currentTab() == SearchTab::Parsing;
-    easy->mover.panel->setVisible(m_paged);
-    power->mover.panel->setVisible(m_paged);
-    const int height = toPixels(m_paged ? kHeightWithPages : kHeightWithoutPages);
+    const bool parsingTab = m_model.tab() == SearchTab::Parsing;
+    const bool paged = m_model.paged();
+    easy->mover.panel->setVisible(paged);
+    power->mover.panel->setVisible(paged);
+    const int height = toPixels(paged ? kHeightWithPages : kHeightWithoutPages);
     // Large fonts need more than the usual height, and so do the conditions of the third tab.
     const QWidget* page = sstSearch->currentWidget();
     const QLayout& inputs = *page->layout();
@@ -281,7 +266,7 @@ void frm성서검색::Form_Resize()
     hflex결과->setVisible(!parsingTab);
     parsingResults.splitParsing->setVisible(parsingTab);
     for (const QStringView mover : {u"ID_PreviousPage", u"ID_NextPage"})
-        atbar.tool(mover).setEnabled(m_paged && !parsingTab);
+        atbar.tool(mover).setEnabled(paged && !parsingTab);
 }
 
 bool frm성서검색::eventFilter(QObject* watched, QEvent* event)
@@ -300,7 +285,7 @@ QString frm성서검색::typedVersion(const QLineEdit& box) const
     // The conditions have a language of their own, whatever version the other tabs search.
     if (const auto hebrew = parsing->takesHebrew(box))
         return *hebrew ? u"BHS"_s : QString();
-    return easy->cb역본->Text();
+    return m_model.versionName();
 }
 
 void frm성서검색::atbar_event9(const QString& toolId)
@@ -312,16 +297,15 @@ void frm성서검색::atbar_event9(const QString& toolId)
 
 void frm성서검색::showToolStates()
 {
-    const SearchTab tab = currentTab();
+    const SearchTab tab = m_model.tab();
     atbar.tool(u"ID_쉬운검색").setChecked(tab == SearchTab::Easy);
     atbar.tool(u"ID_파워검색").setChecked(tab == SearchTab::Power);
     atbar.tool(u"ID_원전분해검색").setChecked(tab == SearchTab::Parsing);
     atbar.tool(u"ID_MarkHits").setChecked(m_settings.MarkHits);
     for (int index = 0; index < static_cast<int>(kScopes.size()); ++index)
         atbar.tool(kScopes[static_cast<std::size_t>(index)].toolId)
-            .setChecked(easy->cb범위->ListIndex() == index);
-    const int code = easy->cb역본->ItemData(easy->cb역본->ListIndex());
-    atbar.checkOnly(u"ID_대역본0-", u"ID_대역본0-"_s + QString::number(code));
+            .setChecked(m_model.scope() == index);
+    atbar.checkOnly(u"ID_대역본0-", u"ID_대역본0-"_s + QString::number(m_model.code()));
 }
 
 void frm성서검색::edit(EditCommand command)

@@ -6,7 +6,6 @@
 #include "forms/edit_commands.h"
 #include "forms/results/result_grid.h"
 #include "forms/services.h"
-#include "forms/versions/version_choice.h"
 #include "platform/controls/bars/active_tool_bars.h"
 #include "platform/controls/bars/tool_dispatch.h"
 #include "platform/controls/elided_label.h"
@@ -15,12 +14,9 @@
 #include "search/input_aids.h"
 #include "search/original/original_tab.h"
 #include "search/original/parsing_panel.h"
-#include "search/verses/bible_search.h"
+#include "search/search_model.h"
 #include "search/verses/easy_panel.h"
-#include "search/verses/found_words.h"
 #include "search/verses/power_panel.h"
-#include "search/verses/scope_choice.h"
-#include "search/verses/search_scope.h"
 #include "text/original/hebrew_division.h"
 
 #include <QLabel>
@@ -30,9 +26,6 @@
 namespace lumen {
 
 class ReaderPlace;
-
-/// The tabs of the search window; the values are their numbers.
-enum class SearchTab { Easy, Power, Parsing };
 
 /// The window in which the Bible is searched: three kinds of search, a result in pages of 50
 /// verses, the way from a verse to the reader. It may be closed and loaded again.
@@ -47,7 +40,7 @@ public:
     void atbar_event9(const QString& toolId);
     const ToolDispatch& toolClicks() const { return m_tools; }
     /// The module and the query behind the open result.
-    const DataControl& dacSearch() const { return m_search.dacSearch; }
+    const DataControl& dacSearch() const { return m_model.lookUps().dacSearch; }
 
     ActiveToolBars atbar{*this};
     EasyPanel* easy = new EasyPanel;
@@ -78,46 +71,36 @@ private:
     void Form_Unload();
     void Form_Resize();
     void Proc성서검색창버전설정();
+    void Proc검색범위초기화();
     void edit(EditCommand command);
     void UpdateEditMenu();
     void showToolStates();
 
-    // search_run.cpp: versions, searches, pages
-    void cb역본_Click();
-    void showVersionFont(int code);
-    bool findModule();
+    // search_run.cpp: what the controls report to the model, and what it shows in them
+    void wireScopes();
+    std::optional<QString> askBooks(std::optional<Testament> only);
     void sstSearch_Click(SearchTab tab);
-    void openVerseTab(SearchTab tab);
-    void openParsingTab();
     void startSearch();
     void cmd검색_Click();
     void cmdPSearch_Click();
-    void run(SearchKind kind, const QString& criterion, const QStringList& words);
     static void tidy(QLineEdit& box);
-    void dropResult();
-    void ProcFillPageCombo();
-    void ProcFillResultPage(int page);
-    void showPage(int page);
-    void turnPage(bool forward);
+    void showChange(const SearchChange& change);
+    void showVersion();
+    void showScope();
+    void showPages();
+    void showPage();
     void openVerse(const QString& reference);
-    SearchTab currentTab() const { return static_cast<SearchTab>(sstSearch->Tab()); }
 
     Services& m_services;
     AppState& m_state;
     ReaderPlace& m_reader;
-    VersionChoice m_versions;
-    ScopeChoice m_scopes;
-    BibleSearch m_search;
+    SearchModel m_model;
     OriginalTab m_original;
     InputAids m_inputAids;
     FontLineBreaker m_lineBreaker;
     ResultGrid m_results;
-    FoundWords m_foundWords;
     ToolDispatch m_tools;
     SearchSettings m_settings;
-    int m_resultCode = 0;   ///< the version of the open result, whichever is chosen since
-    bool m_loading = false; ///< the LoadingFlag
-    bool m_paged = false;   ///< the PagedFlag: the result spans more than one page
 };
 
 } // namespace lumen

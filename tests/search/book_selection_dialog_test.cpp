@@ -74,32 +74,6 @@ TEST_F(BookScopeTest, TickedBooksAreTheScopeOfBothTabs)
     EXPECT_EQ(references(), QStringList{u"계1:1"_s});
 }
 
-TEST_F(BookScopeTest, ACancelledChoiceLeavesTheFormerScopeInForce)
-{
-    open();
-    pick(u"cb범위"_s, 3);
-    expectBooks({u"chk책명(0)"_s, u"cmd취소"_s});
-    combo(u"cb범위"_s).setListIndex(kBooks);
-    typeAndEnter(u"tx검색"_s, u"은혜"_s);
-    EXPECT_TRUE(query().endsWith(u") and Testa = '신' order by index"_s));
-}
-
-TEST_F(BookScopeTest, AnEmptyChoiceIsAskedAboutAndGoesBackToTheWholeRange)
-{
-    open();
-    pick(u"cb범위"_s, 3);
-    expectQuestion(Answer::No);
-    expectBooks({u"cmd승인"_s, u"chk책명(1)"_s, u"cmd승인"_s});
-    combo(u"cb범위"_s).setListIndex(kBooks);
-    EXPECT_EQ(panel(1), u"검색 대상: 출"_s);
-    expectQuestion(Answer::Yes);
-    expectBooks({u"cmd승인"_s});
-    click(u"cmd책별선택(0)"_s);
-    EXPECT_EQ(combo(u"cb범위"_s).ListIndex(), 0);
-    EXPECT_EQ(combo(u"cbP범위"_s).ListIndex(), 0);
-    EXPECT_EQ(panel(1), u"검색 범위: 전체"_s);
-}
-
 TEST_F(BookScopeTest, TheThirdTabOffersTheTestamentOfItsLanguage)
 {
     open();

@@ -105,18 +105,6 @@ TEST_F(SearchResultsTest, FoundWordsAreMarkedWithoutChangingTextOrRowHeight)
     EXPECT_EQ(grid.TextMatrix(1, 1), text);
 }
 
-TEST_F(SearchResultsTest, NarrowedResultsMarkTheWordsOfAllSteps)
-{
-    open();
-    window->atbar_event9(u"ID_대역본0-201"_s);
-    typeAndEnter(u"tx검색"_s, u"was"_s);
-    pick(u"cb범위"_s, 1);
-    typeAndEnter(u"tx검색"_s, u"so"_s);
-    ASSERT_EQ(texts(), QStringList{u"And it was so"_s});
-    EXPECT_EQ(window->hflex결과->highlight(1, 1, texts().first()),
-              (QList<TextRange>{{7, 3}, {11, 2}}));
-}
-
 TEST_F(SearchResultsTest, LongHebrewVersesAreDividedButCopiedWhole)
 {
     QString verse;

@@ -136,24 +136,6 @@ TEST_F(SearchWindowTest, PowerSearchCombinesThreeTexts)
               }));
 }
 
-TEST_F(SearchWindowTest, NarrowingTwiceGoesOnInTheVersionOfTheFirstResult)
-{
-    open();
-    typeAndEnter(u"tx검색"_s, u"오백일절"_s);
-    EXPECT_EQ(panel(2), u"501개 검색"_s);
-    pick(u"cb범위"_s, 1);
-    typeAndEnter(u"tx검색"_s, u"셋째"_s);
-    EXPECT_EQ(panel(2), u"167개 검색"_s);
-    window->atbar_event9(u"ID_대역본0-201"_s);
-    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"KJV"_s);
-    typeAndEnter(u"tx검색"_s, u"다섯째"_s);
-    EXPECT_EQ(panel(2), u"33개 검색"_s);
-    EXPECT_EQ(references(), plainScan(korean, [](const PlainVerse& verse) {
-                  return verse.cont->contains(u"오백일절") && verse.cont->contains(u"셋째") &&
-                         verse.cont->contains(u"다섯째");
-              }));
-}
-
 TEST_F(SearchWindowTest, NarrowingNothingIsToldAndRunsTheEasySearchFromBothTabs)
 {
     open();
@@ -202,31 +184,6 @@ TEST_F(SearchWindowTest, TheHistoryKeepsEachTextOnceAndBringsItBack)
     pick(u"cb검색"_s, 1);
     EXPECT_EQ(box(u"tx검색"_s).text(), u"평강"_s);
     EXPECT_TRUE(box(u"tx검색"_s).hasFocus());
-}
-
-TEST_F(SearchWindowTest, AnAbsentVersionIsToldAndTheFormerOneStays)
-{
-    open();
-    window->atbar_event9(u"ID_대역본0-201"_s);
-    expectNoDisc();
-    combo(u"cb역본"_s).setListIndex(combo(u"cb역본"_s).findItemData(205));
-    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"KJV"_s);
-    test.messages.verify();
-    test.messages.expect(u"역본 미설치"_s, u"해당 역본이 설치되어 있지 않습니다."_s, 48);
-    combo(u"cbPVersion"_s).setListIndex(combo(u"cbPVersion"_s).findItemData(208));
-    EXPECT_EQ(combo(u"cbPVersion"_s).Text(), u"KJV"_s);
-    test.messages.verify();
-
-    // Its module goes while the window is open: the first version comes back.
-    typeAndEnter(u"tx검색"_s, u"grace"_s);
-    ASSERT_EQ(panel(2), u"1개 검색"_s);
-    ASSERT_TRUE(QFile::remove(test.folders.data(u"201.dts"_s)));
-    expectNoDisc();
-    click(u"cmd검색"_s);
-    test.messages.verify();
-    EXPECT_EQ(combo(u"cb역본"_s).Text(), u"개역한글"_s);
-    EXPECT_EQ(references(), QStringList{u"창1:1"_s});
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(SearchWindowTest, ClosingFreesTheModuleAndKeepsPlaceAndMarks)

@@ -48,6 +48,8 @@ public:
     /// The same with verses that were read before.
     void showVerses(const QList<ResultVerse>& verses, int code, const FontSettings& fonts,
                     FillPlace place = FillPlace::First);
+    /// The short reference of a grid row, "" for the header and beyond the last.
+    QString reference(int row) const { return m_verses.value(row - 1).reference; }
     /// Divides Hebrew verses for the width that the text column has now; the view keeps its place.
     void divideAnew();
     /// Leaves the header alone.

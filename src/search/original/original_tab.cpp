@@ -58,7 +58,9 @@ OriginalTab::OriginalTab(Services& services, const AppState& state, QWidget& win
         if (button != Qt::LeftButton && m_results.lstResult->ListIndex() != m_shownVerse)
             lstResult_Click();
     };
-    m_results.lstResult->onDblClick = [this] { onOpenVerse(m_results.lstResult->Text()); };
+    m_results.lstResult->onDblClick = [this] {
+        onOpenVerse(BibleCode::IndexToRef(m_keys.value(m_results.lstResult->ListIndex())));
+    };
 }
 
 OriginalTab::~OriginalTab() = default;
@@ -241,7 +243,7 @@ void OriginalTab::showKoreanVerse(const QString& key)
         database->OpenRecordset(u"select cont from "_s + versionRow(korean).name.toString() +
                                 u" where index like '"_s + EscapeLikeText(key, true) + u"'"_s);
     if (verse->RecordCount() > 0)
-        m_results.txBibleVerse->setText(m_results.lstResult->Text() + u" ("_s +
+        m_results.txBibleVerse->setText(BibleCode::IndexToRef(key) + u" ("_s +
                                         DES::UnscrambleField(Text(verse->Fields(u"cont"))) +
                                         u")"_s);
     database->Close();
