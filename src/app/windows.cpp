@@ -13,19 +13,6 @@
 
 namespace lumen {
 
-namespace {
-
-void raiseWindow(QWidget& window)
-{
-    if (window.isMinimized())
-        window.showNormal();
-    window.show();
-    window.raise();
-    window.activateWindow();
-}
-
-} // namespace
-
 Windows::Windows(Services& services, AppState& state) : m_services(services), m_state(state) {}
 
 Windows::~Windows() = default;

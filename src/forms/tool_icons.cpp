@@ -29,32 +29,6 @@ namespace {
 constexpr int kTrialSize = 16;
 constexpr std::array kIconSizes{16, 24, 32, 48, 64};
 
-struct ToolIcon
-{
-    QStringView tool;
-    QStringView icon;
-};
-
-constexpr std::array kToolIcons{
-    ToolIcon{u"ID_AddBookmark", u"bookmark"},
-    ToolIcon{u"ID_Panel", u"panel"},
-    ToolIcon{u"ID_QuickMove", u"quick-move"},
-    ToolIcon{u"ID_UnicodeCopy", u"copy-unicode"},
-    ToolIcon{u"ID_검색", u"search"},
-    ToolIcon{u"ID_다음장", u"next-chapter"},
-    ToolIcon{u"ID_닫기", u"close"},
-    ToolIcon{u"ID_목차", u"help"},
-    ToolIcon{u"ID_복사", u"copy"},
-    ToolIcon{u"ID_본문추출", u"extract"},
-    ToolIcon{u"ID_붙여넣기", u"paste"},
-    ToolIcon{u"ID_붙이기", u"paste"},
-    ToolIcon{u"ID_이전장", u"previous-chapter"},
-    ToolIcon{u"ID_잘라내기", u"cut"},
-    ToolIcon{u"ID_테이블형식", u"table-view"},
-    ToolIcon{u"ID_텍스트형식", u"text-view"},
-    ToolIcon{u"ID_환경설정", u"preferences"},
-};
-
 QIcon iconNamed(QStringView name)
 {
     initIconResources();
@@ -95,10 +69,10 @@ void setToolIcons(const ActiveToolBars& bars)
 {
     const QPalette look = QGuiApplication::palette();
     const bool dark = isDark(look);
-    for (const ToolIcon& row : kToolIcons)
-        if (Tool tool = bars.tool(row.tool); tool.exists())
-            tool.setIcon(dark ? iconOn(look.color(QPalette::Window), row.icon)
-                              : iconNamed(row.icon));
+    for (const ToolRow& row : bars.rows())
+        if (!row.icon.isEmpty())
+            bars.tool(row.id).setIcon(dark ? iconOn(look.color(QPalette::Window), row.icon)
+                                           : iconNamed(row.icon));
 }
 
 QIcon programIcon()

@@ -7,8 +7,8 @@ namespace lumen {
 
 class ActiveToolBars;
 
-/// Gives the tools of a window the icons that there are for them, by tool id. Tools without one,
-/// and all tools where no plug-in draws SVG, keep their caption.
+/// Gives the tools of a window the icons of their rows, in colours that fit a dark desktop too.
+/// Where no plug-in draws SVG they keep their captions.
 void setToolIcons(const ActiveToolBars& bars);
 
 /// The program's own icon; null where no plug-in draws SVG.

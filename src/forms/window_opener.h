@@ -3,6 +3,8 @@
 
 #include <QString>
 
+class QWidget;
+
 namespace lumen {
 
 /// The windows that others may ask for.
@@ -17,5 +19,8 @@ public:
     /// Lists the verses in which a Strong's number occurs; the language is "히브리어" or "헬라어".
     virtual void openStrongList(const QString& language, const QString& number) = 0;
 };
+
+/// Brings a window to the front, be it hidden, covered or minimised; a maximised one stays so.
+void raiseWindow(QWidget& window);
 
 } // namespace lumen

@@ -9,6 +9,7 @@
 #include "data/module_path.h"
 #include "forms/form_geometry.h"
 #include "forms/guarded.h"
+#include "forms/help_menu.h"
 #include "forms/startup_progress.h"
 #include "forms/tool_icons.h"
 #include "forms/versions/book_combo.h"
@@ -70,6 +71,8 @@ frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
     setObjectName(u"frm성서"_s);
     setWindowTitle(u"루멘 스크립트"_s);
     atbar.add(kReaderTools);
+    atbar.add(kHelpMenu);
+    atbar.add(kReaderHelpTools);
     addGeneratedTools();
     setToolIcons(atbar);
     layOut();
@@ -248,10 +251,7 @@ void frm성서::closeEvent(QCloseEvent* event)
 
 void frm성서::bringToFront()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized); // a maximised window stays so
-    show();
-    raise();
-    activateWindow();
+    raiseWindow(*this);
 }
 
 bool frm성서::Form_Load(StartupProgress& splash)

@@ -3,7 +3,7 @@
 
 #include "data/app_state.h"
 #include "data/settings.h"
-#include "forms/edit_commands.h"
+#include "forms/edit_menu.h"
 #include "forms/results/verse_copy.h"
 #include "forms/services.h"
 #include "panel/reference_panel.h"

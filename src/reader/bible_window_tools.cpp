@@ -2,11 +2,11 @@
 #include "canon/canon_table.h"
 #include "data/module_path.h"
 #include "forms/guarded.h"
+#include "forms/help_menu.h"
 #include "forms/results/page_failure.h"
 #include "forms/versions/book_combo.h"
 #include "forms/versions/version_combo.h"
 #include "forms/window_opener.h"
-#include "platform/dialogs/html_help.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/files/shell.h"
 #include "platform/registry/registry_store.h"
@@ -142,12 +142,8 @@ void frm성서::bindTools()
     // The menu alone shows what the focused control takes: a tool that stayed disabled behind it
     // would be dead on its bar and by its key.
     connect(atbar.menu(u"ID_편집"), &QMenu::aboutToHide, this, [this] { enableEditTools(); });
-    m_tools.on(u"ID_잘라내기", [this] { runEdit(EditCommand::Cut); });
-    m_tools.on(u"ID_복사", [this] { runEdit(EditCommand::Copy); });
+    bindEditMenu(m_tools, {}, [this](EditCommand command) { runEdit(command); });
     m_tools.on(u"ID_UnicodeCopy", [this] { copySelection(OriginalText::Unicode); });
-    m_tools.on(u"ID_붙이기", [this] { runEdit(EditCommand::Paste); });
-    m_tools.on(u"ID_지우기", [this] { runEdit(EditCommand::Delete); });
-    m_tools.on(u"ID_전체선택", [this] { runEdit(EditCommand::SelectAll); });
     for (int slot = 0; slot < kSlotCount; ++slot) {
         const auto at = static_cast<std::size_t>(slot);
         m_combos.on(kSlotCombos[at],
@@ -251,13 +247,7 @@ void frm성서::bindWindowTools()
     });
     for (const ReferencePage& page : kReferencePages)
         m_tools.on(page.tool, [this, file = page.file] { openPage(file); });
-    const auto help = [this](const Result<Done>& shown) {
-        if (!shown)
-            tellPageFailure(m_services, this, messages::kPageMissing, shown.failure());
-    };
-    m_tools.on(u"ID_목차", [this, help] { help(m_services.help.showPage(u"Lumens_Intro.htm"_s)); });
-    m_tools.on(u"ID_색인", [this, help] { help(m_services.help.showIndex()); });
-    m_tools.on(u"ID_도움말검색", [this, help] { help(m_services.help.showSearch()); });
+    bindHelpMenu(m_tools, m_services, this, u"Lumens_Intro.htm");
 }
 
 void frm성서::openPage(QStringView file)

@@ -19,18 +19,18 @@ inline constexpr QStringView kMove2 = u"성서 이동 도구 2";
 /// The reader's tools. The version tools ("ID_대역본0-101"), the book tools ("ID_성서책0") and the
 /// book buttons ("ID_0") are generated from the catalogue and the canon when the window is made.
 inline constexpr std::array kReaderTools{
-    // id, caption, kind, bar or menu that it stands on, shortcut, state
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", ToolState::Later},
+    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", u"", ToolState::Later},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
-    ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W"},
+    ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},
 
     ToolRow{u"ID_편집", u"편집(&E)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_잘라내기", u"잘라내기(&T)", ToolKind::Button, u"ID_편집", u"Ctrl+X"},
-    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C"},
-    ToolRow{u"ID_UnicodeCopy", u"유니코드로 복사(&U)", ToolKind::Button, u"ID_편집", u"Ctrl+Shift+C"},
-    ToolRow{u"ID_붙이기", u"붙이기(&P)", ToolKind::Button, u"ID_편집", u"Ctrl+V"},
+    ToolRow{u"ID_잘라내기", u"잘라내기(&T)", ToolKind::Button, u"ID_편집", u"Ctrl+X", u"cut"},
+    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C", u"copy"},
+    ToolRow{u"ID_UnicodeCopy", u"유니코드로 복사(&U)", ToolKind::Button, u"ID_편집", u"Ctrl+Shift+C", u"copy-unicode"},
+    ToolRow{u"ID_붙이기", u"붙이기(&P)", ToolKind::Button, u"ID_편집", u"Ctrl+V", u"paste"},
     ToolRow{u"ID_지우기", u"지우기(&D)", ToolKind::Button, u"ID_편집"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_편집"},
     ToolRow{u"ID_전체선택", u"전체 선택(&A)", ToolKind::Button, u"ID_편집", u"Ctrl+A"},
@@ -40,11 +40,11 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_대조도구모음", u"대조 도구 모음(&C)", ToolKind::Toggle, u"ID_보기"},
     ToolRow{u"ID_성서이동도구모음", u"성서 이동 도구 모음(&B)", ToolKind::Toggle, u"ID_보기"},
     ToolRow{u"ID_SidePane", u"이동/책갈피 창(&K)", ToolKind::Toggle, u"ID_보기", u"F9"},
-    ToolRow{u"ID_Panel", u"관주/사전 창(&R)", ToolKind::Toggle, u"ID_보기", u"F8"},
+    ToolRow{u"ID_Panel", u"관주/사전 창(&R)", ToolKind::Toggle, u"ID_보기", u"F8", u"panel"},
     ToolRow{u"ID_PanelTab", u"관주/사전 선택(&D)", ToolKind::Menu, u"ID_보기"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_보기"},
-    ToolRow{u"ID_텍스트형식", u"텍스트 형식(&X)", ToolKind::Toggle, u"ID_보기", u"Ctrl+Shift+X"},
-    ToolRow{u"ID_테이블형식", u"테이블 형식(&T)", ToolKind::Toggle, u"ID_보기", u"Ctrl+Shift+T"},
+    ToolRow{u"ID_텍스트형식", u"텍스트 형식(&X)", ToolKind::Toggle, u"ID_보기", u"Ctrl+Shift+X", u"text-view"},
+    ToolRow{u"ID_테이블형식", u"테이블 형식(&T)", ToolKind::Toggle, u"ID_보기", u"Ctrl+Shift+T", u"table-view"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_보기"},
     ToolRow{u"ID_줄간격1배", u"줄 간격 1배(&1)", ToolKind::Toggle, u"ID_보기", u"Ctrl+1"},
     ToolRow{u"ID_줄간격1.5배", u"줄 간격 1.5배(&5)", ToolKind::Toggle, u"ID_보기", u"Ctrl+5"},
@@ -59,11 +59,11 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_소주제표시", u"소주제 표시(&M)", ToolKind::Toggle, u"ID_보기", u"Ctrl+M"},
 
     ToolRow{u"ID_Move", u"이동(&M)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_이전장", u"이전 장(&P)", ToolKind::Button, u"ID_Move", u"Ctrl+Left"},
-    ToolRow{u"ID_다음장", u"다음 장(&N)", ToolKind::Button, u"ID_Move", u"Ctrl+Right"},
-    ToolRow{u"ID_QuickMove", u"즉석 이동(&G)", ToolKind::Button, u"ID_Move", u"Ctrl+G"},
+    ToolRow{u"ID_이전장", u"이전 장(&P)", ToolKind::Button, u"ID_Move", u"Ctrl+Left", u"previous-chapter"},
+    ToolRow{u"ID_다음장", u"다음 장(&N)", ToolKind::Button, u"ID_Move", u"Ctrl+Right", u"next-chapter"},
+    ToolRow{u"ID_QuickMove", u"즉석 이동(&G)", ToolKind::Button, u"ID_Move", u"Ctrl+G", u"quick-move"},
     ToolRow{u"ID_ToText", u"본문으로(&X)", ToolKind::Button, u"ID_Move", u"Ctrl+T"},
-    ToolRow{u"ID_AddBookmark", u"책갈피 추가(&B)", ToolKind::Button, u"ID_Move", u"Ctrl+D"},
+    ToolRow{u"ID_AddBookmark", u"책갈피 추가(&B)", ToolKind::Button, u"ID_Move", u"Ctrl+D", u"bookmark"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_Move"},
     ToolRow{u"ID_OldTestament", u"구약(&O)", ToolKind::Menu, u"ID_Move"},
     ToolRow{u"ID_NewTestament", u"신약(&T)", ToolKind::Menu, u"ID_Move"},
@@ -75,15 +75,15 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_대역본3", u"대역본 3(&3)", ToolKind::Menu, u"ID_Versions"},
 
     ToolRow{u"ID_도구", u"도구(&T)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_검색", u"성서 검색(&S)...", ToolKind::Button, u"ID_도구", u"Ctrl+F"},
-    ToolRow{u"ID_본문추출", u"본문 추출(&X)...", ToolKind::Button, u"ID_도구", u"Ctrl+E"},
-    ToolRow{u"ID_설교매니저", u"설교 매니저(&M)...", ToolKind::Button, u"ID_도구", u"F5", ToolState::Later},
-    ToolRow{u"ID_QT매니저", u"QT 매니저(&Q)...", ToolKind::Button, u"ID_도구", u"F6", ToolState::Later},
-    ToolRow{u"ID_예화사전", u"예화 사전(&I)...", ToolKind::Button, u"ID_도구", u"F7", ToolState::Later},
-    ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_도구", u"Ctrl+Shift+P", ToolState::Later},
+    ToolRow{u"ID_검색", u"성서 검색(&S)...", ToolKind::Button, u"ID_도구", u"Ctrl+F", u"search"},
+    ToolRow{u"ID_본문추출", u"본문 추출(&X)...", ToolKind::Button, u"ID_도구", u"Ctrl+E", u"extract"},
+    ToolRow{u"ID_설교매니저", u"설교 매니저(&M)...", ToolKind::Button, u"ID_도구", u"F5", u"", ToolState::Later},
+    ToolRow{u"ID_QT매니저", u"QT 매니저(&Q)...", ToolKind::Button, u"ID_도구", u"F6", u"", ToolState::Later},
+    ToolRow{u"ID_예화사전", u"예화 사전(&I)...", ToolKind::Button, u"ID_도구", u"F7", u"", ToolState::Later},
+    ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_도구", u"Ctrl+Shift+P", u"", ToolState::Later},
     ToolRow{u"ID_인터넷", u"홈페이지(&H)", ToolKind::Button, u"ID_도구"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_도구"},
-    ToolRow{u"ID_환경설정", u"환경 설정(&O)...", ToolKind::Button, u"ID_도구", u"Ctrl+,"},
+    ToolRow{u"ID_환경설정", u"환경 설정(&O)...", ToolKind::Button, u"ID_도구", u"Ctrl+,", u"preferences"},
     ToolRow{u"ID_사용자역본환경설정", u"사용자 역본 환경 설정(&U)...", ToolKind::Button, u"ID_도구", u"Ctrl+Alt+U"},
 
     ToolRow{u"ID_Pages", u"자료(&R)", ToolKind::Menu, kMenuBar},
@@ -97,13 +97,6 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_사복음서대조표(본문포함)", u"사복음서 대조표(본문 포함)(&8)", ToolKind::Button, u"ID_Pages"},
     ToolRow{u"ID_역본설명", u"역본 설명(&9)", ToolKind::Button, u"ID_Pages"},
     ToolRow{u"ID_책별소개", u"책별 소개(&0)", ToolKind::Button, u"ID_Pages"},
-
-    ToolRow{u"ID_도움말", u"도움말(&H)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_목차", u"목차(&C)", ToolKind::Button, u"ID_도움말", u"F1"},
-    ToolRow{u"ID_색인", u"색인(&I)", ToolKind::Button, u"ID_도움말"},
-    ToolRow{u"ID_도움말검색", u"도움말 검색(&S)", ToolKind::Button, u"ID_도움말"},
-    ToolRow{u"", u"", ToolKind::Separator, u"ID_도움말"},
-    ToolRow{u"ID_루멘스크립트에대하여", u"루멘 스크립트에 대하여(&A)...", ToolKind::Button, u"ID_도움말"},
 
     ToolRow{u"ID_cb책명", u"책", ToolKind::Combo, reader_bar::kStandard},
     ToolRow{u"ID_cb장", u"장", ToolKind::Combo, reader_bar::kStandard},
@@ -121,6 +114,11 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_cb대역본1", u"대역본 1", ToolKind::Combo, reader_bar::kVersions},
     ToolRow{u"ID_cb대역본2", u"대역본 2", ToolKind::Combo, reader_bar::kVersions},
     ToolRow{u"ID_cb대역본3", u"대역본 3", ToolKind::Combo, reader_bar::kVersions},
+};
+// Stands behind the rows of the help menu.
+inline constexpr std::array kReaderHelpTools{
+    ToolRow{u"", u"", ToolKind::Separator, u"ID_도움말"},
+    ToolRow{u"ID_루멘스크립트에대하여", u"루멘 스크립트에 대하여(&A)...", ToolKind::Button, u"ID_도움말"},
 };
 // clang-format on
 

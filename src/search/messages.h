@@ -28,7 +28,6 @@ inline constexpr MessageText kScratchLost{u"파일 손실",
                                           u"Data 디렉토리내의 z199.dts 파일이 손실되었습니다. "
                                           u"검색 작업이 불가능하므로 재설치 하십시요.",
                                           16};
-inline constexpr MessageText kHelpMissing{u"도움말 없음", u"도움말을 열 수 없습니다.\r\n%1", 48};
 inline constexpr MessageText kNoStrongList{u"결과 없음", u"해당하는 스트롱 코드 관주가 없습니다.",
                                            64};
 inline constexpr MessageText kShiftKeyOnly{u"안내",

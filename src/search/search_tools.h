@@ -13,18 +13,18 @@ inline constexpr QStringView kSearchBar = u"검색 도구 모음";
 /// The tools of the search window. The scope tools are made from the scope table, the version tools
 /// ("ID_대역본0-101") from the catalogue.
 inline constexpr std::array kSearchTools{
-    // id, caption, kind, bar or menu that it stands on, shortcut, state
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_미리보기", u"미리보기(&V)...", ToolKind::Button, u"ID_파일", u"Ctrl+Shift+P", ToolState::Later},
-    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", ToolState::Later},
+    ToolRow{u"ID_미리보기", u"미리보기(&V)...", ToolKind::Button, u"ID_파일", u"Ctrl+Shift+P", u"", ToolState::Later},
+    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", u"", ToolState::Later},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
-    ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W"},
+    ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},
 
     ToolRow{u"ID_편집", u"편집(&E)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_잘라내기", u"잘라내기(&T)", ToolKind::Button, u"ID_편집", u"Ctrl+X"},
-    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C"},
-    ToolRow{u"ID_붙여넣기", u"붙여넣기(&P)", ToolKind::Button, u"ID_편집", u"Ctrl+V"},
+    ToolRow{u"ID_잘라내기", u"잘라내기(&T)", ToolKind::Button, u"ID_편집", u"Ctrl+X", u"cut"},
+    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C", u"copy"},
+    ToolRow{u"ID_붙여넣기", u"붙여넣기(&P)", ToolKind::Button, u"ID_편집", u"Ctrl+V", u"paste"},
     ToolRow{u"ID_지우기", u"지우기(&D)", ToolKind::Button, u"ID_편집"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_편집"},
     ToolRow{u"ID_전체선택", u"전체 선택(&A)", ToolKind::Button, u"ID_편집", u"Ctrl+A"},
@@ -40,16 +40,11 @@ inline constexpr std::array kSearchTools{
     ToolRow{u"ID_버전", u"역본(&B)", ToolKind::Menu, kMenuBar},
 
     ToolRow{u"ID_도구", u"도구(&T)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_검색", u"검색(&S)", ToolKind::Button, u"ID_도구", u"Ctrl+Return"},
+    ToolRow{u"ID_검색", u"검색(&S)", ToolKind::Button, u"ID_도구", u"Ctrl+Return", u"search"},
     ToolRow{u"ID_PreviousPage", u"이전 쪽(&P)", ToolKind::Button, u"ID_도구", u"Alt+PgUp"},
     ToolRow{u"ID_NextPage", u"다음 쪽(&N)", ToolKind::Button, u"ID_도구", u"Alt+PgDown"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_도구"},
     ToolRow{u"ID_성경창으로이동", u"성경창으로 이동(&G)", ToolKind::Button, u"ID_도구", u"Ctrl+B"},
-
-    ToolRow{u"ID_도움말", u"도움말(&H)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_목차", u"목차(&C)", ToolKind::Button, u"ID_도움말", u"F1"},
-    ToolRow{u"ID_색인", u"색인(&I)", ToolKind::Button, u"ID_도움말"},
-    ToolRow{u"ID_도움말검색", u"도움말 검색(&S)", ToolKind::Button, u"ID_도움말"},
 
     ToolRow{u"ID_쉬운검색", u"쉬운 검색", ToolKind::Toggle, kSearchBar},
     ToolRow{u"ID_파워검색", u"파워 검색", ToolKind::Toggle, kSearchBar},

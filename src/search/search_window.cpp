@@ -4,14 +4,13 @@
 #include "data/settings.h"
 #include "forms/form_geometry.h"
 #include "forms/guarded.h"
+#include "forms/help_menu.h"
 #include "forms/reader_place.h"
-#include "forms/results/page_failure.h"
 #include "forms/right_to_left_typing.h"
 #include "forms/tool_icons.h"
 #include "forms/versions/version_combo.h"
 #include "forms/wait_pointer.h"
 #include "platform/controls/twips.h"
-#include "platform/dialogs/html_help.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/registry/registry_store.h"
 #include "search/messages.h"
@@ -83,6 +82,7 @@ void frm성서검색::layOut()
 void frm성서검색::addTools()
 {
     atbar.add(kSearchTools);
+    atbar.add(kHelpMenu);
     for (const ScopeRow& scope : kScopes)
         atbar.add({scope.toolId, scope.text, ToolKind::Toggle, u"ID_Scope"});
     setToolIcons(atbar);
@@ -93,11 +93,7 @@ void frm성서검색::bindTools()
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_종료", [] { QApplication::closeAllWindows(); });
     m_tools.on(u"ID_편집", [this] { UpdateEditMenu(); });
-    m_tools.on(u"ID_잘라내기", [this] { edit(EditCommand::Cut); });
-    m_tools.on(u"ID_복사", [this] { edit(EditCommand::Copy); });
-    m_tools.on(u"ID_붙여넣기", [this] { edit(EditCommand::Paste); });
-    m_tools.on(u"ID_지우기", [this] { edit(EditCommand::Delete); });
-    m_tools.on(u"ID_전체선택", [this] { edit(EditCommand::SelectAll); });
+    bindEditMenu(m_tools, kEditTools, [this](EditCommand command) { edit(command); });
     for (int index = 0; index < static_cast<int>(kScopes.size()); ++index)
         m_tools.on(kScopes[static_cast<std::size_t>(index)].toolId,
                    [this, index] { m_model.chooseScope(index); });
@@ -116,19 +112,8 @@ void frm성서검색::bindTools()
     m_tools.on(u"ID_PreviousPage", [this] { m_model.turnPage(false); });
     m_tools.on(u"ID_NextPage", [this] { m_model.turnPage(true); });
     m_tools.on(u"ID_성경창으로이동", [this] { m_reader.bringToFront(); });
-    bindHelp();
+    bindHelpMenu(m_tools, m_services, this, kHelpPage);
     atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };
-}
-
-void frm성서검색::bindHelp()
-{
-    const auto help = [this](const Result<Done>& shown) {
-        if (!shown)
-            tellPageFailure(m_services, this, messages::kHelpMissing, shown.failure());
-    };
-    m_tools.on(u"ID_목차", [this, help] { help(m_services.help.showPage(kHelpPage.toString())); });
-    m_tools.on(u"ID_색인", [this, help] { help(m_services.help.showIndex()); });
-    m_tools.on(u"ID_도움말검색", [this, help] { help(m_services.help.showSearch()); });
 }
 
 void frm성서검색::wireSearches()

@@ -3,7 +3,7 @@
 
 #include "data/app_state.h"
 #include "data/settings.h"
-#include "forms/edit_commands.h"
+#include "forms/edit_menu.h"
 #include "forms/results/result_grid.h"
 #include "forms/services.h"
 #include "platform/controls/bars/active_tool_bars.h"
@@ -62,7 +62,6 @@ private:
     void layOut();
     void addTools();
     void bindTools();
-    void bindHelp();
     void wireSearches();
     void wirePages();
     void wireResults();

@@ -54,8 +54,8 @@ TEST_P(ToolIconsTest, LinesCanBeToldFromTheGround)
     ActiveToolBars bars(window);
     const QString bar = u"모음"_s;
     int drawn = 0;
-    for (const QStringView id : {u"ID_검색", u"ID_본문추출", u"ID_UnicodeCopy", u"ID_QuickMove"}) {
-        bars.add(ToolRow{id, id, ToolKind::Button, bar});
+    for (const QStringView id : {u"search", u"extract", u"copy-unicode", u"quick-move"}) {
+        bars.add(ToolRow{id, id, ToolKind::Button, bar, u"", id});
         setToolIcons(bars);
         const QImage image = bars.tool(id).action()->icon().pixmap(48).toImage();
         double least = 21;

@@ -4,6 +4,7 @@
 #include "forms/guarded.h"
 #include "forms/module_query.h"
 #include "forms/wait_pointer.h"
+#include "forms/window_opener.h"
 #include "text/field_scramble.h"
 #include "text/query_literal.h"
 
@@ -87,9 +88,7 @@ void dlog찬송가검색::layOut()
 
 void dlog찬송가검색::begin()
 {
-    show();
-    raise();
-    activateWindow();
+    raiseWindow(*this);
     tx검색어->setFocus();
     tx검색어->selectAll();
 }

@@ -3,6 +3,7 @@
 
 #include "canon/canon_table.h"
 #include "jet/data_control.h"
+#include "jet/transaction.h"
 
 #include <algorithm>
 #include <iterator>
@@ -75,16 +76,10 @@ std::vector<Note> PersonalNotes::load(const QString& chapter)
 void PersonalNotes::save(const QString& chapter, const std::vector<Note>& notes)
 {
     open(chapterQuery(chapter));
-    Database& database = *m_dacPersnote.Database();
-    database.BeginTrans();
-    try {
-        deleteAll(*m_dacPersnote.Recordset());
-        addAll(*m_dacPersnote.Recordset(), notes);
-        database.CommitTrans();
-    } catch (...) {
-        database.Rollback();
-        throw;
-    }
+    Transaction saving(*m_dacPersnote.Database());
+    deleteAll(*m_dacPersnote.Recordset());
+    addAll(*m_dacPersnote.Recordset(), notes);
+    saving.commit();
     m_dacPersnote.Refresh();
 }
 

@@ -113,9 +113,8 @@ bool OriginalTab::isComplete(const OriginalQuestion& question)
         m_services.messages.show(&m_window, messages::kNoFirstSearchText);
         return false;
     }
-    const MessageText& message = messages::kConditionMissing;
-    m_services.messages.show(&m_window, QString::fromUtf16(message.title),
-                             QString::fromUtf16(message.text).arg(*missing + 1), message.flags);
+    m_services.messages.show(&m_window, messages::kConditionMissing,
+                             {QString::number(*missing + 1)});
     return false;
 }
 

@@ -12,11 +12,11 @@ inline constexpr QStringView kStrongListBar = u"관주 도구 모음";
 // clang-format off
 /// The tools of the list of a Strong's number's verses.
 inline constexpr std::array kStrongListTools{
-    // id, caption, kind, bar or menu that it stands on, shortcut
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W"},
+    ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_편집", u"편집(&E)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C"},
+    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C", u"copy"},
     ToolRow{u"ID_Move", u"이동(&M)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_PreviousPage", u"이전 쪽(&P)", ToolKind::Button, u"ID_Move", u"Alt+PgUp"},
     ToolRow{u"ID_NextPage", u"다음 쪽(&N)", ToolKind::Button, u"ID_Move", u"Alt+PgDown"},

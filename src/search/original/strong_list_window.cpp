@@ -5,12 +5,13 @@
 #include "data/chapter_reader.h"
 #include "data/data_store.h"
 #include "data/module_path.h"
-#include "forms/edit_commands.h"
+#include "forms/edit_menu.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "forms/results/result_pages.h"
 #include "forms/tool_icons.h"
 #include "forms/wait_pointer.h"
+#include "forms/window_opener.h"
 #include "jet/engine.h"
 #include "platform/dialogs/message_boxes.h"
 #include "search/messages.h"
@@ -127,11 +128,7 @@ void frm스트롱관주목록::FillBibleIndex(const QString& language, const QSt
         return;
     }
     // In view first: the lines of Hebrew verses take the width of the column.
-    if (isMinimized())
-        showNormal();
-    show();
-    raise();
-    activateWindow();
+    raiseWindow(*this);
     if (m_version.tableName.isEmpty())
         chooseReadersVersion();
     fillPageCombo();

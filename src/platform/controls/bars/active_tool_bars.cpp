@@ -113,6 +113,7 @@ struct ActiveToolBars::Entry
     QString caption;
     QString place;
     QString shortcut;
+    QString icon;
     ToolKind kind = ToolKind::Button;
     ToolState state = ToolState::Ready;
     QAction* action = nullptr;
@@ -147,6 +148,7 @@ ActiveToolBars::Entry& ActiveToolBars::entryFor(const ToolRow& row)
     entry.caption = row.caption.toString();
     entry.place = row.place.toString();
     entry.shortcut = row.shortcut.toString();
+    entry.icon = row.icon.toString();
     entry.kind = row.kind;
     entry.state = row.state;
     if (row.kind == ToolKind::Menu)
@@ -320,8 +322,8 @@ std::vector<ToolRow> ActiveToolBars::rows() const
     std::vector<ToolRow> all;
     all.reserve(m_order.size());
     std::transform(m_order.begin(), m_order.end(), std::back_inserter(all), [](const Entry* entry) {
-        return ToolRow{entry->id,    entry->caption,  entry->kind,
-                       entry->place, entry->shortcut, entry->state};
+        return ToolRow{entry->id,       entry->caption, entry->kind, entry->place,
+                       entry->shortcut, entry->icon,    entry->state};
     });
     return all;
 }

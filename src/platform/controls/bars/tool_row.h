@@ -18,8 +18,8 @@ inline constexpr QStringView kMenuBar = u"메뉴 모음";
 inline constexpr QStringView kNowhere = u"";
 
 /// One tool in one place. The place is the caption of a bar, the id of a Menu, kMenuBar or
-/// kNowhere. Two rows with one id are one tool in two places; its caption, kind, shortcut and state
-/// are those of the first row.
+/// kNowhere. Two rows with one id are one tool in two places; its caption, kind, shortcut, icon and
+/// state are those of the first row.
 struct ToolRow
 {
     QStringView id;
@@ -27,6 +27,7 @@ struct ToolRow
     ToolKind kind = ToolKind::Button;
     QStringView place;
     QStringView shortcut = {}; ///< "Ctrl+F"
+    QStringView icon = {};     ///< the drawing's name, "" for a caption alone
     ToolState state = ToolState::Ready;
 };
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/edit_commands.h"
+#include "forms/edit_menu.h"
 
 #include "data/version_font.h"
 #include "platform/controls/bars/active_tool_bars.h"
+#include "platform/controls/bars/tool_dispatch.h"
 #include "platform/controls/grid/flex_grid.h"
 #include "platform/dialogs/clipboard.h"
 
@@ -114,6 +115,20 @@ bool offers(const EditState& state, EditCommand command)
 }
 
 } // namespace
+
+void bindEditMenu(ToolDispatch& tools, const EditToolIds& ids,
+                  const std::function<void(EditCommand command)>& run)
+{
+    const std::pair<QStringView, EditCommand> rows[] = {
+        {ids.cut, EditCommand::Cut},
+        {ids.copy, EditCommand::Copy},
+        {ids.paste, EditCommand::Paste},
+        {ids.remove, EditCommand::Delete},
+        {ids.selectAll, EditCommand::SelectAll},
+    };
+    for (const auto& [id, command] : rows)
+        tools.on(id, [run, command = command] { run(command); });
+}
 
 EditState editStateOf(const QWidget* control)
 {

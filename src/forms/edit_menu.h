@@ -3,12 +3,15 @@
 
 #include <QStringView>
 
+#include <functional>
+
 class QWidget;
 
 namespace lumen {
 
 class ActiveToolBars;
 class Clipboard;
+class ToolDispatch;
 
 enum class EditCommand { Cut, Copy, Paste, Delete, SelectAll };
 
@@ -33,6 +36,10 @@ struct EditToolIds
     QStringView remove = u"ID_지우기";
     QStringView selectAll = u"ID_전체선택";
 };
+
+/// Binds the five tools to `run`.
+void bindEditMenu(ToolDispatch& tools, const EditToolIds& ids,
+                  const std::function<void(EditCommand command)>& run);
 
 /// What a control takes: text boxes and combos with a text all five (cut, copy and delete with a
 /// selection only, paste with text on the clipboard), read-only views and grids copy and

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "forms/edit_commands.h"
+#include "forms/edit_menu.h"
 #include "platform/controls/bars/active_tool_bars.h"
 #include "platform/controls/grid/flex_grid.h"
 #include "platform/controls/text/text_control.h"

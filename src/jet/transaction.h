@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "jet/database.h"
+
+namespace lumen {
+
+/// One step on disk: what is written between here and commit() is there whole, or not at all when
+/// the block is left before.
+class Transaction
+{
+public:
+    explicit Transaction(Database& database) : m_database(database) { database.BeginTrans(); }
+    ~Transaction()
+    {
+        if (m_open)
+            m_database.Rollback();
+    }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    /// Throws JetError when the disk refuses; the block then undoes what was written.
+    void commit()
+    {
+        m_database.CommitTrans();
+        m_open = false;
+    }
+
+private:
+    Database& m_database;
+    bool m_open = true;
+};
+
+} // namespace lumen
