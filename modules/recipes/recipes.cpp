@@ -7,6 +7,7 @@
 #include "sources/psalm_titles.h"
 #include "sources/text_mending.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -136,7 +137,9 @@ SourceFolders installedFolders()
 {
     return {u"/usr/share/sword"_s, u"/usr/share/bibledit"_s,
             QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
-                u"/lumenscript/npm"_s};
+                u"/lumenscript/npm"_s,
+            QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                            u"/../share/lumenscript/content"_s)};
 }
 
 std::vector<VersionTask> installedTasks(const SourceFolders& folders, Renumbering renumbering)

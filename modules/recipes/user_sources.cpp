@@ -39,6 +39,9 @@ constexpr std::array kSwordNames{
     SwordName{u"Swe1917", 225}, SwordName{u"Brenton", 228},    SwordName{u"ChiUns", 401},
 };
 
+// Tables that reference modules are made of; a file is known by its name.
+constexpr std::array kTableNames{QStringView(u"hymns.tsv"), QStringView(u"tunes.tsv")};
+
 class FolderSearch
 {
 public:
@@ -60,6 +63,7 @@ private:
     bool visitJson(const QString& folder, const QStringList& files);
     bool visitUsfm(const QString& folder, const QStringList& files);
     bool visitOsis(const QString& file);
+    bool visitTable(const QString& file);
     bool visitSword(const QString& confFile);
     bool readCode(const QString& path, UserSource& source) const;
     void add(const QString& path, UserSource source, KnownBy knownBy);
@@ -116,6 +120,8 @@ bool FolderSearch::visit(const QString& folder, const QStringList& files)
     found = visitUsfm(folder, endingWith(files, {u".usfm", u".sfm"})) || found;
     for (const QString& file : endingWith(files, {u".xml", u".osis"}))
         found = visitOsis(file) || found;
+    for (const QString& file : endingWith(files, {u".tsv"}))
+        found = visitTable(file) || found;
     for (const QString& file : endingWith(files, {u".csv"}))
         if (looksLikeByzantine(file)) {
             m_sources.byzantineFiles << file;
@@ -180,6 +186,18 @@ bool FolderSearch::visitOsis(const QString& file)
     UserSource source{0, {}, {SourceFormat::Osis, {file}, {}}};
     readCode(file, source);
     add(file, source, KnownBy::Name);
+    return true;
+}
+
+bool FolderSearch::visitTable(const QString& file)
+{
+    const QString name = QFileInfo(file).fileName().toLower();
+    if (std::ranges::find(kTableNames, name) == kTableNames.end())
+        return false;
+    const auto [known, added] = m_sources.tables.emplace(name, file);
+    if (!added)
+        m_sources.remarks << u"%1이 둘입니다. 쓰는 것: %2, 쓰지 않는 것: %3"_s.arg(
+            name, known->second, file);
     return true;
 }
 

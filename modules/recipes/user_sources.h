@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <vector>
 
 namespace lumen {
@@ -22,7 +23,9 @@ struct UserSources
 {
     std::vector<UserSource> found;
     QStringList byzantineFiles; ///< tables of the Byzantine Greek text, a book a file
-    QStringList remarks;        ///< Korean lines on what has no place
+    /// Tables for the modules that are no versions, by their names: "hymns.tsv".
+    std::map<QString, QString> tables;
+    QStringList remarks; ///< Korean lines on what has no place
 };
 
 /// Looks through a folder and all below it for Bibles: JSON files a book, USFM files, OSIS files,
