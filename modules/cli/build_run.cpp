@@ -130,7 +130,9 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     for (const auto& [code, task] : tasks)
         if (isWanted(options, code))
             plan.tasks.push_back(std::make_unique<VersionTask>(task));
-    for (const ReferenceTask& task : referenceTasks(*plan.corpus, installedReferences(folders)))
+    ReferenceSources references = installedReferences(folders);
+    plan.remarks << takeOwnTables(user.tables, references);
+    for (const ReferenceTask& task : referenceTasks(*plan.corpus, references))
         if (isWanted(options, task.file))
             plan.tasks.push_back(std::make_unique<ReferenceTask>(task));
     return plan;

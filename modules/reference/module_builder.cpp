@@ -25,10 +25,18 @@ void takeFailure(const Failure& failure, ModuleOutcome& outcome)
     outcome.problem = failure.detail;
 }
 
-void makeModule(const ModuleTask& task, const QString& file, const BuildAdvance& advance,
+bool isUpToDate(const ModuleTask& task, const QString& folder)
+{
+    const QString file = moduleFile(folder, task);
+    const QString stored = storedStamp(file);
+    return task.isCurrent(stored) && task.companionsAreThere(folder, stored) && moduleIsSound(file);
+}
+
+void makeModule(const ModuleTask& task, const QString& folder, const BuildAdvance& advance,
                 const BuildMode& mode, ModuleOutcome& outcome)
 {
-    if (!mode.force && task.isCurrent(storedStamp(file)) && moduleIsSound(file)) {
+    const QString file = moduleFile(folder, task);
+    if (!mode.force && isUpToDate(task, folder)) {
         outcome.state = ModuleState::UpToDate;
         return;
     }
@@ -74,7 +82,7 @@ ModuleOutcome buildModule(const ModuleTask& task, const QString& folder,
     timer.start();
     try {
         if (advance(0))
-            makeModule(task, moduleFile(folder, task), advance, mode, outcome);
+            makeModule(task, folder, advance, mode, outcome);
         else
             outcome.state = ModuleState::Interrupted;
     } catch (const JetError& error) {

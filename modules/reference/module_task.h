@@ -50,6 +50,11 @@ public:
     virtual QString stamp() const = 0;
     /// Whether a module with this stored stamp needs no making.
     virtual bool isCurrent(const QString& stored) const { return stored == stamp(); }
+    /// Whether the files are there that go with the current module of this stamp in a folder.
+    virtual bool companionsAreThere(const QString& /*folder*/, const QString& /*stored*/) const
+    {
+        return true;
+    }
     /// Fills the tables. Cancelled when the store says so; what the report holds is told as well
     /// when the module is refused.
     virtual Result<Done> build(const BuildContext& context, ModuleStore& store,

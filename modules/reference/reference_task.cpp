@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QChar kEnrichmentMark = u'+';
+constexpr QStringView kOwnMark = u"own:"; // begins the stamp
 
 } // namespace
 
@@ -30,6 +31,8 @@ QString ReferenceTask::stamp() const
     const QString rules = u"%1\n%2\n%3\n"_s.arg(kBuilderVersion).arg(file, origin) +
                           sourceStamp({SourceFormat::Usfm, sources, {}});
     QString stamp = stampOf(rules) + kEnrichmentMark;
+    if (supply == Supply::Own)
+        stamp.prepend(kOwnMark);
     if (!enrichment.isEmpty())
         stamp += stampOf(sourceStamp({SourceFormat::Usfm, enrichment, {}}));
     return stamp;
@@ -37,10 +40,22 @@ QString ReferenceTask::stamp() const
 
 bool ReferenceTask::isCurrent(const QString& stored) const
 {
+    if (isLeftToUser(stored))
+        return true;
     return enrichment.isEmpty() ? stored.startsWith(stamp()) : stored == stamp();
 }
 
-Result<Done> ReferenceTask::build(const BuildContext& /*context*/, ModuleStore& store,
+bool ReferenceTask::companionsAreThere(const QString& folder, const QString& stored) const
+{
+    return isLeftToUser(stored) || !companions.areThere || companions.areThere(folder);
+}
+
+bool ReferenceTask::isLeftToUser(const QString& stored) const
+{
+    return supply == Supply::Installed && stored.startsWith(kOwnMark);
+}
+
+Result<Done> ReferenceTask::build(const BuildContext& context, ModuleStore& store,
                                   ModuleReport& report) const
 {
     auto filled = fill(store);
@@ -49,6 +64,12 @@ Result<Done> ReferenceTask::build(const BuildContext& /*context*/, ModuleStore& 
     report = std::move(filled.value());
     report.facts.prepend(QLocale(QLocale::Korean).toString(static_cast<int>(store.rows())) +
                          u"행"_s);
+    if (!companions.write)
+        return Done{};
+    const auto written = companions.write(QFileInfo(context.former).path());
+    if (!written)
+        return written.failure();
+    report.details << written.value();
     return Done{};
 }
 

@@ -276,8 +276,8 @@ void Hymnal::play()
 {
     // A number that was typed is shown first, so that the tune is that of the hymn in view.
     showTyped();
-    const QString tune =
-        joinedPath(m_host.state.AppPath, u"\\Hymn\\%1.mid"_s.arg(Trim(tx찬송가장->text())));
+    const QString tune = modulePath(m_host.services.files, m_host.state,
+                                    u"\\Hymn\\%1.mid"_s.arg(Trim(tx찬송가장->text())));
     const Result<Done> opened = m_host.services.shell.open(tune);
     if (!opened)
         m_host.services.messages.show(m_page,
