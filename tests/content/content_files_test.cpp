@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "canon/canon_table.h"
 #include "canon/verse_index.h"
+#include "sources/user_table.h"
 #include "sources/versification.h"
 #include "text/codepage949.h"
 
@@ -10,6 +11,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
+
+#include <map>
 
 // The files under content/: their form, not their prose.
 
@@ -158,6 +161,42 @@ TEST(Content, EveryBookHasItsIntroduction)
         QFile page(folder.filePath(pages[book]));
         ASSERT_TRUE(page.open(QIODevice::ReadOnly));
         EXPECT_TRUE(QString::fromUtf8(page.readAll()).contains(bookName(book)));
+    }
+}
+
+/// The lines of a table of hymns by the number in their first cell, each with its cells.
+std::map<int, std::vector<QStringList>> hymnTable(const QString& name, qsizetype columns)
+{
+    std::map<int, std::vector<QStringList>> byHymn;
+    const auto table = readUserTable(contentFile(name), {QStringList(columns), columns});
+    EXPECT_TRUE(table) << name.toStdString();
+    if (table)
+        for (const TableLine& line : table.value())
+            byHymn[line.cells[0].toInt()].push_back(line.cells);
+    return byHymn;
+}
+
+TEST(Content, HymnsAreSungToTheirTunes)
+{
+    static const QRegularExpression syllable(u"[가-힣]"_s);
+    static const QRegularExpression sungNote(u"(?<![^ ])[A-G]"_s); // "+" sings on
+    const auto hymns = hymnTable(u"hymns/hymns.tsv"_s, 8);
+    auto tunes = hymnTable(u"hymns/tunes.tsv"_s, 4);
+    EXPECT_EQ(hymns.size(), 12U);
+    EXPECT_EQ(tunes.size(), hymns.size());
+    for (const auto& [number, lines] : hymns) {
+        ASSERT_EQ(lines.size(), 1U) << number;
+        for (const QString& cell : lines.front().mid(1))
+            EXPECT_EQ(faultOf(cell), QString()) << cell.toStdString();
+        for (const QString& stanza : lines.front().last().split(u" // "_s)) {
+            SCOPED_TRACE(stanza.toStdString());
+            const QStringList sung = stanza.split(u" / "_s);
+            ASSERT_EQ(static_cast<std::size_t>(sung.size()), tunes[number].size());
+            for (qsizetype i = 0; i < sung.size(); ++i)
+                EXPECT_EQ(sung[i].count(syllable),
+                          tunes[number][static_cast<std::size_t>(i)].last().count(sungNote))
+                    << sung[i].toStdString();
+        }
     }
 }
 
