@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kMostJobs = 64;
+constexpr QChar kConcordanceMark = u'c'; // behind the version's code
 
 Failure misuse(const QString& text)
 {
@@ -35,10 +36,14 @@ Result<Done> takeOnly(const QString& text, BuildOptions& options)
             continue;
         }
         bool isNumber = false;
-        const int code = item.trimmed().toInt(&isNumber);
+        const bool isConcordance = item.trimmed().endsWith(kConcordanceMark);
+        const int code = item.trimmed().chopped(isConcordance ? 1 : 0).toInt(&isNumber);
         if (!isNumber || code < 101 || code > 999)
             return misuse(u"역본 번호나 모듈 이름이 아닙니다: %1"_s.arg(item));
-        options.only.insert(code);
+        if (isConcordance)
+            options.onlyFiles.insert(item.trimmed());
+        else
+            options.only.insert(code);
     }
     if (options.makesAll())
         return misuse(u"--only 뒤에 역본 번호가 없습니다."_s);
@@ -141,7 +146,7 @@ QString buildUsage()
 만들지 않습니다.
 
   --out 폴더       모듈을 둘 폴더. 주지 않으면 프로그램의 Data 폴더
-  --only 번호,...  이 역본과 모듈만 만듭니다. 예: --only 101,201,z101,CRef
+  --only 번호,...  이 역본과 모듈만 만듭니다. 예: --only 101,101c,201,z101
   --source 폴더    직접 가진 파일이 있는 폴더(--user도 같음). 개역한글의 JSON, USFM, OSIS, SWORD
                    모듈, 비잔틴 헬라어 본문의 CSV를 찾습니다. 폴더나 파일의 이름이 역본 번호로 시작하면 그 역본이 됩니다.
                    예: "214", "901 나의 역본"

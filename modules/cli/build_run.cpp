@@ -3,6 +3,7 @@
 
 #include "cli/build_progress.h"
 #include "cli/build_report.h"
+#include "recipes/concordance_task.h"
 #include "recipes/original_recipes.h"
 #include "recipes/reference_recipes.h"
 #include "recipes/user_sources.h"
@@ -22,6 +23,9 @@ namespace {
 
 constexpr int kKorean = 101;
 constexpr int kBaptist = 103;
+
+constexpr QStringView kNoVersionSource = u"--source나 --module로 원본을 지정해야 합니다.";
+constexpr QStringView kNoBaptistSource = u"--baptist와 개역한글의 원본이 있어야 합니다.";
 
 using TaskMap = std::map<int, VersionTask>;
 
@@ -67,20 +71,40 @@ bool isWanted(const BuildOptions& options, const QString& file)
     return options.makesAll() || options.onlyFiles.contains(file);
 }
 
+ModuleOutcome withoutSource(const QString& file, const QString& name, const QString& problem)
+{
+    ModuleOutcome outcome;
+    outcome.file = file;
+    outcome.name = name;
+    outcome.state = ModuleState::SourceMissing;
+    outcome.problem = problem;
+    return outcome;
+}
+
 // A module that was asked for by its number and has no source is told, not passed over.
 void refuseWithoutSource(const BuildOptions& options, const TaskMap& tasks, BuildPlan& plan)
 {
     for (const int code : options.only) {
         if (tasks.contains(code))
             continue;
-        ModuleOutcome outcome;
-        outcome.file = QString::number(code);
-        outcome.name = catalogueName(code);
-        outcome.state = ModuleState::SourceMissing;
-        outcome.problem = code == kBaptist ? u"--baptist와 개역한글의 원본이 있어야 합니다."_s
-                                           : u"--source나 --module로 원본을 지정해야 합니다."_s;
-        plan.refused.push_back(std::move(outcome));
+        plan.refused.push_back(
+            withoutSource(QString::number(code), catalogueName(code),
+                          (code == kBaptist ? kNoBaptistSource : kNoVersionSource).toString()));
     }
+}
+
+void addConcordances(const BuildOptions& options, const TaskMap& tasks, BuildPlan& plan)
+{
+    QSet<QString> asked = options.onlyFiles;
+    for (const auto& [code, task] : tasks) {
+        ConcordanceTask words(task);
+        const bool named = asked.remove(words.file);
+        if (named || (options.makesAll() && !isMadeOnRequest(code)))
+            plan.tasks.push_back(std::make_unique<ConcordanceTask>(std::move(words)));
+    }
+    for (const QString& file : asked)
+        if (referenceFile(file).isEmpty())
+            plan.refused.push_back(withoutSource(file, u"성구사전"_s, kNoVersionSource.toString()));
 }
 
 Result<BuildPlan> planOneModule(const BuildOptions& options, const SourceFolders& folders)
@@ -127,9 +151,13 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     if (options.baptist && tasks.contains(kKorean))
         tasks[kBaptist] = baptistTask(tasks[kKorean]);
     refuseWithoutSource(options, tasks, plan);
+    // Version and concordance are made of one reading.
+    for (auto& [code, task] : tasks)
+        task.shareText();
     for (const auto& [code, task] : tasks)
         if (isWanted(options, code))
             plan.tasks.push_back(std::make_unique<VersionTask>(task));
+    addConcordances(options, tasks, plan);
     ReferenceSources references = installedReferences(folders);
     plan.remarks << takeOwnTables(user.tables, references);
     for (const ReferenceTask& task : referenceTasks(*plan.corpus, references))

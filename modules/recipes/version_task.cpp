@@ -12,6 +12,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <mutex>
 
 namespace lumen {
 
@@ -110,6 +111,13 @@ QString refusal(const QStringList& losses, const QString& former)
 
 } // namespace
 
+/// The text of a task and of its copies, once it was read.
+struct VersionTask::HeldText
+{
+    std::mutex mutex;
+    std::shared_ptr<const VersionResult> text;
+};
+
 void VersionTask::setCode(int code)
 {
     m_code = code;
@@ -128,7 +136,22 @@ QString VersionTask::stamp() const
         sourceStamp(source));
 }
 
-VersionResult VersionTask::preparedText() const
+void VersionTask::shareText()
+{
+    m_shared = std::make_shared<HeldText>();
+}
+
+std::shared_ptr<const VersionResult> VersionTask::text() const
+{
+    if (!m_shared)
+        return std::make_shared<const VersionResult>(readText());
+    const std::scoped_lock lock(m_shared->mutex);
+    if (!m_shared->text)
+        m_shared->text = std::make_shared<const VersionResult>(readText());
+    return m_shared->text;
+}
+
+VersionResult VersionTask::readText() const
 {
     VersionResult read = reader ? reader() : readSource(source);
     if (!read)
@@ -148,15 +171,16 @@ VersionResult VersionTask::preparedText() const
 Result<Done> VersionTask::build(const BuildContext& context, ModuleStore& store,
                                 ModuleReport& report) const
 {
-    const VersionResult version = preparedText();
-    if (!version)
-        return version.failure();
-    report = reportOf(version.value(), numbering);
-    const QStringList losses = lossesOf(version.value(), *this, context.former);
+    const auto read = text();
+    if (!read->ok())
+        return read->failure();
+    const VersionText& version = read->value();
+    report = reportOf(version, numbering);
+    const QStringList losses = lossesOf(version, *this, context.former);
     report.details << losses;
     if (!losses.isEmpty() && !context.mode.acceptLosses)
         return Failure{FailureKind::Damaged, refusal(losses, context.former)};
-    return writeVersion(store, name, version.value());
+    return writeVersion(store, name, version);
 }
 
 Result<Done> writeVersion(ModuleStore& store, const QString& table, const VersionText& version)

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace lumen {
@@ -37,14 +38,22 @@ public:
 
     bool sourcesAreThere() const override;
     QString stamp() const override;
+    /// The text, mended and in the canon's order, or why there is none.
+    std::shared_ptr<const VersionResult> text() const;
+    /// From now on this task and its copies read the text once, all together. Nothing that the
+    /// text depends on may be changed any more.
+    void shareText();
     /// A text that has lost words is refused unless the user accepts it.
     Result<Done> build(const BuildContext& context, ModuleStore& store,
                        ModuleReport& report) const override;
 
 private:
-    VersionResult preparedText() const;
+    struct HeldText;
+
+    VersionResult readText() const;
 
     int m_code = 0;
+    std::shared_ptr<HeldText> m_shared;
 };
 
 /// The table of a version: one row a verse in canon order with its keys, testament and group; the

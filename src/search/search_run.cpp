@@ -189,8 +189,11 @@ void frm성서검색::showPages()
         for (const QString& label : m_model.pageLabels())
             mover->pages->AddItem(label);
     }
-    easy->cb검색->Clear();
-    for (const QString& text : m_model.history())
+    // A list that is filled anew lays the window out anew.
+    const QStringList& history = m_model.history();
+    if (history.size() < easy->cb검색->ListCount())
+        easy->cb검색->Clear();
+    for (const QString& text : history.sliced(easy->cb검색->ListCount()))
         easy->cb검색->AddItem(text);
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "data/concordance_word.h"
 #include "panel/lookup/concordance.h"
 #include "panel/panel_fixture.h"
 #include "text/codepage949.h"

@@ -2,6 +2,7 @@
 #include "panel/lookup/concordance.h"
 
 #include "data/chapter_reader.h"
+#include "data/concordance_word.h"
 #include "data/data_store.h"
 #include "data/module_path.h"
 #include "data/version_lists.h"

@@ -8,10 +8,6 @@
 
 namespace lumen {
 
-/// A typed word as the index of a version has it: without the signs that no index holds. In the
-/// mixed script (102) a word in brackets takes the place of as many characters before it.
-QString cleanedConcordanceWord(const QString& word, int code);
-
 /// The query for the words that begin with `word` or, `within`, hold it. `word` is cleaned.
 QString concordanceQuery(const QString& word, bool within);
 

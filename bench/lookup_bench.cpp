@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The lookups of the reference panel from Enter to the filled list, over the modules in the folder
+// that LUMENSCRIPT_MODULES names; without it nothing is measured. Beside the concordance stands the
+// plain look: its words in memory, unscrambled already, each tried for its beginning.
+#include "data/check_data.h"
+#include "data/versions.h"
+#include "jet/engine.h"
+#include "jet/rows/recordset.h"
+#include "panel/lookup/concordance.h"
+#include "support/fake_reader.h"
+#include "support/test_services.h"
+#include "text/field_scramble.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+/// The tab over a concordance of the folder.
+struct Lookup
+{
+    explicit Lookup(int code)
+    {
+        const QDir modules(qEnvironmentVariable("LUMENSCRIPT_MODULES"));
+        for (const QString& file : {u"%1.dts"_s.arg(code), u"%1c.dts"_s.arg(code)})
+            there = QFile::link(modules.filePath(file), test.folders.data(file)) &&
+                    QFile::exists(modules.filePath(file));
+        CheckData(test.state, test.files, test.jet);
+        reader.codes = {code};
+        tab.emplace(PanelHost{.services = test.services,
+                              .state = test.state,
+                              .reader = reader,
+                              .dacRefTab = dacRefTab});
+        tab->setStatus = [](const QString&) {};
+        tab->page()->resize(900, 400);
+        tab->page()->show();
+        tab->enter();
+    }
+
+    TestServices test;
+    FakeReader reader;
+    DataControl dacRefTab{test.jet};
+    std::optional<Concordance> tab;
+    bool there = false;
+};
+
+void lookUp(benchmark::State& state, int code, const QString& word)
+{
+    Lookup lookup(code);
+    if (!lookup.there) {
+        state.SkipWithError("no modules");
+        return;
+    }
+    for (auto _ : state) {
+        QString asked = word;
+        lookup.tab->Proc성구사전검색(asked);
+        lookup.tab->flex성구결과->repaint();
+    }
+    state.counters["words"] = lookup.tab->flex성구결과->Rows();
+}
+
+void plainLook(benchmark::State& state, int code, const QString& word)
+{
+    Lookup lookup(code);
+    if (!lookup.there) {
+        state.SkipWithError("no modules");
+        return;
+    }
+    const auto module =
+        lookup.test.jet.OpenDatabase(lookup.test.folders.data(u"%1c.dts"_s.arg(code)), false, true,
+                                     u";uid=admin;pwd=qolvetrinam"_s);
+    QStringList words;
+    for (const QString& stored :
+         module->OpenRecordset(u"select Word from 성구사전"_s)->columnTexts(u"Word"))
+        words << DES::UnscrambleField(stored);
+    for (auto _ : state) {
+        qsizetype found = 0;
+        for (const QString& one : words)
+            found += one.startsWith(word) ? 1 : 0;
+        benchmark::DoNotOptimize(found);
+    }
+}
+
+BENCHMARK_CAPTURE(lookUp, Hebrew, 301, u"ha"_s)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plainLook, Hebrew, 301, u"ha"_s)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(lookUp, Spanish, 223, u"de"_s)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plainLook, Spanish, 223, u"de"_s)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(lookUp, Korean, 101, u"하나"_s)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(plainLook, Korean, 101, u"하나"_s)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace lumen
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
