@@ -41,7 +41,6 @@ protected:
     void type(const QString& number)
     {
         tab->tx찬송가장->setFocus();
-        tab->tx찬송가장->selectAll();
         QTest::keyClicks(tab->tx찬송가장, number);
         QTest::keyClick(tab->tx찬송가장, Qt::Key_Return);
     }
@@ -221,6 +220,7 @@ TEST_F(HymnalTest, AFoundHymnComesOnShowAndTheSearchStaysOpen)
     EXPECT_EQ(shown(), u"12 열두째 노래"_s);
     EXPECT_TRUE(tab->page()->isVisible());
     EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.lst검색결과->ListIndex(), 1) << "Enter searches anew only in the word's box";
     EXPECT_EQ(&search(), &dialog) << "one search, also when it is asked for again";
     tab->close();
     EXPECT_FALSE(dialog.isVisible());

@@ -187,8 +187,10 @@ void ListBox::keyPressEvent(QKeyEvent* event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (currentRow() != before)
         clicked();
-    else if (enter && before >= 0 && onDblClick)
+    else if (enter && before >= 0 && onDblClick) {
+        event->accept(); // or a dialog's default button would take it as well
         onDblClick();
+    }
 }
 
 void ListBox::keyReleaseEvent(QKeyEvent* event)
