@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize kDesignSize(420, 400); // pixels
+constexpr QSize kDesignSize(380, 320); // pixels
 
 struct SearchField
 {
@@ -83,7 +83,7 @@ void dlog찬송가검색::layOut()
     layout->addLayout(foot);
     setTabOrder(tx검색어, fieldCombo);
     setTabOrder(fieldCombo, cmd검색);
-    resize(kDesignSize);
+    resize(kDesignSize.boundedTo(parentWidget()->size()));
 }
 
 void dlog찬송가검색::begin()

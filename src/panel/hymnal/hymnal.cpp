@@ -234,6 +234,7 @@ bool Hymnal::showRecord(int number)
                  {tx분류, u"Category"}};
     for (const auto& [box, field] : boxes) {
         box->setText(plain(field));
+        box->setToolTip(box->text()); // the panel may be too narrow for it
         box->setCursorPosition(0);
     }
     lst관련찬송->AddItems(hymnItems(plain(u"SongRef")));
@@ -254,14 +255,17 @@ std::optional<int> Hymnal::nextNumber(int number, Towards towards)
 void Hymnal::setNumber(int number)
 {
     tx찬송가장->setText(QString::number(number));
+    tx찬송가장->selectAll(); // the next number that is typed takes its place
     const QSignalBlocker quiet(updn찬송가);
     updn찬송가->setNumber(number);
 }
 
 void Hymnal::clear()
 {
-    for (QLineEdit* field : {tx찬송가제목, tx작사, tx작곡, tx분류})
+    for (QLineEdit* field : {tx찬송가제목, tx작사, tx작곡, tx분류}) {
         field->clear();
+        field->setToolTip({});
+    }
     lst관련찬송->Clear();
     lst관련성구->Clear();
 }
