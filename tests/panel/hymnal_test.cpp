@@ -31,13 +31,14 @@ protected:
                     {ModuleTable{{u"Hymm"_s, columns, {}}, rows}});
         open();
     }
-    void openThree()
+    static QList<QVariantList> threeHymns()
     {
-        openWith({hymn(2, u"둘째 노래"_s, u"강가에 앉아"_s, u"Jizo"_s, u"12; 558"_s,
-                       u"시46:1-7;요한3:16;요3:16"_s),
-                  hymn(12, u"열두째 노래"_s, u"it's 100% *"_s),
-                  hymn(558, u"끝 노래"_s, QString(), u"없는 이"_s)});
+        return {hymn(2, u"둘째 노래"_s, u"강가에 앉아"_s, u"Jizo"_s, u"12; 558"_s,
+                     u"시46:3-7;요한3:16;시23"_s),
+                hymn(12, u"열두째 노래"_s, u"it's 100% *"_s),
+                hymn(558, u"끝 노래"_s, QString(), u"없는 이"_s)};
     }
+    void openThree() { openWith(threeHymns()); }
     void type(const QString& number)
     {
         tab->tx찬송가장->setFocus();
@@ -66,7 +67,7 @@ protected:
 
 TEST_F(HymnalTest, ANumberShowsItsHymnOrTheNearestOne)
 {
-    openThree();
+    openWith(threeHymns() << hymn(559, u"밖의 노래"_s, u"밖"_s));
     EXPECT_EQ(shown(), u"2 둘째 노래"_s) << "1 is none";
     EXPECT_EQ(tab->tx작사->text() + tab->tx작곡->text() + tab->tx분류->text(), u"Jizo분류 하나"_s);
     const struct
@@ -101,6 +102,9 @@ TEST_F(HymnalTest, TheArrowsPassNumbersThatTheHymnalLacks)
     EXPECT_EQ(shown(), u"558 "_s) << "the last one stays";
     key(Qt::Key_Down);
     EXPECT_EQ(shown(), u"12 열두째 노래"_s);
+    QTest::keyClicks(tab->tx찬송가장, u"3"_s); // they go on from what is typed
+    key(Qt::Key_Down);
+    EXPECT_EQ(shown(), u"2 둘째 노래"_s);
 }
 
 TEST_F(HymnalTest, AHymnIsAskedForOnceAndNoVerseAsksForIt)
@@ -120,14 +124,15 @@ TEST_F(HymnalTest, RelatedHymnsAndVersesAreOpened)
 {
     openThree();
     EXPECT_EQ(items(*tab->lst관련찬송), (QStringList{u"12 장"_s, u"558 장"_s}));
-    EXPECT_EQ(items(*tab->lst관련성구), (QStringList{u"시46:1-7"_s, u"요한3:16"_s, u"요3:16"_s}));
-    openItem(*tab->lst관련성구, 2);
-    EXPECT_EQ(reader.bookNumber, 42);
-    EXPECT_EQ(reader.range, u"16"_s);
-    openItem(*tab->lst관련성구, 1); // no book of that name
-    EXPECT_EQ(reader.bookNumber, 42);
+    EXPECT_EQ(items(*tab->lst관련성구), (QStringList{u"시46:3-7"_s, u"요한3:16"_s, u"시23"_s}));
     openItem(*tab->lst관련성구, 0);
     EXPECT_EQ(reader.chapter(), 46);
+    EXPECT_EQ(reader.range, u"3"_s);
+    openItem(*tab->lst관련성구, 1); // no book of that name
+    EXPECT_EQ(reader.chapter(), 46);
+    openItem(*tab->lst관련성구, 2);
+    EXPECT_EQ(reader.chapter(), 23);
+    EXPECT_EQ(reader.range, u"1"_s);
     openItem(*tab->lst관련찬송, 0);
     EXPECT_EQ(shown(), u"12 열두째 노래"_s);
     EXPECT_EQ(tab->lst관련찬송->ListCount() + tab->lst관련성구->ListCount(), 0);

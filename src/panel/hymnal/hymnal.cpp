@@ -64,14 +64,15 @@ QStringList verseItems(const QString& text)
     return itemsOf(text, u"[;\r\n]"_s);
 }
 
-// A text that names no chapter would lead to Genesis.
+// A text that names no chapter would lead to Genesis; a chapter alone is its first verse.
 std::optional<VersePlace> placeOf(const QString& item)
 {
-    const QString reference = QString(item).remove(u' ');
-    VersePlace place = BibleCode::ParseRef(reference);
-    if (!reference.startsWith(bookAbbreviation(place.book) + QString::number(place.chapter)))
+    QString reference = QString(item).remove(u' ');
+    if (!reference.contains(u':'))
+        reference += u":1"_s;
+    const VersePlace place = BibleCode::ParseRef(reference);
+    if (!reference.startsWith(bookAbbreviation(place.book) + QString::number(place.chapter) + u':'))
         return {};
-    place.verse = std::max(place.verse, 1);
     return place;
 }
 
