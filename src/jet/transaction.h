@@ -2,6 +2,8 @@
 #pragma once
 
 #include "jet/database.h"
+#include "jet/error.h"
+#include "platform/log.h"
 
 namespace lumen {
 
@@ -13,8 +15,14 @@ public:
     explicit Transaction(Database& database) : m_database(database) { database.BeginTrans(); }
     ~Transaction()
     {
-        if (m_open)
+        if (!m_open)
+            return;
+        try {
             m_database.Rollback();
+        } catch (const JetError& error) {
+            // A database closed within the block has undone its writes itself.
+            qCWarning(jetLog) << "rollback failed:" << error.text();
+        }
     }
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;

@@ -3,6 +3,7 @@
 #include "jet/engine.h"
 #include "jet/engine_fixture.h"
 #include "jet/sqlite_probe.h"
+#include "jet/transaction.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -215,16 +216,23 @@ TEST_F(JetEngineTest, AHandlerThatFailsLeavesTheOldRows)
     EXPECT_EQ(database->OpenRecordset(u"myc"_s)->RecordCount(), 3);
     EXPECT_EQ(errorOf([&] { database->CommitTrans(); }), 3001);
 
-    database->BeginTrans();
+    Transaction kept(*database);
     EXPECT_EQ(errorOf([&] { database->BeginTrans(); }), 3001);
     database->Execute(u"delete from myc where index = '1'"_s);
     addNote(*database->OpenRecordset(u"myc"_s), u"new"_s);
-    database->CommitTrans();
+    kept.commit();
     EXPECT_EQ(onDisk(u"myc.mdb"_s), (QStringList{u"2"_s, u"3"_s, u"new"_s}));
 
-    database->BeginTrans();
-    database->Execute(u"delete from myc"_s);
-    database->Close();
+    {
+        const Transaction left(*database);
+        database->Execute(u"delete from myc"_s);
+    }
+    EXPECT_EQ(database->OpenRecordset(u"myc"_s)->RecordCount(), 3);
+    {
+        const Transaction closed(*database);
+        database->Execute(u"delete from myc"_s);
+        database->Close();
+    }
     EXPECT_EQ(onDisk(u"myc.mdb"_s).size(), 3);
 }
 
