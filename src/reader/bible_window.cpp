@@ -167,14 +167,12 @@ void frm성서::wireTextView()
 
 void frm성서::wireTableView()
 {
-    hflex본문->onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
+    // What the menu behind the right button does is done to the row that is marked here.
+    hflex본문->onMouseUp = [this](Qt::MouseButton, const QPoint& position) {
         if (const int row = hflex본문->rowAtPoint(position); row >= 1) {
             m_views.markRow(row);
             reportStand();
         }
-        // Behind the mark: what the menu does is done to the row under the pointer.
-        if (button == Qt::RightButton)
-            atbar.popUp(u"ID_편집", hflex본문->viewport()->mapToGlobal(position));
     };
     hflex본문->onKeyUp = [this](int) {
         m_views.markRow(hflex본문->RowSel());

@@ -176,10 +176,6 @@ void frm성서검색::wireResults()
     hflex결과->onResizeEnded = [this] { m_results.divideAnew(); };
     hflex결과->onCopy = [this] { edit(EditCommand::Copy); };
     hflex결과->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
-    hflex결과->onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
-        if (button == Qt::RightButton)
-            atbar.popUp(u"ID_편집", hflex결과->viewport()->mapToGlobal(position));
-    };
     hflex결과->highlight = [this](int row, int col, const QString& text) {
         const bool marked = m_settings.MarkHits && row > 0 && col == ResultGrid::kTextColumn;
         return marked ? m_model.foundWords().ranges(text) : QList<TextRange>();

@@ -194,9 +194,14 @@ TEST_F(FlexGridTest, TheRightButtonKeepsARangeItHits)
         up = button;
         row = grid.rowAtPoint(position);
     };
+    QPoint menu;
+    grid.onContextMenu = [&](const QPoint& at) {
+        EXPECT_EQ(up, Qt::RightButton) << "the row under the pointer is marked first";
+        menu = grid.viewport()->mapFromGlobal(at);
+    };
     QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, middleOf(3, 2));
-    EXPECT_EQ(up, Qt::RightButton);
     EXPECT_EQ(row, 3);
+    EXPECT_EQ(menu, middleOf(3, 2));
     EXPECT_EQ(grid.Row(), 2);
     EXPECT_EQ(grid.RowSel(), 4);
 }

@@ -141,9 +141,8 @@ WordAnalysis::WordAnalysis(Services& services, const AppState& state, WordAnalys
             wordChosen();
     };
     grid.onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
-        if (button != Qt::LeftButton)
-            popUpEditMenu(m_host.grid.viewport()->mapToGlobal(position));
-        else if (m_host.grid.rowAtPoint(position) >= 0 && m_host.grid.colAtPoint(position) > 0)
+        if (button == Qt::LeftButton && m_host.grid.rowAtPoint(position) >= 0 &&
+            m_host.grid.colAtPoint(position) > 0)
             wordChosen();
     };
     grid.onContextMenu = [this](const QPoint& at) { popUpEditMenu(at); };

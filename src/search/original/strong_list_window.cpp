@@ -102,10 +102,6 @@ void frm스트롱관주목록::wire()
     flex결과->onClick = [this] { openRow(); };
     flex결과->onEnter = [this] { openRow(); };
     flex결과->onDblClick = [this](int, int) { m_reader.bringToFront(); };
-    flex결과->onMouseUp = [this](Qt::MouseButton button, const QPoint& position) {
-        if (button == Qt::RightButton)
-            atbar.popUp(u"ID_편집", flex결과->viewport()->mapToGlobal(position));
-    };
     flex결과->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
     flex결과->onResizeEnded = [this] { m_results.divideAnew(); };
 }

@@ -509,6 +509,8 @@ void FlexGrid::mouseReleaseEvent(QMouseEvent* event)
         onClick();
     if (onMouseUp)
         onMouseUp(button, position);
+    if (button == Qt::RightButton && onContextMenu)
+        onContextMenu(viewport()->mapToGlobal(position));
 }
 
 void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event)
@@ -547,6 +549,7 @@ void FlexGrid::keyReleaseEvent(QKeyEvent* event)
 
 void FlexGrid::contextMenuEvent(QContextMenuEvent* event)
 {
+    // The one of the button comes before its release has marked the row.
     if (event->reason() != QContextMenuEvent::Mouse && onContextMenu)
         onContextMenu(event->globalPos());
     else

@@ -135,7 +135,8 @@ public:
     std::function<void()> onSelChange;
     /// The copy key; without it nothing is copied.
     std::function<void()> onCopy;
-    /// The context menu was asked for by key; the position is global.
+    /// The context menu was asked for, by key or by the right button, then behind onMouseUp; the
+    /// position is global.
     std::function<void(const QPoint& position)> onContextMenu;
     /// Column widths have changed through the user or a resize, and that has come to rest.
     std::function<void()> onResizeEnded;
