@@ -11,12 +11,37 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
+#include <algorithm>
+#include <array>
+
 namespace lumen {
 namespace {
+
+struct EditRow
+{
+    EditCommand command;
+    QStringView EditToolIds::*id;
+    bool EditState::*offered;
+    QStringView caption;
+    QStringView shortcut = {};
+    QStringView icon = {};
+};
+
+// clang-format off
+constexpr std::array kRows{
+    EditRow{EditCommand::Cut, &EditToolIds::cut, &EditState::cut, u"잘라내기(&T)", u"Ctrl+X", u"cut"},
+    EditRow{EditCommand::Copy, &EditToolIds::copy, &EditState::copy, u"복사(&C)", u"Ctrl+C", u"copy"},
+    EditRow{EditCommand::CopyUnicode, &EditToolIds::copyUnicode, &EditState::copyUnicode, u"유니코드로 복사(&U)", u"Ctrl+Shift+C", u"copy-unicode"},
+    EditRow{EditCommand::Paste, &EditToolIds::paste, &EditState::paste, u"붙이기(&P)", u"Ctrl+V", u"paste"},
+    EditRow{EditCommand::Delete, &EditToolIds::remove, &EditState::remove, u"지우기(&D)"},
+    EditRow{EditCommand::SelectAll, &EditToolIds::selectAll, &EditState::selectAll, u"전체 선택(&A)", u"Ctrl+A"},
+};
+// clang-format on
 
 bool clipboardHasText()
 {
@@ -64,6 +89,8 @@ void runOnLine(EditCommand command, QLineEdit& line)
     case EditCommand::SelectAll:
         line.selectAll();
         break;
+    case EditCommand::CopyUnicode:
+        break;
     }
 }
 
@@ -86,6 +113,8 @@ void runOnText(EditCommand command, TextBox& box)
     case EditCommand::SelectAll:
         box.selectAll();
         break;
+    case EditCommand::CopyUnicode:
+        break;
     }
 }
 
@@ -99,35 +128,86 @@ void runOnGrid(EditCommand command, FlexGrid& grid, Clipboard& clipboard)
 
 bool offers(const EditState& state, EditCommand command)
 {
-    switch (command) {
-    case EditCommand::Cut:
-        return state.cut;
-    case EditCommand::Copy:
-        return state.copy;
-    case EditCommand::Paste:
-        return state.paste;
-    case EditCommand::Delete:
-        return state.remove;
-    case EditCommand::SelectAll:
-        return state.selectAll;
-    }
-    return false;
+    return state.*std::ranges::find(kRows, command, &EditRow::command)->offered;
+}
+
+void enableTools(const ActiveToolBars& bars, const EditToolIds& ids, const EditState& state)
+{
+    for (const EditRow& row : kRows)
+        if (!(ids.*row.id).isEmpty())
+            bars.tool(ids.*row.id).setEnabled(state.*row.offered);
 }
 
 } // namespace
 
-void bindEditMenu(ToolDispatch& tools, const EditToolIds& ids,
-                  const std::function<void(EditCommand command)>& run)
+std::vector<ToolRow> editMenuRows(const EditToolIds& ids)
 {
-    const std::pair<QStringView, EditCommand> rows[] = {
-        {ids.cut, EditCommand::Cut},
-        {ids.copy, EditCommand::Copy},
-        {ids.paste, EditCommand::Paste},
-        {ids.remove, EditCommand::Delete},
-        {ids.selectAll, EditCommand::SelectAll},
-    };
-    for (const auto& [id, command] : rows)
-        tools.on(id, [run, command = command] { run(command); });
+    std::vector<ToolRow> rows{{ids.menu, u"편집(&E)", ToolKind::Menu, kMenuBar}};
+    for (const EditRow& row : kRows) {
+        if ((ids.*row.id).isEmpty())
+            continue;
+        if (row.command == EditCommand::SelectAll)
+            rows.push_back({u"", u"", ToolKind::Separator, ids.menu});
+        rows.push_back(
+            {ids.*row.id, row.caption, ToolKind::Button, ids.menu, row.shortcut, row.icon});
+    }
+    return rows;
+}
+
+EditMenu::EditMenu(QWidget& window, ActiveToolBars& bars, Clipboard& clipboard,
+                   const EditToolIds& ids)
+    : m_window(window), m_bars(bars), m_clipboard(clipboard), m_ids(ids)
+{
+}
+
+void EditMenu::addRows()
+{
+    m_bars.add(editMenuRows(m_ids));
+}
+
+void EditMenu::bind(ToolDispatch& tools)
+{
+    tools.on(m_ids.menu, [this] { bringUpToDate(); });
+    for (const EditRow& row : kRows)
+        if (!(m_ids.*row.id).isEmpty())
+            tools.on(m_ids.*row.id, [this, command = row.command] { run(command); });
+    QObject::connect(m_bars.menu(m_ids.menu), &QMenu::aboutToHide, &m_window, [this] {
+        enableTools(m_bars, m_ids, {true, true, true, true, true, true});
+    });
+}
+
+void EditMenu::popUp(const QPoint& at) const
+{
+    m_bars.popUp(m_ids.menu, at);
+}
+
+void EditMenu::offerOn(FlexGrid& grid)
+{
+    grid.onContextMenu = [this](const QPoint& at) { popUp(at); };
+    grid.onCopy = [this] { run(EditCommand::Copy); };
+}
+
+void EditMenu::offerOn(QLineEdit& box)
+{
+    box.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&box, &QLineEdit::customContextMenuRequested, &m_window,
+                     [this, &box](const QPoint& at) { popUp(box.mapToGlobal(at)); });
+}
+
+void EditMenu::run(EditCommand command) const
+{
+    QWidget* const control = editTarget(m_window);
+    if (!onCommand || !onCommand(control, command))
+        runEditCommand(command, control, m_clipboard);
+}
+
+void EditMenu::bringUpToDate() const
+{
+    const QWidget* const control = editTarget(m_window);
+    EditState state = editStateOf(control);
+    if (onState)
+        onState(control, state);
+    enableTools(m_bars, m_ids, state);
 }
 
 EditState editStateOf(const QWidget* control)
@@ -143,15 +223,6 @@ EditState editStateOf(const QWidget* control)
     if (const auto* grid = qobject_cast<const FlexGrid*>(control))
         return gridState(*grid);
     return {};
-}
-
-void showEditState(const ActiveToolBars& bars, const EditState& state, const EditToolIds& ids)
-{
-    bars.tool(ids.cut).setEnabled(state.cut);
-    bars.tool(ids.copy).setEnabled(state.copy);
-    bars.tool(ids.paste).setEnabled(state.paste);
-    bars.tool(ids.remove).setEnabled(state.remove);
-    bars.tool(ids.selectAll).setEnabled(state.selectAll);
 }
 
 void runEditCommand(EditCommand command, QWidget* control, Clipboard& clipboard)

@@ -70,6 +70,8 @@ frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
 {
     setObjectName(u"frm성서"_s);
     setWindowTitle(u"루멘 스크립트"_s);
+    atbar.add(kReaderFileMenu);
+    m_editMenu.addRows();
     atbar.add(kReaderTools);
     atbar.add(kHelpMenu);
     atbar.add(kReaderHelpTools);
@@ -151,7 +153,7 @@ void frm성서::wireTextView()
     txCont->onKeyUp = [this](int, Qt::KeyboardModifiers) { reportStand(); };
     txCont->onContextMenu = [this](const QPoint& at) {
         reportStand(); // the button has moved the caret
-        atbar.popUp(u"ID_편집", at);
+        m_editMenu.popUp(at);
     };
     txCont->onSelectionChange = [this] {
         settle();
@@ -182,8 +184,7 @@ void frm성서::wireTableView()
         settle();
         guarded(m_services, this, [this] { panel->showSelection(); });
     };
-    hflex본문->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
-    hflex본문->onCopy = [this] { copySelection(OriginalText::FontCodes); };
+    m_editMenu.offerOn(*hflex본문);
     hflex본문->onResizeEnded = [this] {
         if (model.view() == ViewMode::Table && model.holdsHebrew())
             FillBibleText();
@@ -201,17 +202,16 @@ void frm성서::wirePanes()
     bookmarks->onChanged = [this] { Save책갈피(); };
     bookmarks->currentReference = [this] { return model.reference(); };
 
-    addPanelTabs(*panel,
-                 {.services = m_services,
-                  .state = m_state,
-                  .reader = model,
-                  .dacRefTab = m_dacRefTab,
-                  .baseModule = [this] { return model.baseModule(); },
-                  .openStrongList =
-                      [this](const QString& language, const QString& number) {
-                          m_windows.openStrongList(language, number);
-                      },
-                  .popUpEditMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); }});
+    addPanelTabs(*panel, {.services = m_services,
+                          .state = m_state,
+                          .reader = model,
+                          .dacRefTab = m_dacRefTab,
+                          .baseModule = [this] { return model.baseModule(); },
+                          .openStrongList =
+                              [this](const QString& language, const QString& number) {
+                                  m_windows.openStrongList(language, number);
+                              },
+                          .popUpEditMenu = [this](const QPoint& at) { m_editMenu.popUp(at); }});
     panel->onStatus = [this](const QString& text) { statusPanel1->setText(text); };
     panel->onLayout = [this] { layOutPanel(); };
     m_split->onMoved = [this] {

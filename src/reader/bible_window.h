@@ -17,6 +17,7 @@
 #include "reader/bookmarks/bookmark_pane.h"
 #include "reader/move/quick_move_pane.h"
 #include "reader/reader_model.h"
+#include "reader/reader_tools.h"
 #include "reader/views/chapter_views.h"
 
 #include <QLabel>
@@ -127,10 +128,8 @@ private:
     void setBarVisible(QStringView barTool, bool visible);
     void openPage(QStringView file);
     void copySelection(OriginalText originals);
-    bool copiesVerses() const;
-    void bringEditToolsUpToDate();
-    void enableEditTools();
-    void runEdit(EditCommand command);
+    bool holdsVerses(const QWidget* control) const;
+    bool editVerses(const QWidget* control, EditCommand command);
 
     void tellUnreadVersions();
 
@@ -141,6 +140,7 @@ private:
     ChapterViews m_views{*txCont, *hflex본문, model, m_settings, m_state};
     DataControl m_dacRefTab; ///< shared by the tabs of the panel, which point it anew
     BookmarkFile m_bookmarkFile;
+    EditMenu m_editMenu{*this, atbar, m_services.clipboard, kReaderEditTools};
     ToolDispatch m_tools;
     ToolDispatch m_combos;
     Splitter* m_split = named<Splitter>(u"RefBarSplit");

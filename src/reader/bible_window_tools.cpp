@@ -16,7 +16,6 @@
 #include "reader/reader_tools.h"
 
 #include <QActionGroup>
-#include <QMenu>
 #include <QToolBar>
 #include <QWheelEvent>
 
@@ -138,12 +137,14 @@ void frm성서::bindTools()
 
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_종료", [this] { close(); });
-    m_tools.on(u"ID_편집", [this] { bringEditToolsUpToDate(); });
-    // The menu alone shows what the focused control takes: a tool that stayed disabled behind it
-    // would be dead on its bar and by its key.
-    connect(atbar.menu(u"ID_편집"), &QMenu::aboutToHide, this, [this] { enableEditTools(); });
-    bindEditMenu(m_tools, {}, [this](EditCommand command) { runEdit(command); });
-    m_tools.on(u"ID_UnicodeCopy", [this] { copySelection(OriginalText::Unicode); });
+    m_editMenu.bind(m_tools);
+    m_editMenu.onState = [this](const QWidget* control, EditState& state) {
+        if (holdsVerses(control)) // without a selection the current verse is copied
+            state.copy = state.copyUnicode = state.selectAll;
+    };
+    m_editMenu.onCommand = [this](const QWidget* control, EditCommand command) {
+        return editVerses(control, command);
+    };
     for (int slot = 0; slot < kSlotCount; ++slot) {
         const auto at = static_cast<std::size_t>(slot);
         m_combos.on(kSlotCombos[at],
@@ -352,39 +353,31 @@ void frm성서::openHotMove(int book)
     chapters->openAt(corner);
 }
 
-bool frm성서::copiesVerses() const
+bool frm성서::holdsVerses(const QWidget* control) const
 {
-    const QWidget* const target = editTarget(*this);
-    return target == txCont || target == hflex본문;
+    return control == txCont || control == hflex본문;
 }
 
-void frm성서::bringEditToolsUpToDate()
+bool frm성서::editVerses(const QWidget* control, EditCommand command)
 {
-    EditState state = editStateOf(editTarget(*this));
-    if (copiesVerses())
-        state.copy = state.selectAll; // without a selection the current verse is copied
-    showEditState(atbar, state);
-    atbar.tool(u"ID_UnicodeCopy").setEnabled(copiesVerses() && state.copy);
-}
-
-void frm성서::enableEditTools()
-{
-    showEditState(atbar, {true, true, true, true, true});
-    atbar.tool(u"ID_UnicodeCopy").setEnabled(true);
-}
-
-void frm성서::runEdit(EditCommand command)
-{
-    if (command == EditCommand::Copy && copiesVerses())
-        copySelection(OriginalText::FontCodes);
-    else
-        runEditCommand(command, editTarget(*this), m_services.clipboard);
-    if (command == EditCommand::SelectAll && copiesVerses()) {
-        // No key or button of the view's own has told of the new place.
-        if (model.view() == ViewMode::Table)
-            m_views.markRow(hflex본문->RowSel());
-        reportStand();
+    if (command == EditCommand::CopyUnicode) {
+        copySelection(OriginalText::Unicode);
+        return true;
     }
+    if (!holdsVerses(control))
+        return false;
+    if (command == EditCommand::Copy) {
+        copySelection(OriginalText::FontCodes);
+        return true;
+    }
+    if (command != EditCommand::SelectAll)
+        return false;
+    runEditCommand(command, &shownView(), m_services.clipboard);
+    // No key or button of the view's own has told of the new place.
+    if (model.view() == ViewMode::Table)
+        m_views.markRow(hflex본문->RowSel());
+    reportStand();
+    return true;
 }
 
 } // namespace lumen

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/controls/bars/tool_row.h"
+#include "forms/edit_menu.h"
 
 #include <array>
 
@@ -15,26 +15,21 @@ inline constexpr QStringView kMove1 = u"성서 이동 도구 1";
 inline constexpr QStringView kMove2 = u"성서 이동 도구 2";
 } // namespace reader_bar
 
+inline constexpr EditToolIds kReaderEditTools{.copyUnicode = u"ID_UnicodeCopy"};
+
 // clang-format off
 /// The reader's tools. The version tools ("ID_대역본0-101"), the book tools ("ID_성서책0") and the
 /// book buttons ("ID_0") are generated from the catalogue and the canon when the window is made.
-inline constexpr std::array kReaderTools{
+inline constexpr std::array kReaderFileMenu{
     // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", u"", ToolState::Later},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
     ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},
-
-    ToolRow{u"ID_편집", u"편집(&E)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_잘라내기", u"잘라내기(&T)", ToolKind::Button, u"ID_편집", u"Ctrl+X", u"cut"},
-    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C", u"copy"},
-    ToolRow{u"ID_UnicodeCopy", u"유니코드로 복사(&U)", ToolKind::Button, u"ID_편집", u"Ctrl+Shift+C", u"copy-unicode"},
-    ToolRow{u"ID_붙이기", u"붙이기(&P)", ToolKind::Button, u"ID_편집", u"Ctrl+V", u"paste"},
-    ToolRow{u"ID_지우기", u"지우기(&D)", ToolKind::Button, u"ID_편집"},
-    ToolRow{u"", u"", ToolKind::Separator, u"ID_편집"},
-    ToolRow{u"ID_전체선택", u"전체 선택(&A)", ToolKind::Button, u"ID_편집", u"Ctrl+A"},
-
+};
+// Stands behind the rows of the edit menu.
+inline constexpr std::array kReaderTools{
     ToolRow{u"ID_보기", u"보기(&V)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_표준도구모음", u"표준 도구 모음(&S)", ToolKind::Toggle, u"ID_보기"},
     ToolRow{u"ID_대조도구모음", u"대조 도구 모음(&C)", ToolKind::Toggle, u"ID_보기"},

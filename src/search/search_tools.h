@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/controls/bars/tool_row.h"
+#include "forms/edit_menu.h"
 
 #include <array>
 
@@ -9,10 +9,12 @@ namespace lumen {
 
 inline constexpr QStringView kSearchBar = u"검색 도구 모음";
 
+inline constexpr EditToolIds kSearchEditTools{.paste = u"ID_붙여넣기"};
+
 // clang-format off
 /// The tools of the search window. The scope tools are made from the scope table, the version tools
 /// ("ID_대역본0-101") from the catalogue.
-inline constexpr std::array kSearchTools{
+inline constexpr std::array kSearchFileMenu{
     // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_미리보기", u"미리보기(&V)...", ToolKind::Button, u"ID_파일", u"Ctrl+Shift+P", u"", ToolState::Later},
@@ -20,15 +22,9 @@ inline constexpr std::array kSearchTools{
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
     ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},
-
-    ToolRow{u"ID_편집", u"편집(&E)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_잘라내기", u"잘라내기(&T)", ToolKind::Button, u"ID_편집", u"Ctrl+X", u"cut"},
-    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C", u"copy"},
-    ToolRow{u"ID_붙여넣기", u"붙여넣기(&P)", ToolKind::Button, u"ID_편집", u"Ctrl+V", u"paste"},
-    ToolRow{u"ID_지우기", u"지우기(&D)", ToolKind::Button, u"ID_편집"},
-    ToolRow{u"", u"", ToolKind::Separator, u"ID_편집"},
-    ToolRow{u"ID_전체선택", u"전체 선택(&A)", ToolKind::Button, u"ID_편집", u"Ctrl+A"},
-
+};
+// Stands behind the rows of the edit menu.
+inline constexpr std::array kSearchTools{
     ToolRow{u"ID_보기", u"보기(&V)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_쉬운검색", u"쉬운 검색(&1)", ToolKind::Toggle, u"ID_보기", u"Ctrl+1"},
     ToolRow{u"ID_파워검색", u"파워 검색(&2)", ToolKind::Toggle, u"ID_보기", u"Ctrl+2"},

@@ -34,7 +34,6 @@ namespace {
 constexpr int kHeightWithPages = 2235;
 constexpr int kHeightWithoutPages = 1695;
 
-constexpr EditToolIds kEditTools{.paste = u"ID_붙여넣기"};
 constexpr QStringView kHelpPage = u"HowtoSearchBible.htm";
 
 } // namespace
@@ -81,6 +80,8 @@ void frm성서검색::layOut()
 
 void frm성서검색::addTools()
 {
+    atbar.add(kSearchFileMenu);
+    m_editMenu.addRows();
     atbar.add(kSearchTools);
     atbar.add(kHelpMenu);
     for (const ScopeRow& scope : kScopes)
@@ -92,8 +93,13 @@ void frm성서검색::bindTools()
 {
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_종료", [] { QApplication::closeAllWindows(); });
-    m_tools.on(u"ID_편집", [this] { UpdateEditMenu(); });
-    bindEditMenu(m_tools, kEditTools, [this](EditCommand command) { edit(command); });
+    m_editMenu.bind(m_tools);
+    m_editMenu.onCommand = [this](const QWidget* control, EditCommand command) {
+        const bool copiesVerses = control == hflex결과 && command == EditCommand::Copy;
+        if (copiesVerses)
+            m_results.copyTo(m_services.clipboard);
+        return copiesVerses;
+    };
     for (int index = 0; index < static_cast<int>(kScopes.size()); ++index)
         m_tools.on(kScopes[static_cast<std::size_t>(index)].toolId,
                    [this, index] { m_model.chooseScope(index); });
@@ -141,7 +147,7 @@ void frm성서검색::wireSearches()
     }
     m_original.onState = [this](const QString& text) { statusPanel2->setText(text); };
     m_original.onAnalysisLost = [this] { m_model.chooseVersion(0); };
-    m_original.onEditMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
+    m_original.onEditMenu = [this](const QPoint& at) { m_editMenu.popUp(at); };
     m_original.onOpenVerse = [this](const QString& reference) { openVerse(reference); };
     sstSearch->onTabClick = [this](int tab, int) { sstSearch_Click(static_cast<SearchTab>(tab)); };
 }
@@ -149,9 +155,7 @@ void frm성서검색::wireSearches()
 void frm성서검색::wireTextBox(QLineEdit& box)
 {
     box.installEventFilter(this);
-    box.setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&box, &QLineEdit::customContextMenuRequested, this,
-            [this, &box](const QPoint& at) { atbar.popUp(u"ID_편집", box.mapToGlobal(at)); });
+    m_editMenu.offerOn(box);
 }
 
 void frm성서검색::wirePages()
@@ -166,7 +170,6 @@ void frm성서검색::wirePages()
 
 void frm성서검색::wireResults()
 {
-    hflex결과->onClick = [this] { UpdateEditMenu(); };
     const auto openRow = [this](int row) {
         if (row > 0)
             openVerse(m_results.reference(row));
@@ -174,8 +177,7 @@ void frm성서검색::wireResults()
     hflex결과->onDblClick = [openRow](int row, int) { openRow(row); };
     hflex결과->onEnter = [this, openRow] { openRow(hflex결과->Row()); };
     hflex결과->onResizeEnded = [this] { m_results.divideAnew(); };
-    hflex결과->onCopy = [this] { edit(EditCommand::Copy); };
-    hflex결과->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
+    m_editMenu.offerOn(*hflex결과);
     hflex결과->highlight = [this](int row, int col, const QString& text) {
         const bool marked = m_settings.MarkHits && row > 0 && col == ResultGrid::kTextColumn;
         return marked ? m_model.foundWords().ranges(text) : QList<TextRange>();
@@ -287,20 +289,6 @@ void frm성서검색::showToolStates()
         atbar.tool(kScopes[static_cast<std::size_t>(index)].toolId)
             .setChecked(m_model.scope() == index);
     atbar.checkOnly(u"ID_대역본0-", u"ID_대역본0-"_s + QString::number(m_model.code()));
-}
-
-void frm성서검색::edit(EditCommand command)
-{
-    QWidget* target = editTarget(*this);
-    if (command == EditCommand::Copy && target == hflex결과)
-        m_results.copyTo(m_services.clipboard);
-    else
-        runEditCommand(command, target, m_services.clipboard);
-}
-
-void frm성서검색::UpdateEditMenu()
-{
-    showEditState(atbar, editStateOf(editTarget(*this)), kEditTools);
 }
 
 } // namespace lumen

@@ -15,6 +15,7 @@
 #include "search/original/original_tab.h"
 #include "search/original/parsing_panel.h"
 #include "search/search_model.h"
+#include "search/search_tools.h"
 #include "search/verses/easy_panel.h"
 #include "search/verses/power_panel.h"
 #include "text/original/hebrew_division.h"
@@ -71,8 +72,6 @@ private:
     void Form_Resize();
     void Proc성서검색창버전설정();
     void Proc검색범위초기화();
-    void edit(EditCommand command);
-    void UpdateEditMenu();
     void showToolStates();
 
     // search_run.cpp: what the controls report to the model, and what it shows in them
@@ -98,6 +97,7 @@ private:
     InputAids m_inputAids;
     FontLineBreaker m_lineBreaker;
     ResultGrid m_results;
+    EditMenu m_editMenu{*this, atbar, m_services.clipboard, kSearchEditTools};
     ToolDispatch m_tools;
     SearchSettings m_settings;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "forms/edit_menu.h"
 #include "platform/controls/bars/active_tool_bars.h"
+#include "platform/controls/bars/tool_dispatch.h"
 #include "platform/controls/grid/flex_grid.h"
 #include "platform/controls/text/text_control.h"
 #include "support/test_platform.h"
@@ -9,10 +10,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPlainTextEdit>
-#include <QPushButton>
+#include <QTest>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -94,39 +97,108 @@ TEST_F(EditCommandsTest, CommandsWorkOnAllKindsOfTextBoxes)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"검색어"_s);
 }
 
-TEST_F(EditCommandsTest, TheToolsFollowTheFocusedControl)
+/// A window with a box, a combo and a grid of one row.
+class EditMenuTest : public EditCommandsTest
 {
+protected:
+    EditMenuTest()
+    {
+        auto* page = new QWidget;
+        auto* rows = new QVBoxLayout(page);
+        for (QWidget* control : std::initializer_list<QWidget*>{box, combo, grid})
+            rows->addWidget(control);
+        combo->setEditable(true);
+        grid->setCols(1);
+        grid->AddItem({u"창1:1"_s});
+        window.setCentralWidget(page);
+        menu.addRows();
+        menu.bind(tools);
+        menu.offerOn(*box);
+        menu.offerOn(*grid);
+        bars.onToolClick = [this](const QString& tool) { tools.run(tool); };
+        window.show();
+        window.activateWindow();
+        QCoreApplication::processEvents();
+    }
+    /// The tools that the menu offers when it opens.
+    QString offered()
+    {
+        menu.popUp(QPoint());
+        const QString captions = enabledTools();
+        bars.menu(u"ID_편집")->hide();
+        return captions;
+    }
+    QString enabledTools()
+    {
+        QStringList captions;
+        for (const QAction* tool : bars.menu(u"ID_편집")->actions())
+            if (!tool->isSeparator() && tool->isEnabled())
+                captions << tool->text().section(u'(', 0, 0);
+        return captions.join(u' ');
+    }
+    bool takeMenu()
+    {
+        QMenu& edit = *bars.menu(u"ID_편집");
+        const bool open = edit.isVisible();
+        edit.hide();
+        return open;
+    }
+
+    const QString m_all = u"잘라내기 복사 붙이기 지우기 전체 선택"_s;
     QMainWindow window;
-    auto* page = new QWidget;
-    auto* rows = new QVBoxLayout(page);
-    auto* line = new QLineEdit(u"말씀"_s);
-    auto* combo = new ComboBox;
-    combo->setEditable(true);
-    rows->addWidget(line);
-    rows->addWidget(combo);
-    window.setCentralWidget(page);
-    ActiveToolBars bars(window);
-    bars.add(ToolRow{u"ID_편집", u"편집", ToolKind::Menu, kMenuBar});
-    for (const QStringView id : {u"ID_잘라내기", u"ID_복사", u"ID_붙여넣기", u"ID_지우기"})
-        bars.add(ToolRow{id, id, ToolKind::Button, u"ID_편집"});
-    bars.add(ToolRow{u"ID_전체선택", u"전체 선택", ToolKind::Button, u"ID_편집"});
-    window.show();
-    window.activateWindow();
-    QCoreApplication::processEvents();
+    ActiveToolBars bars{window};
+    ToolDispatch tools;
+    EditMenu menu{window, bars, clipboard, {.paste = u"ID_붙여넣기"}};
+    QLineEdit* box = new QLineEdit(u"말씀"_s);
+    ComboBox* combo = new ComboBox;
+    FlexGrid* grid = new FlexGrid;
+};
 
-    line->setFocus();
-    line->selectAll();
-    EXPECT_EQ(editTarget(window), line);
-    showEditState(bars, editStateOf(editTarget(window)), {.paste = u"ID_붙여넣기"});
-    EXPECT_TRUE(bars.tool(u"ID_잘라내기").enabled());
-    EXPECT_TRUE(bars.tool(u"ID_붙여넣기").enabled());
-
+TEST_F(EditMenuTest, ItsToolsFollowTheFocusAndComeAliveAgainBehindIt)
+{
+    box->setFocus();
+    box->selectAll();
+    EXPECT_EQ(offered(), m_all);
     combo->setFocus();
-    EXPECT_EQ(editTarget(window), combo);
-    showEditState(bars, editStateOf(editTarget(window)), {.paste = u"ID_붙여넣기"});
-    EXPECT_FALSE(bars.tool(u"ID_잘라내기").enabled());
-    EXPECT_FALSE(bars.tool(u"ID_전체선택").enabled());
-    EXPECT_TRUE(bars.tool(u"ID_붙여넣기").enabled());
+    EXPECT_EQ(offered(), u"붙이기"_s);
+    // A tool that stayed disabled would be dead on its bar and by its key.
+    EXPECT_EQ(enabledTools(), m_all);
+    menu.onState = [this](const QWidget* control, EditState& state) {
+        state.remove = control == combo;
+    };
+    EXPECT_EQ(offered(), u"붙이기 지우기"_s);
+}
+
+TEST_F(EditMenuTest, ItsToolsActOnTheFocusedControl)
+{
+    box->setFocus();
+    tools.run(u"ID_전체선택"_s);
+    tools.run(u"ID_잘라내기"_s);
+    EXPECT_EQ(box->text(), QString());
+    combo->setFocus();
+    tools.run(u"ID_붙여넣기"_s);
+    EXPECT_EQ(combo->Text(), u"말씀"_s);
+    menu.onCommand = [this](const QWidget* control, EditCommand command) {
+        return control == grid && command == EditCommand::Copy;
+    };
+    grid->setFocus();
+    grid->selectAll();
+    tools.run(u"ID_복사"_s);
+    EXPECT_EQ(clipboard.setCount, 0) << "the window has copied in its own way";
+    menu.onCommand = nullptr;
+    QTest::keyClick(grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard.content.plain, u"창1:1"_s);
+}
+
+TEST_F(EditMenuTest, ControlsOfferItAsTheirContextMenu)
+{
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint());
+    for (QWidget* control : std::initializer_list<QWidget*>{box, grid->viewport()}) {
+        QApplication::sendEvent(control, &asked);
+        EXPECT_TRUE(takeMenu());
+    }
+    QTest::mouseClick(grid->viewport(), Qt::RightButton, {}, QPoint(2, 2));
+    EXPECT_TRUE(takeMenu());
 }
 
 } // namespace

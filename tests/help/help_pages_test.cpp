@@ -107,10 +107,12 @@ TEST(HelpPagesTest, TheSearchPageKnowsAllTopicsOfTheIndex)
         EXPECT_TRUE(search.links.contains(topic) || topic == u"search.htm") << qPrintable(topic);
 }
 
-void expectKeys(const QMap<QString, QString>& told, std::span<const ToolRow> own)
+void expectKeys(const QMap<QString, QString>& told,
+                std::initializer_list<std::span<const ToolRow>> menus)
 {
-    std::vector<ToolRow> tools(own.begin(), own.end());
-    tools.insert(tools.end(), kHelpMenu.begin(), kHelpMenu.end());
+    std::vector<ToolRow> tools(kHelpMenu.begin(), kHelpMenu.end());
+    for (const std::span<const ToolRow> menu : menus)
+        tools.insert(tools.end(), menu.begin(), menu.end());
     EXPECT_FALSE(told.isEmpty());
     for (auto tool = told.cbegin(); tool != told.cend(); ++tool) {
         SCOPED_TRACE(qPrintable(tool.key()));
@@ -126,8 +128,8 @@ void expectKeys(const QMap<QString, QString>& told, std::span<const ToolRow> own
 TEST(HelpPagesTest, TheShortcutsToldAreThoseOfTheWindows)
 {
     const HelpPage page = readPage(u"Shortcuts.htm"_s);
-    expectKeys(page.readerKeys, kReaderTools);
-    expectKeys(page.searchKeys, kSearchTools);
+    expectKeys(page.readerKeys, {kReaderFileMenu, editMenuRows(kReaderEditTools), kReaderTools});
+    expectKeys(page.searchKeys, {kSearchFileMenu, editMenuRows(kSearchEditTools), kSearchTools});
 }
 
 } // namespace

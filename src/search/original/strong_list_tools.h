@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "platform/controls/bars/tool_row.h"
+#include "forms/edit_menu.h"
 
 #include <array>
 
@@ -9,14 +9,18 @@ namespace lumen {
 
 inline constexpr QStringView kStrongListBar = u"관주 도구 모음";
 
+inline constexpr EditToolIds kStrongListEditTools{
+    .cut = u"", .paste = u"", .remove = u"", .selectAll = u""};
+
 // clang-format off
 /// The tools of the list of a Strong's number's verses.
-inline constexpr std::array kStrongListTools{
+inline constexpr std::array kStrongListFileMenu{
     // id, caption, kind, bar or menu that it stands on, shortcut, icon
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
-    ToolRow{u"ID_편집", u"편집(&E)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_복사", u"복사(&C)", ToolKind::Button, u"ID_편집", u"Ctrl+C", u"copy"},
+};
+// Stands behind the rows of the edit menu.
+inline constexpr std::array kStrongListTools{
     ToolRow{u"ID_Move", u"이동(&M)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_PreviousPage", u"이전 쪽(&P)", ToolKind::Button, u"ID_Move", u"Alt+PgUp"},
     ToolRow{u"ID_NextPage", u"다음 쪽(&N)", ToolKind::Button, u"ID_Move", u"Alt+PgDown"},

@@ -5,7 +5,6 @@
 #include "data/chapter_reader.h"
 #include "data/data_store.h"
 #include "data/module_path.h"
-#include "forms/edit_menu.h"
 #include "forms/guarded.h"
 #include "forms/reader_place.h"
 #include "forms/results/result_pages.h"
@@ -15,7 +14,6 @@
 #include "jet/engine.h"
 #include "platform/dialogs/message_boxes.h"
 #include "search/messages.h"
-#include "search/original/strong_list_tools.h"
 #include "text/field_scramble.h"
 #include "text/query_literal.h"
 
@@ -60,6 +58,8 @@ frm스트롱관주목록::frm스트롱관주목록(Services& services, AppState&
     setWindowTitle(u"스트롱 코드 관주 목록"_s);
     vsAwk1.setFS(u";"_s);
     layOut();
+    atbar.add(kStrongListFileMenu);
+    m_editMenu.addRows();
     atbar.add(kStrongListTools);
     setToolIcons(atbar);
     bindTools();
@@ -81,14 +81,14 @@ void frm스트롱관주목록::layOut()
 
 void frm스트롱관주목록::bindTools()
 {
-    const auto copy = [this] { m_results.copyTo(m_services.clipboard); };
     m_tools.on(u"ID_닫기", [this] { close(); });
-    m_tools.on(u"ID_편집",
-               [this] { atbar.tool(u"ID_복사").setEnabled(editStateOf(editTarget(*this)).copy); });
-    m_tools.on(u"ID_복사", copy);
+    m_editMenu.bind(m_tools);
+    m_editMenu.onCommand = [this](const QWidget*, EditCommand) {
+        m_results.copyTo(m_services.clipboard);
+        return true;
+    };
     m_tools.on(u"ID_PreviousPage", [this] { turnPage(false); });
     m_tools.on(u"ID_NextPage", [this] { turnPage(true); });
-    flex결과->onCopy = copy;
     atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };
     m_combos.on(kVersionCombo, [this] { chooseVersion(); });
     atbar.onComboChange = [this](const QString& toolId) { m_combos.run(toolId); };
@@ -102,7 +102,7 @@ void frm스트롱관주목록::wire()
     flex결과->onClick = [this] { openRow(); };
     flex결과->onEnter = [this] { openRow(); };
     flex결과->onDblClick = [this](int, int) { m_reader.bringToFront(); };
-    flex결과->onContextMenu = [this](const QPoint& at) { atbar.popUp(u"ID_편집", at); };
+    m_editMenu.offerOn(*flex결과);
     flex결과->onResizeEnded = [this] { m_results.divideAnew(); };
 }
 

@@ -11,6 +11,7 @@
 #include "platform/controls/grid/flex_grid.h"
 #include "platform/controls/named.h"
 #include "platform/controls/vs_awk.h"
+#include "search/original/strong_list_tools.h"
 #include "search/verses/easy_panel.h"
 #include "text/original/hebrew_division.h"
 
@@ -77,6 +78,7 @@ private:
     FontLineBreaker m_lineBreaker;
     ResultGrid m_results;
     VsAwk vsAwk1; ///< the occurrences
+    EditMenu m_editMenu{*this, atbar, m_services.clipboard, kStrongListEditTools};
     ToolDispatch m_tools;
     ToolDispatch m_combos;
 };
