@@ -7,8 +7,9 @@ ROOT=$PWD
 
 # What building needs, what the modules are built from, what the windows are drawn with.
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlite3-dev mdbtools-dev
-  libsword-dev libgtest-dev libgmock-dev libbenchmark-dev python3"
-SOURCE_PACKAGES="sword-text-kjv sword-text-web sword-text-sparv bibledit-data npm"
+  libsword-dev zlib1g-dev libgtest-dev libgmock-dev libbenchmark-dev python3"
+SOURCE_PACKAGES="sword-text-kjv sword-text-web sword-text-sparv sword-comm-mhcc sword-dict-naves dict-wn
+  bibledit-data npm"
 FONT_PACKAGES="fonts-nanum fonts-nanum-coding fonts-noto-core fonts-noto-cjk fonts-sil-ezra
   fonts-sil-galatia python3-fonttools libharfbuzz-bin libqt6svg6"
 DISPLAY_PACKAGES="xvfb xdotool imagemagick"

@@ -153,7 +153,10 @@ QString buildUsage()
                    찬송가(z201)는 hymns.tsv와 tunes.tsv로 만듭니다. 칸을 탭으로 나눈 UTF-8 표이며
                    hymns.tsv는 장, 제목, 작사, 작곡, 분류, 관련 찬송, 관련 성구, 가사,
                    tunes.tsv는 장, 박자, 빠르기, 음입니다. 잘못된 줄은 파일과 줄과 까닭을 알리고
-                   전의 모듈을 둡니다.
+                   전의 모듈을 둡니다. 같은 꼴의 표로 성구사전(101c.tsv: 낱말, 성구, 횟수), 성경사전
+                   (bible-dictionary.tsv: 표제어, 설명), 영한영사전(english-dictionary.tsv), 주석
+                   (commentary.tsv: 장, 절, 한글, 영문), 웨슬리 주석(wesley.tsv: 장, 글)도 받습니다.
+                   easton.json, hitchcock.json과 wesley 폴더의 JSON도 찾습니다.
   --module 번호    적은 파일로 이 역본 하나만 만듭니다. 901부터 915까지는 사용자 역본입니다.
   --format 형식    그 파일의 형식: sword, osis, usfm, json
   --name 이름      사용자 역본의 이름

@@ -93,14 +93,22 @@ void refuseWithoutSource(const BuildOptions& options, const TaskMap& tasks, Buil
     }
 }
 
-void addConcordances(const BuildOptions& options, const TaskMap& tasks, BuildPlan& plan)
+void addConcordances(const BuildOptions& options, const UserSources& user, const TaskMap& tasks,
+                     BuildPlan& plan)
 {
     QSet<QString> asked = options.onlyFiles;
     for (const auto& [code, task] : tasks) {
         ConcordanceTask words(task);
         const bool named = asked.remove(words.file);
-        if (named || (options.makesAll() && !isMadeOnRequest(code)))
+        if (!named && (!options.makesAll() || isMadeOnRequest(code)))
+            continue;
+        // A user's own list goes before the one that is made of the text.
+        const auto own = user.tables.find(words.file + u".tsv"_s);
+        if (own == user.tables.end())
             plan.tasks.push_back(std::make_unique<ConcordanceTask>(std::move(words)));
+        else
+            plan.tasks.push_back(
+                std::make_unique<ReferenceTask>(ownConcordanceTask(code, own->second)));
     }
     for (const QString& file : asked)
         if (referenceFile(file).isEmpty())
@@ -157,9 +165,9 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     for (const auto& [code, task] : tasks)
         if (isWanted(options, code))
             plan.tasks.push_back(std::make_unique<VersionTask>(task));
-    addConcordances(options, tasks, plan);
+    addConcordances(options, user, tasks, plan);
     ReferenceSources references = installedReferences(folders);
-    plan.remarks << takeOwnTables(user.tables, references);
+    plan.remarks << takeOwnFiles(user, references);
     for (const ReferenceTask& task : referenceTasks(*plan.corpus, references))
         if (isWanted(options, task.file))
             plan.tasks.push_back(std::make_unique<ReferenceTask>(task));

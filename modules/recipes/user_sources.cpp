@@ -4,6 +4,7 @@
 #include "original/original_versions.h"
 #include "recipes/korean_edition.h"
 #include "recipes/recipes.h"
+#include "sources/book_names.h"
 #include "sources/json_readers.h"
 #include "sources/usfm/usfm_reader.h"
 
@@ -39,8 +40,19 @@ constexpr std::array kSwordNames{
     SwordName{u"Swe1917", 225}, SwordName{u"Brenton", 228},    SwordName{u"ChiUns", 401},
 };
 
-// Tables that reference modules are made of; a file is known by its name.
-constexpr std::array kTableNames{QStringView(u"hymns.tsv"), QStringView(u"tunes.tsv")};
+// What reference modules are made of; a file is known by its name.
+constexpr std::array kTableNames{
+    QStringView(u"hymns.tsv"),      QStringView(u"tunes.tsv"),
+    QStringView(u"easton.json"),    QStringView(u"hitchcock.json"),
+    QStringView(u"commentary.tsv"), QStringView(u"bible-dictionary.tsv"),
+    QStringView(u"wesley.tsv"),     QStringView(u"english-dictionary.tsv"),
+};
+
+bool isTableName(const QString& name)
+{
+    static const QRegularExpression concordance(u"^\\d{3}c\\.tsv$"_s);
+    return std::ranges::find(kTableNames, name) != kTableNames.end() || name.contains(concordance);
+}
 
 class FolderSearch
 {
@@ -64,6 +76,7 @@ private:
     bool visitUsfm(const QString& folder, const QStringList& files);
     bool visitOsis(const QString& file);
     bool visitTable(const QString& file);
+    bool visitWesley(const QString& folder, const QStringList& files);
     bool visitSword(const QString& confFile);
     bool readCode(const QString& path, UserSource& source) const;
     void add(const QString& path, UserSource source, KnownBy knownBy);
@@ -120,8 +133,9 @@ bool FolderSearch::visit(const QString& folder, const QStringList& files)
     found = visitUsfm(folder, endingWith(files, {u".usfm", u".sfm"})) || found;
     for (const QString& file : endingWith(files, {u".xml", u".osis"}))
         found = visitOsis(file) || found;
-    for (const QString& file : endingWith(files, {u".tsv"}))
+    for (const QString& file : endingWith(files, {u".tsv", u".json"}))
         found = visitTable(file) || found;
+    found = visitWesley(folder, endingWith(files, {u".json"})) || found;
     for (const QString& file : endingWith(files, {u".csv"}))
         if (looksLikeByzantine(file)) {
             m_sources.byzantineFiles << file;
@@ -192,12 +206,24 @@ bool FolderSearch::visitOsis(const QString& file)
 bool FolderSearch::visitTable(const QString& file)
 {
     const QString name = QFileInfo(file).fileName().toLower();
-    if (std::ranges::find(kTableNames, name) == kTableNames.end())
+    if (!isTableName(name))
         return false;
     const auto [known, added] = m_sources.tables.emplace(name, file);
     if (!added)
         m_sources.remarks << u"%1이 둘입니다. 쓰는 것: %2, 쓰지 않는 것: %3"_s.arg(
             name, known->second, file);
+    return true;
+}
+
+bool FolderSearch::visitWesley(const QString& folder, const QStringList& files)
+{
+    const auto isBook = [](const QString& file) {
+        return BookNames::fromEnglish(QFileInfo(file).completeBaseName()).has_value();
+    };
+    if (QFileInfo(folder).fileName().compare(u"wesley", Qt::CaseInsensitive) != 0 ||
+        !std::ranges::any_of(files, isBook))
+        return false;
+    std::ranges::copy_if(files, std::back_inserter(m_sources.wesleyFiles), isBook);
     return true;
 }
 

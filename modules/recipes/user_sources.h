@@ -23,9 +23,10 @@ struct UserSources
 {
     std::vector<UserSource> found;
     QStringList byzantineFiles; ///< tables of the Byzantine Greek text, a book a file
-    /// Tables for the modules that are no versions, by their names: "hymns.tsv".
+    /// Files for the modules that are no versions, by their names: "hymns.tsv", "101c.tsv".
     std::map<QString, QString> tables;
-    QStringList remarks; ///< Korean lines on what has no place
+    QStringList wesleyFiles; ///< Wesley's notes, a book a file
+    QStringList remarks;     ///< Korean lines on what has no place
 };
 
 /// Looks through a folder and all below it for Bibles: JSON files a book, USFM files, OSIS files,

@@ -4,6 +4,8 @@
 #include "canon/verse_index.h"
 #include "data/concordance_word.h"
 #include "data/versions.h"
+#include "sources/user_places.h"
+#include "sources/user_table.h"
 #include "text/field_scramble.h"
 
 #include <QHash>
@@ -11,6 +13,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <map>
 
 namespace lumen {
 
@@ -114,6 +117,21 @@ bool writeWord(const QString& stored, const Occurrences& found, const std::vecto
     return true;
 }
 
+bool writeWords(const QHash<QString, Occurrences>& found, const std::vector<QString>& keys,
+                ModuleStore& store)
+{
+    // Rows of one word stand together, in the order that a look for a beginning reads.
+    std::vector<std::pair<QString, const Occurrences*>> order;
+    order.reserve(static_cast<std::size_t>(found.size()));
+    for (auto word = found.cbegin(); word != found.cend(); ++word)
+        order.emplace_back(DES::ScrambleField(word.key()), &word.value());
+    std::ranges::sort(order, {}, &std::pair<QString, const Occurrences*>::first);
+    store.expect(order.size());
+    store.createTable(concordanceTable());
+    return std::ranges::all_of(
+        order, [&](const auto& word) { return writeWord(word.first, *word.second, keys, store); });
+}
+
 } // namespace
 
 std::vector<IndexWord> indexWords(const QString& text, int code)
@@ -159,21 +177,51 @@ Result<ModuleReport> fillConcordance(const VersionText& version, int code, Modul
                 found[word.typed].add(place);
         }
     }
-    // Rows of one word stand together, in the order that a look for a beginning reads.
-    std::vector<std::pair<QString, const Occurrences*>> order;
-    order.reserve(static_cast<std::size_t>(found.size()));
-    for (auto word = found.cbegin(); word != found.cend(); ++word)
-        order.emplace_back(DES::ScrambleField(word.key()), &word.value());
-    std::ranges::sort(order, {}, &std::pair<QString, const Occurrences*>::first);
-    store.expect(order.size());
-    store.createTable(concordanceTable());
-    for (const auto& [stored, where] : order)
-        if (!writeWord(stored, *where, keys, store))
-            return Failure{FailureKind::Cancelled, {}};
+    if (!writeWords(found, keys, store))
+        return Failure{FailureKind::Cancelled, {}};
     ModuleReport report;
     const QLocale korean(QLocale::Korean);
-    report.facts << u"낱말 %1"_s.arg(korean.toString(static_cast<int>(order.size())))
+    report.facts << u"낱말 %1"_s.arg(korean.toString(found.size()))
                  << u"모두 %1번"_s.arg(korean.toString(occurrences));
+    return report;
+}
+
+Result<ModuleReport> fillOwnConcordance(const QString& file, ModuleStore& store)
+{
+    const auto lines = readUserTable(file, {{u"낱말"_s, u"성구"_s, u"횟수"_s}, 2});
+    if (!lines)
+        return lines.failure();
+    TableFaults faults(file);
+    std::map<QString, std::vector<QVariantList>> words; // rows by the stored word
+    for (const TableLine& line : lines.value()) {
+        QStringList keys;
+        for (const QString& reference : UserPlaces::parts(line.cells[1])) {
+            if (const auto key = UserPlaces::verseKey(reference))
+                keys << *key;
+            else
+                faults.add(line.number, u"없는 성구임: %1"_s.arg(reference));
+        }
+        bool isNumber = true;
+        const int count = line.cells[2].isEmpty() ? static_cast<int>(keys.size())
+                                                  : line.cells[2].toInt(&isNumber);
+        if (line.cells[0].isEmpty() || keys.isEmpty())
+            faults.add(line.number, u"낱말이나 성구가 비어 있음"_s);
+        if (!isNumber || count < 0)
+            faults.add(line.number, u"횟수가 수가 아님: %1"_s.arg(line.cells[2]));
+        const QString stored = DES::ScrambleField(line.cells[0].toLower());
+        words[stored].push_back({stored, keys.join(u';'), count});
+    }
+    if (!faults.isEmpty())
+        return faults.failure();
+    store.expect(lines.value().size());
+    store.createTable(concordanceTable());
+    for (const auto& [word, rows] : words)
+        for (const QVariantList& row : rows)
+            if (!store.addRow(kTable, row))
+                return Failure{FailureKind::Cancelled, {}};
+    ModuleReport report;
+    report.facts << u"낱말 %1"_s.arg(
+        QLocale(QLocale::Korean).toString(static_cast<int>(words.size())));
     return report;
 }
 

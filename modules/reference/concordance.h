@@ -31,6 +31,10 @@ std::vector<IndexWord> indexWords(const QString& text, int code);
 /// says so.
 Result<ModuleReport> fillConcordance(const VersionText& version, int code, ModuleStore& store);
 
+/// The same out of a user's table: word, verses ("창1:1;요3:16"), number of times, which is the
+/// number of verses unless told.
+Result<ModuleReport> fillOwnConcordance(const QString& file, ModuleStore& store);
+
 /// The table of concordances.
 TableSchema concordanceTable();
 

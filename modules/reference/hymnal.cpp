@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "reference/hymnal.h"
 
-#include "canon/verse_index.h"
-#include "check/verse_counts.h"
 #include "reference/tunes.h"
+#include "sources/user_places.h"
 #include "sources/user_table.h"
 #include "text/field_scramble.h"
-
-#include <QRegularExpression>
 
 #include <map>
 
@@ -22,28 +19,6 @@ constexpr int kLastNumber = 558;
 enum Column { Number, Title, Writer, Composer, Category, Related, Verses, Words, ColumnCount };
 
 using HymnLines = std::map<int, TableLine>;
-
-QStringList partsOf(const QString& list)
-{
-    QStringList parts;
-    for (const QString& part : list.split(u';', Qt::SkipEmptyParts))
-        parts << part.trimmed();
-    return parts;
-}
-
-// "시23", "시100:1-5"
-bool existsInCanon(const QString& reference)
-{
-    static const QRegularExpression form(uR"(^(\D+?)(\d+)(?::(\d+)(?:-(\d+))?)?$)"_s);
-    const auto match = form.match(reference);
-    const int book = BibleCode::GetBookNum(match.captured(1));
-    if (!match.hasMatch() || book < 0)
-        return false;
-    const int count = verseCount(Numbering::Korean, book, match.captured(2).toInt());
-    const int first = match.hasCaptured(3) ? match.captured(3).toInt() : 1;
-    const int last = match.hasCaptured(4) ? match.captured(4).toInt() : first;
-    return first >= 1 && first <= last && last <= count;
-}
 
 // The words as they are shown, their lines and stanzas divided.
 QString wordsOf(const QString& cell)
@@ -78,11 +53,11 @@ HymnLines byNumber(const std::vector<TableLine>& lines, TableFaults& faults)
 void checkLists(const HymnLines& hymns, TableFaults& faults)
 {
     for (const auto& [number, line] : hymns) {
-        for (const QString& related : partsOf(line.cells[Related]))
+        for (const QString& related : UserPlaces::parts(line.cells[Related]))
             if (!hymns.contains(related.toInt()))
                 faults.add(line.number, u"관련 찬송이 없음: %1"_s.arg(related));
-        for (const QString& verse : partsOf(line.cells[Verses]))
-            if (!existsInCanon(verse))
+        for (const QString& verse : UserPlaces::parts(line.cells[Verses]))
+            if (!UserPlaces::exists(verse))
                 faults.add(line.number, u"관련 성구가 없음: %1"_s.arg(verse));
     }
 }

@@ -104,7 +104,7 @@ protected:
         folders.content = files.path(u"content"_s);
         ReferenceSources sources = installedReferences(folders);
         if (supply == Supply::Own)
-            takeOwnTables(findUserSources(files.path(u"own"_s)).tables, sources);
+            takeOwnFiles(findUserSources(files.path(u"own"_s)), sources);
         OriginalCorpus none({});
         for (const ReferenceTask& task : referenceTasks(none, sources))
             if (task.file == u"z201"_s)

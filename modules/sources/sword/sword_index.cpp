@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "sources/sword/sword_index.h"
 
+#include "sources/sword/sword_files.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -23,37 +25,6 @@ constexpr qsizetype kLargestBlock = 64 * 1024 * 1024;
 // Deflate never does better, so a block that claims more is damaged and not worth the memory.
 constexpr qsizetype kMostGain = 1100;
 
-Failure fault(const QString& path, const QString& reason)
-{
-    return sourceFailure(QFileInfo(path).fileName(), 0, reason);
-}
-
-Result<QByteArray> fileBytes(const QString& path)
-{
-    // A pipe or a device under the name would keep the reader waiting.
-    if (!QFileInfo(path).isFile())
-        return fault(path, u"파일이 없습니다."_s);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fault(path, u"파일을 읽을 수 없습니다."_s);
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return fault(path, u"파일을 읽을 수 없습니다."_s);
-    return bytes;
-}
-
-quint32 number(const QByteArray& bytes, qsizetype at)
-{
-    return qFromLittleEndian<quint32>(bytes.constData() + at);
-}
-
-QByteArray inflated(const QByteArray& packed, qsizetype size)
-{
-    QByteArray withSize(4, '\0');
-    qToBigEndian(static_cast<quint32>(size), withSize.data());
-    return qUncompress(withSize + packed); // "" where the check sum is wrong
-}
-
 QByteArray unpackedByLibrary(sword::SWCompress& library, QByteArray packed)
 {
     auto length = static_cast<unsigned long>(packed.size());
@@ -67,7 +38,7 @@ QByteArray unpacked(SwordLayout::Compression compression, const QByteArray& pack
 {
     using Compression = SwordLayout::Compression;
     if (compression == Compression::Zip)
-        return inflated(packed, size);
+        return SwordFiles::inflated(packed, size);
     std::unique_ptr<sword::SWCompress> library;
     if (compression == Compression::Lzss)
         library = std::make_unique<sword::LZSSCompress>();
@@ -92,20 +63,20 @@ Result<SwordTestament> SwordTestament::read(const SwordLayout& layout, const QSt
         packed ? QStringList{indexFile, stem + u's', stem + u'z'} : QStringList{indexFile, path};
     if (std::ranges::none_of(files, [](const QString& file) { return QFileInfo::exists(file); }))
         return testament;
-    const auto index = fileBytes(indexFile);
+    const auto index = SwordFiles::bytes(indexFile);
     if (!index)
         return index.failure();
     const qsizetype record = (packed ? 8 : 4) + (layout.wideSizes ? 4 : 2);
     if (index.value().size() != static_cast<qsizetype>(places) * record)
-        return fault(indexFile, u"색인의 길이가 절의 수와 맞지 않습니다."_s);
+        return SwordFiles::fault(indexFile, u"색인의 길이가 절의 수와 맞지 않습니다."_s);
     for (qsizetype at = 0; at < index.value().size(); at += record) {
         Entry entry;
         entry.place = testament.m_entries.size();
         const qsizetype start = at + (packed ? 4 : 0);
-        entry.block = packed ? number(index.value(), at) : 0;
-        entry.start = number(index.value(), start);
+        entry.block = packed ? SwordFiles::number(index.value(), at) : 0;
+        entry.start = SwordFiles::number(index.value(), start);
         entry.size = layout.wideSizes
-                         ? number(index.value(), start + 4)
+                         ? SwordFiles::number(index.value(), start + 4)
                          : qFromLittleEndian<quint16>(index.value().constData() + start + 4);
         testament.m_entries.push_back(entry);
     }
@@ -121,7 +92,7 @@ Result<SwordTestament> SwordTestament::read(const SwordLayout& layout, const QSt
 Result<std::vector<SwordTestament::Block>> SwordTestament::readPlainText(const SwordLayout& layout,
                                                                          const QString& path)
 {
-    const auto text = fileBytes(path);
+    const auto text = SwordFiles::bytes(path);
     if (!text)
         return text.failure();
     return std::vector<Block>{
@@ -131,26 +102,26 @@ Result<std::vector<SwordTestament::Block>> SwordTestament::readPlainText(const S
 Result<std::vector<SwordTestament::Block>> SwordTestament::readBlocks(const SwordLayout& layout,
                                                                       const QString& path)
 {
-    const auto records = fileBytes(path + u's');
-    const auto text = fileBytes(path + u'z');
+    const auto records = SwordFiles::bytes(path + u's');
+    const auto text = SwordFiles::bytes(path + u'z');
     if (!records || !text)
         return records ? text.failure() : records.failure();
     if (records.value().size() % kBlockRecord != 0)
-        return fault(path + u's', u"파일이 잘렸습니다."_s);
+        return SwordFiles::fault(path + u's', u"파일이 잘렸습니다."_s);
     std::vector<Block> blocks;
     for (qsizetype at = 0; at < records.value().size(); at += kBlockRecord) {
-        const qsizetype start = number(records.value(), at);
-        const qsizetype length = number(records.value(), at + 4);
-        Block block{number(records.value(), at + 8), {}};
+        const qsizetype start = SwordFiles::number(records.value(), at);
+        const qsizetype length = SwordFiles::number(records.value(), at + 4);
+        Block block{SwordFiles::number(records.value(), at + 8), {}};
         const QString which = u"%1번째 덩어리"_s.arg(at / kBlockRecord + 1);
         if (start + length > text.value().size())
-            return fault(path + u'z', which + u"가 파일 밖에 있습니다."_s);
+            return SwordFiles::fault(path + u'z', which + u"가 파일 밖에 있습니다."_s);
         if (block.size > kLargestBlock || block.size > length * kMostGain)
-            return fault(path + u's', which + u"의 길이가 잘못되었습니다."_s);
+            return SwordFiles::fault(path + u's', which + u"의 길이가 잘못되었습니다."_s);
         if (!layout.enciphered) {
             block.text = unpacked(layout.compression, text.value().mid(start, length), block.size);
             if (block.text.size() != block.size)
-                return fault(path + u'z', which + u"의 압축이 손상되었습니다."_s);
+                return SwordFiles::fault(path + u'z', which + u"의 압축이 손상되었습니다."_s);
         }
         blocks.push_back(std::move(block));
     }
@@ -182,14 +153,16 @@ std::optional<Failure> SwordTestament::checkEntries(const QString& file) const
         const bool inside = entry.block < m_blocks.size() &&
                             qint64(entry.start) + qint64(entry.size) <= m_blocks[entry.block].size;
         if (!inside)
-            return fault(file, u"색인의 %1번째 자리가 본문 밖을 가리킵니다."_s.arg(i + 1));
+            return SwordFiles::fault(file,
+                                     u"색인의 %1번째 자리가 본문 밖을 가리킵니다."_s.arg(i + 1));
         if (m_blocks[entry.block].text.mid(entry.start, entry.size).contains('\0'))
-            return fault(file, u"색인의 %1번째 자리의 본문에 NUL이 있습니다."_s.arg(i + 1));
+            return SwordFiles::fault(file,
+                                     u"색인의 %1번째 자리의 본문에 NUL이 있습니다."_s.arg(i + 1));
     }
     for (const std::vector<Entry>& entries : entriesByBlock())
         for (std::size_t i = 1; i < entries.size(); ++i)
             if (entries[i].start < entries[i - 1].start + entries[i - 1].size)
-                return fault(file, u"색인의 자리들이 서로 겹칩니다."_s);
+                return SwordFiles::fault(file, u"색인의 자리들이 서로 겹칩니다."_s);
     return std::nullopt;
 }
 
