@@ -29,7 +29,7 @@ constexpr int kCodeLength = 2;
 TableSchema versionTable(const QString& name)
 {
     return {name,
-            {{u"index"_s, FieldType::Text, kKeyLength, false, true},
+            {{.name = u"index"_s, .size = kKeyLength, .required = true},
              {u"Chap"_s, FieldType::Text, kChapterKeyLength},
              {u"Verse"_s, FieldType::Short},
              {u"Cont"_s, FieldType::Memo},

@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QChar kEnrichmentMark = u'+';
-constexpr QStringView kOwnMark = u"own:"; // begins the stamp
 
 } // namespace
 

@@ -60,6 +60,10 @@ TEST(VersionTask, KeepsPasswordIndexesAndOrigin)
                               "pragma_index_info(l.name)) from pragma_index_list('X') l "
                               "order by 1"_s),
               (std::vector<QVariantList>{{0, u"Chap"_s}, {1, u"index"_s}}));
+    // Of another type the key would be compared verse by verse, the index unused.
+    EXPECT_EQ(storeRows(file, u"select type, \"notnull\" from pragma_table_info('X') "
+                              "where name = 'index'"_s),
+              (std::vector<QVariantList>{{u"TEXT(20)"_s, 1}}));
 }
 
 } // namespace
