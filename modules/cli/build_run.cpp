@@ -3,6 +3,7 @@
 
 #include "cli/build_progress.h"
 #include "cli/build_report.h"
+#include "data/versions.h"
 #include "recipes/concordance_task.h"
 #include "recipes/original_recipes.h"
 #include "recipes/reference_recipes.h"
@@ -93,22 +94,28 @@ void refuseWithoutSource(const BuildOptions& options, const TaskMap& tasks, Buil
     }
 }
 
-void addConcordances(const BuildOptions& options, const UserSources& user, const TaskMap& tasks,
+// A concordance is made with its version, or alone when it is named; a user's own table goes before
+// the words of the version.
+void addConcordances(const BuildOptions& options, const TaskMap& tasks, const UserSources& user,
                      BuildPlan& plan)
 {
-    QSet<QString> asked = options.onlyFiles;
-    for (const auto& [code, task] : tasks) {
-        ConcordanceTask words(task);
-        const bool named = asked.remove(words.file);
-        if (!named && (!options.makesAll() || isMadeOnRequest(code)))
+    std::map<int, std::unique_ptr<const ModuleTask>> concordances;
+    for (const auto& [code, task] : tasks)
+        if (isWanted(options, code) || options.onlyFiles.contains(concordanceFile(code)))
+            concordances[code] = std::make_unique<ConcordanceTask>(task);
+    for (const auto& [name, table] : user.tables) {
+        const int code = concordanceOfTable(name);
+        if (code == 0)
             continue;
-        // A user's own list goes before the one that is made of the text.
-        const auto own = user.tables.find(words.file + u".tsv"_s);
-        if (own == user.tables.end())
-            plan.tasks.push_back(std::make_unique<ConcordanceTask>(std::move(words)));
-        else
-            plan.tasks.push_back(
-                std::make_unique<ReferenceTask>(ownConcordanceTask(code, own->second)));
+        if (catalogueName(code).isEmpty() && !isUserVersion(code))
+            plan.remarks << u"%1: 없는 역본 번호입니다: %2"_s.arg(code).arg(table);
+        else if (isWanted(options, concordanceFile(code)) || options.only.contains(code))
+            concordances[code] = std::make_unique<ReferenceTask>(ownConcordanceTask(code, table));
+    }
+    QSet<QString> asked = options.onlyFiles;
+    for (auto& [code, task] : concordances) {
+        asked.remove(task->file);
+        plan.tasks.push_back(std::move(task));
     }
     for (const QString& file : asked)
         if (referenceFile(file).isEmpty())
@@ -125,8 +132,11 @@ Result<BuildPlan> planOneModule(const BuildOptions& options, const SourceFolders
                        u"원본을 찾을 수 없습니다: %1"_s.arg(options.files.join(u' '))};
     BuildPlan plan;
     plan.mode = options.mode;
-    plan.tasks.push_back(std::make_unique<VersionTask>(userTask(
-        options.moduleCode, options.moduleName, source.value(), folders, options.renumbering)));
+    VersionTask task = userTask(options.moduleCode, options.moduleName, source.value(), folders,
+                                options.renumbering);
+    task.shareText();
+    plan.tasks.push_back(std::make_unique<VersionTask>(task));
+    plan.tasks.push_back(std::make_unique<ConcordanceTask>(task));
     return plan;
 }
 
@@ -165,7 +175,7 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     for (const auto& [code, task] : tasks)
         if (isWanted(options, code))
             plan.tasks.push_back(std::make_unique<VersionTask>(task));
-    addConcordances(options, user, tasks, plan);
+    addConcordances(options, tasks, user, plan);
     ReferenceSources references = installedReferences(folders);
     plan.remarks << takeOwnFiles(user, references);
     for (const ReferenceTask& task : referenceTasks(*plan.corpus, references))

@@ -4,6 +4,7 @@
 #include "cli/build_command.h"
 #include "cli/build_options.h"
 #include "cli/console.h"
+#include "recipes/concordance_task.h"
 #include "recipes/original_recipes.h"
 #include "recipes/recipes.h"
 #include "recipes/reference_recipes.h"
@@ -53,6 +54,15 @@ void listTasks(const auto& tasks, const QString& folder)
             u"%1 %2: %3 [%4]"_s.arg(task.file, task.name, stateOf(task, folder), task.origin));
 }
 
+// The versions, then the concordances that are made with them.
+void listVersions(std::vector<VersionTask> versions, const std::vector<VersionTask>& more,
+                  const QString& folder)
+{
+    versions.insert(versions.end(), more.begin(), more.end());
+    listTasks(versions, folder);
+    listTasks(std::vector<ConcordanceTask>(versions.begin(), versions.end()), folder);
+}
+
 } // namespace
 
 int runList(const QStringList& args)
@@ -69,8 +79,8 @@ int runList(const QStringList& args)
     const QString folder = parsed.value().value(u"out"_s, defaultDataFolder());
     const SourceFolders sources = installedFolders();
     OriginalCorpus corpus(installedOriginals(sources));
-    listTasks(installedTasks(sources, Renumbering::Keep), folder);
-    listTasks(originalVersionTasks(corpus, {}), folder);
+    listVersions(installedTasks(sources, Renumbering::Keep), originalVersionTasks(corpus, {}),
+                 folder);
     listTasks(referenceTasks(corpus, installedReferences(sources)), folder);
     printLine(u"개역한글(101)과 개역한자(102)는 JSON 파일로, 다른 역본은 SWORD, OSIS, USFM 파일로 "
               u"만들 수 "

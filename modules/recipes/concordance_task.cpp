@@ -6,14 +6,26 @@
 #include "reference/module_stamp.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace lumen {
 
 using namespace Qt::StringLiterals;
 
+QString concordanceFile(int code)
+{
+    return QString::number(code) + u'c';
+}
+
+int concordanceOfTable(const QString& name)
+{
+    static const QRegularExpression form(u"^(\\d{3})c\\.tsv$"_s);
+    return form.match(name).captured(1).toInt();
+}
+
 ConcordanceTask::ConcordanceTask(const VersionTask& version) : m_version(version)
 {
-    file = version.file + u'c';
+    file = concordanceFile(version.code());
     name = version.name + u" 성구사전"_s;
     origin = version.origin;
     licence = version.licence;
@@ -28,6 +40,11 @@ bool ConcordanceTask::sourcesAreThere() const
 QString ConcordanceTask::stamp() const
 {
     return stampOf(u"성구사전\n"_s + m_version.stamp());
+}
+
+bool ConcordanceTask::isCurrent(const QString& stored) const
+{
+    return stored.startsWith(kOwnMark) || ModuleTask::isCurrent(stored);
 }
 
 Result<Done> ConcordanceTask::build(const BuildContext& context, ModuleStore& store,

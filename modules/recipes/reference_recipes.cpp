@@ -5,9 +5,10 @@
 #include "original/parsing_search.h"
 #include "original/strong_dictionaries.h"
 #include "original/word_analysis.h"
+#include "recipes/concordance_task.h"
 #include "reference/commentaries.h"
-#include "reference/concordance.h"
 #include "reference/cross_references.h"
+#include "reference/own_concordance.h"
 #include "reference/scratch_tables.h"
 #include "reference/tune_files.h"
 
@@ -269,12 +270,15 @@ QStringList takeOwnFiles(const UserSources& user, ReferenceSources& sources)
 ReferenceTask ownConcordanceTask(int code, const QString& file)
 {
     Recipe recipe;
-    recipe.file = QString::number(code) + u'c';
-    recipe.name = catalogueName(code) + u" 성구사전"_s;
+    const QString name = catalogueName(code);
+    recipe.file = concordanceFile(code);
+    recipe.name = (name.isEmpty() ? u"사용자 역본"_s : name) + u" 성구사전"_s;
     recipe.sources << file;
     recipe.origin = kOwnOrigin;
     recipe.licence = kOwnLicence;
-    recipe.fill = [file](ModuleStore& store) { return fillOwnConcordance(file, store); };
+    recipe.fill = [file, code](ModuleStore& store) {
+        return fillOwnConcordance(file, code, store);
+    };
     recipe.supply = Supply::Own;
     return taskOf(recipe);
 }

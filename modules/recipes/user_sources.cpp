@@ -2,6 +2,7 @@
 #include "recipes/user_sources.h"
 
 #include "original/original_versions.h"
+#include "recipes/concordance_task.h"
 #include "recipes/korean_edition.h"
 #include "recipes/recipes.h"
 #include "sources/book_names.h"
@@ -50,8 +51,8 @@ constexpr std::array kTableNames{
 
 bool isTableName(const QString& name)
 {
-    static const QRegularExpression concordance(u"^\\d{3}c\\.tsv$"_s);
-    return std::ranges::find(kTableNames, name) != kTableNames.end() || name.contains(concordance);
+    return std::ranges::find(kTableNames, name) != kTableNames.end() ||
+           concordanceOfTable(name) != 0;
 }
 
 class FolderSearch

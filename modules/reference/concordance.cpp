@@ -4,8 +4,6 @@
 #include "canon/verse_index.h"
 #include "data/concordance_word.h"
 #include "data/versions.h"
-#include "sources/user_places.h"
-#include "sources/user_table.h"
 #include "text/field_scramble.h"
 
 #include <QHash>
@@ -13,7 +11,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <map>
 
 namespace lumen {
 
@@ -81,58 +78,31 @@ void addCharacters(std::vector<IndexWord>& words, const QString& token, int code
         add(words, character, character);
 }
 
-// The verses of a word, by their places in the text.
-struct Occurrences
+void addOccurrence(std::vector<WordVerse>& verses, const QString& key)
 {
-    struct InVerse
-    {
-        std::size_t verse = 0;
-        int count = 0;
-    };
+    if (verses.empty() || verses.back().key != key)
+        verses.push_back({key, 0});
+    ++verses.back().count;
+}
 
-    std::vector<InVerse> verses;
+} // namespace
 
-    void add(std::size_t verse)
-    {
-        if (verses.empty() || verses.back().verse != verse)
-            verses.push_back({verse, 0});
-        ++verses.back().count;
-    }
-};
-
-bool writeWord(const QString& stored, const Occurrences& found, const std::vector<QString>& keys,
-               ModuleStore& store)
+bool addConcordanceRows(const QString& stored, const std::vector<WordVerse>& verses,
+                        ModuleStore& store)
 {
-    for (std::size_t first = 0; first < found.verses.size(); first += kVersesPerRow) {
-        const std::size_t end = std::min(first + kVersesPerRow, found.verses.size());
+    for (std::size_t first = 0; first < verses.size(); first += kVersesPerRow) {
+        const std::size_t end = std::min(first + kVersesPerRow, verses.size());
         QStringList places;
         int count = 0;
         for (std::size_t i = first; i < end; ++i) {
-            places << keys[found.verses[i].verse];
-            count += found.verses[i].count;
+            places << verses[i].key;
+            count += verses[i].count;
         }
         if (!store.addRow(kTable, {stored, places.join(u';'), count}))
             return false;
     }
     return true;
 }
-
-bool writeWords(const QHash<QString, Occurrences>& found, const std::vector<QString>& keys,
-                ModuleStore& store)
-{
-    // Rows of one word stand together, in the order that a look for a beginning reads.
-    std::vector<std::pair<QString, const Occurrences*>> order;
-    order.reserve(static_cast<std::size_t>(found.size()));
-    for (auto word = found.cbegin(); word != found.cend(); ++word)
-        order.emplace_back(DES::ScrambleField(word.key()), &word.value());
-    std::ranges::sort(order, {}, &std::pair<QString, const Occurrences*>::first);
-    store.expect(order.size());
-    store.createTable(concordanceTable());
-    return std::ranges::all_of(
-        order, [&](const auto& word) { return writeWord(word.first, *word.second, keys, store); });
-}
-
-} // namespace
 
 std::vector<IndexWord> indexWords(const QString& text, int code)
 {
@@ -164,64 +134,33 @@ TableSchema concordanceTable()
 
 Result<ModuleReport> fillConcordance(const VersionText& version, int code, ModuleStore& store)
 {
-    QHash<QString, Occurrences> found;
-    std::vector<QString> keys;
+    using Verses = std::vector<WordVerse>;
+    QHash<QString, Verses> found;
     int occurrences = 0;
     for (const VerseText& verse : version.verses) {
-        const std::size_t place = keys.size();
-        keys.push_back(BibleCode::verseKey(verse.book, verse.chapter, verse.verse));
+        const QString key = BibleCode::verseKey(verse.book, verse.chapter, verse.verse);
         for (const IndexWord& word : indexWords(verse.text.value_or(QString()), code)) {
             ++occurrences;
-            found[word.word].add(place);
+            addOccurrence(found[word.word], key);
             if (!word.typed.isEmpty())
-                found[word.typed].add(place);
+                addOccurrence(found[word.typed], key);
         }
     }
-    if (!writeWords(found, keys, store))
-        return Failure{FailureKind::Cancelled, {}};
+    // Rows of one word stand together, in the order that a look for a beginning reads.
+    std::vector<std::pair<QString, const Verses*>> order;
+    order.reserve(static_cast<std::size_t>(found.size()));
+    for (auto word = found.cbegin(); word != found.cend(); ++word)
+        order.emplace_back(DES::ScrambleField(word.key()), &word.value());
+    std::ranges::sort(order, {}, &std::pair<QString, const Verses*>::first);
+    store.expect(order.size());
+    store.createTable(concordanceTable());
+    for (const auto& [stored, where] : order)
+        if (!addConcordanceRows(stored, *where, store))
+            return Failure{FailureKind::Cancelled, {}};
     ModuleReport report;
     const QLocale korean(QLocale::Korean);
-    report.facts << u"낱말 %1"_s.arg(korean.toString(found.size()))
+    report.facts << u"낱말 %1"_s.arg(korean.toString(static_cast<int>(order.size())))
                  << u"모두 %1번"_s.arg(korean.toString(occurrences));
-    return report;
-}
-
-Result<ModuleReport> fillOwnConcordance(const QString& file, ModuleStore& store)
-{
-    const auto lines = readUserTable(file, {{u"낱말"_s, u"성구"_s, u"횟수"_s}, 2});
-    if (!lines)
-        return lines.failure();
-    TableFaults faults(file);
-    std::map<QString, std::vector<QVariantList>> words; // rows by the stored word
-    for (const TableLine& line : lines.value()) {
-        QStringList keys;
-        for (const QString& reference : UserPlaces::parts(line.cells[1])) {
-            if (const auto key = UserPlaces::verseKey(reference))
-                keys << *key;
-            else
-                faults.add(line.number, u"없는 성구임: %1"_s.arg(reference));
-        }
-        bool isNumber = true;
-        const int count = line.cells[2].isEmpty() ? static_cast<int>(keys.size())
-                                                  : line.cells[2].toInt(&isNumber);
-        if (line.cells[0].isEmpty() || keys.isEmpty())
-            faults.add(line.number, u"낱말이나 성구가 비어 있음"_s);
-        if (!isNumber || count < 0)
-            faults.add(line.number, u"횟수가 수가 아님: %1"_s.arg(line.cells[2]));
-        const QString stored = DES::ScrambleField(line.cells[0].toLower());
-        words[stored].push_back({stored, keys.join(u';'), count});
-    }
-    if (!faults.isEmpty())
-        return faults.failure();
-    store.expect(lines.value().size());
-    store.createTable(concordanceTable());
-    for (const auto& [word, rows] : words)
-        for (const QVariantList& row : rows)
-            if (!store.addRow(kTable, row))
-                return Failure{FailureKind::Cancelled, {}};
-    ModuleReport report;
-    report.facts << u"낱말 %1"_s.arg(
-        QLocale(QLocale::Korean).toString(static_cast<int>(words.size())));
     return report;
 }
 

@@ -26,14 +26,22 @@ struct IndexWord
 /// with Hangul and the same in Hanja in brackets gives two.
 std::vector<IndexWord> indexWords(const QString& text, int code);
 
+/// How often a word occurs in a verse, which is told by its key.
+struct WordVerse
+{
+    QString key;
+    int count = 0;
+};
+
+/// The rows of one word, whose text is stored already; its verses in canon order, 1,000 a row.
+/// False once the work is to be stopped.
+[[nodiscard]] bool addConcordanceRows(const QString& stored, const std::vector<WordVerse>& verses,
+                                      ModuleStore& store);
+
 /// The table of a concordance: every word of a version with its verses and the number of times that
 /// it occurs in them. A word of more than 1,000 verses has several rows. Cancelled when the store
 /// says so.
 Result<ModuleReport> fillConcordance(const VersionText& version, int code, ModuleStore& store);
-
-/// The same out of a user's table: word, verses ("창1:1;요3:16"), number of times, which is the
-/// number of verses unless told.
-Result<ModuleReport> fillOwnConcordance(const QString& file, ModuleStore& store);
 
 /// The table of concordances.
 TableSchema concordanceTable();

@@ -3,6 +3,7 @@
 #include "cli/build_run.h"
 #include "modules/source_files.h"
 #include "recipes/user_sources.h"
+#include "reference/reference_task.h"
 
 #include <gtest/gtest.h>
 
@@ -22,6 +23,13 @@ protected:
         return files.write(name,
                            u"{\"book\": \"룻기\", \"chapters\": [{\"chapter\": 1, \"verses\": "
                            u"[{\"verse\": 1, \"text\": \"%1\"%2}]}]}"_s.arg(text, more));
+    }
+    static QStringList filesOf(const BuildPlan& plan)
+    {
+        QStringList names;
+        for (const auto& task : plan.tasks)
+            names << task->file;
+        return names;
     }
     const BuildPlan& plan(bool baptist = false)
     {
@@ -125,10 +133,37 @@ TEST_F(BuildPlanTest, OnlyWhatIsAskedForAndTellsWhatHasNoSource)
     options.only = {201, 101, 103};
     const auto plan = planBuild(options, {});
     ASSERT_TRUE(plan.ok());
-    ASSERT_EQ(plan.value().tasks.size(), 1U);
-    EXPECT_EQ(plan.value().tasks[0]->file, u"201"_s);
+    EXPECT_EQ(filesOf(plan.value()), (QStringList{u"201"_s, u"201c"_s}));
     EXPECT_EQ(plan.value().refused.size(), 2U);
     EXPECT_EQ(plan.value().refused[0].state, ModuleState::SourceMissing);
+}
+
+TEST_F(BuildPlanTest, AConcordanceOfTheUsersGoesBeforeTheWordsOfItsVersion)
+{
+    const QString table = files.write(u"user/words/201c.tsv"_s, u"x\t창1:1"_s);
+    files.write(u"user/words/104C.tsv"_s, u"x\t창1:1"_s);
+    files.write(u"user/words/555c.tsv"_s, u"x\t창1:1"_s);
+    BuildOptions options;
+    options.sourceFolder = files.path(u"user"_s);
+    options.only = {201};
+    options.onlyFiles = {u"104c"_s, u"205c"_s, u"106c"_s};
+    const auto plan = planBuild(options, {});
+    ASSERT_TRUE(plan.ok());
+    EXPECT_EQ(filesOf(plan.value()), (QStringList{u"201"_s, u"104c"_s, u"201c"_s, u"205c"_s}));
+    const auto* own = dynamic_cast<const ReferenceTask*>(plan.value().tasks[2].get());
+    ASSERT_NE(own, nullptr);
+    EXPECT_EQ(own->sources, QStringList{table});
+    ASSERT_EQ(plan.value().refused.size(), 1U);
+    EXPECT_EQ(plan.value().refused[0].file, u"106c"_s);
+    EXPECT_TRUE(plan.value().remarks.join(u'\n').contains(u"555c.tsv"_s));
+    // Once made it stays when the table isn't named; a version's own is made anew.
+    options.sourceFolder.clear();
+    const auto without = planBuild(options, {});
+    const ModuleTask& words = *without.value().tasks[1];
+    ASSERT_EQ(words.file, u"201c"_s);
+    EXPECT_TRUE(words.isCurrent(own->stamp()));
+    EXPECT_FALSE(words.isCurrent(u"x"_s));
+    EXPECT_FALSE(own->isCurrent(words.stamp()));
 }
 
 TEST_F(BuildPlanTest, TakesNamedFilesForOneModule)
@@ -140,7 +175,7 @@ TEST_F(BuildPlanTest, TakesNamedFilesForOneModule)
     options.files = {files.write(u"a.xml"_s, u"<osis/>"_s)};
     const auto plan = planBuild(options, {});
     ASSERT_TRUE(plan.ok());
-    ASSERT_EQ(plan.value().tasks.size(), 1U);
+    EXPECT_EQ(filesOf(plan.value()), (QStringList{u"905"_s, u"905c"_s}));
     EXPECT_EQ(plan.value().tasks[0]->name, u"시험"_s);
     options.files = {files.path(u"none.xml"_s)};
     EXPECT_EQ(planBuild(options, {}).failure().kind, FailureKind::NotFound);

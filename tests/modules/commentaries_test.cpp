@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
 #include "reference/commentaries.h"
-#include "reference/concordance.h"
 #include "text/field_scramble.h"
 
 #include <gtest/gtest.h>
@@ -87,10 +86,6 @@ TEST(OwnTables, EveryBadLineIsToldByFileLineAndReason)
          {u"own.tsv:2: 성경에 없는 장임: 창99"_s,
           u"own.tsv:3: 절이 \"3-5\", \"5\"나 빈칸이 아님: 셋"_s}},
         {u"창1\t글\n없음1\t글\n"_s, fillOwnWesley, {u"own.tsv:2: 성경에 없는 장임: 없음1"_s}},
-        {u"빛\t창1:3;요1:4\t3\n땅\t창1:99\n물\t창1:2\t둘\n"_s,
-         fillOwnConcordance,
-         {u"own.tsv:2: 없는 성구임: 창1:99"_s, u"own.tsv:2: 낱말이나 성구가 비어 있음"_s,
-          u"own.tsv:3: 횟수가 수가 아님: 둘"_s}},
     };
     for (const Row& row : rows) {
         const QString table = files.write(u"own.tsv"_s, row.table);

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
 #include "reference/concordance.h"
+#include "reference/own_concordance.h"
 #include "text/field_scramble.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace lumen {
 namespace {
@@ -57,6 +60,41 @@ TEST(ConcordanceModule, AWordOfManyVersesHasSeveralRowsThatSumUp)
     EXPECT_EQ(sum, 2 * 6 * 176);
     EXPECT_EQ(rows[0][2], 1000 * 12 - 1) << "a thousand keys of eleven letters";
     EXPECT_EQ(report.value().facts.last(), u"모두 3,168번"_s);
+}
+
+TEST(ConcordanceModule, ATableOfTheUsersIsReadAndItsBadLinesAreTold)
+{
+    const SourceFiles files;
+    const QString table = files.path(u"201c.tsv"_s);
+    const QString file = files.path(u"201c.dts"_s);
+    const auto fill = [&](const QByteArray& lines) {
+        files.write(u"201c.tsv"_s, lines);
+        ModuleStore store(file, StoreUse::OnlyRead, {}, [](double) { return true; });
+        const auto report = fillOwnConcordance(table, 201, store);
+        if (report)
+            store.commit();
+        return report ? QString() : QString(report.failure().detail).remove(table);
+    };
+    const auto rows = [&] { return storeRows(file, u"select Word, Pos, num from 성구사전"_s); };
+    ASSERT_EQ(fill("God's\t요3:16 ; 창1:1\t5\n"
+                   "# 고후13:14 stands in English Bibles only\n"
+                   "Grace\t고후13:14\n"
+                   "grace\t창6:8;고후13:14\n"),
+              QString());
+    const std::vector<QVariantList> made = {
+        {DES::ScrambleField(u"gods"_s), u"01창:001:001;43요:003:016"_s, 5},
+        {DES::ScrambleField(u"grace"_s), u"01창:006:008;47고후:013:014"_s, 3}};
+    auto found = rows();
+    std::ranges::sort(found, {}, [](const QVariantList& row) { return row[1].toString(); });
+    EXPECT_EQ(found, made);
+    EXPECT_EQ(fill("?!\t창1:1\nx\t창1:32;없1:1\t2\nx\t\nx\t창1:1;창1:2\t1\nx\t창1:1\tmany\n"),
+              u":1: 찾을 수 없는 낱말: ?!\n"
+              ":2: 성경에 없는 절: 창1:32\n"
+              ":2: 성경에 없는 절: 없1:1\n"
+              ":3: 절이 없음\n"
+              ":4: 횟수가 절의 수(2)보다 작거나 수가 아님: 1\n"
+              ":5: 횟수가 절의 수(1)보다 작거나 수가 아님: many"_s);
+    EXPECT_EQ(rows().size(), 2U) << "the module that was there stays";
 }
 
 } // namespace

@@ -197,7 +197,7 @@ TEST(OriginalPlan, TakesNamesAndCodesAsTheyAreAskedFor)
     QStringList planned;
     for (const auto& task : plan.value().tasks)
         planned << task->file;
-    EXPECT_EQ(planned, (QStringList{u"301"_s, u"z101"_s, u"CRef"_s}));
+    EXPECT_EQ(planned, (QStringList{u"301"_s, u"301c"_s, u"z101"_s, u"CRef"_s}));
     EXPECT_FALSE(parseBuildOptions({u"--only"_s, u"z104"_s}).ok());
 }
 
