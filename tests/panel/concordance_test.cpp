@@ -145,6 +145,11 @@ TEST_F(ConcordanceTest, AnotherVersionBeginsAnewAndHasItsOwnRules)
     EXPECT_EQ(tab->tx성구사전검색어->text(), u"cb"_s);
     lookUp(u"ab"_s);
     EXPECT_EQ(words(), QStringList{u"abc"_s}) << "without a count, in small letters";
+    const FlexGrid& grid = *tab->flex성구결과;
+    EXPECT_GE(grid.rowHeight(0), grid.fontMetrics().height());
+    EXPECT_LT(grid.rowHeight(0), 2 * grid.fontMetrics().height());
+    EXPECT_GT(tab->cbConcVer->minimumSizeHint().width(),
+              tab->cbConcVer->fontMetrics().horizontalAdvance(u"개역한글"_s));
     EXPECT_EQ(status, u"'BHS'에서 검색된 성구 수: 1 (현재 항목 수: 1)"_s);
 }
 

@@ -18,7 +18,9 @@
 #include "platform/controls/bars/wrapping_row.h"
 #include "platform/dialogs/message_boxes.h"
 
+#include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -31,6 +33,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTextPoints = 10;
+constexpr int kRowMargin = 4;     // pixels
+constexpr int kVersionLength = 8; // letters of a version's name, half a Hangul each
 
 /// Keeps the caret of a box at the writing end of Hebrew.
 class HebrewCaret : public QObject
@@ -117,6 +121,8 @@ void ConcordanceLookup::showFonts()
     const QFont font(version.font, scaledSize(version.factor, kTextPoints));
     m_controls.word.setFont(font);
     m_controls.words.setFont(font);
+    m_controls.words.verticalHeader()->setDefaultSectionSize(QFontMetrics(font).height() +
+                                                             kRowMargin);
     m_controls.word.setAlignment(isHebrewVersion(code()) ? Qt::AlignRight : Qt::AlignLeft);
 }
 
@@ -254,6 +260,7 @@ Concordance::Concordance(const PanelHost& host)
 void Concordance::layOut()
 {
     cbConcVer->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cbConcVer->setMinimumContentsLength(kVersionLength);
     auto* words = new QHBoxLayout;
     words->addWidget(tx성구사전검색어, 1);
     words->addWidget(cmd성구사전검색);
