@@ -19,8 +19,7 @@ void tellPageFailure(Services& services, QWidget* parent, const MessageText& mis
                      const Failure& failure)
 {
     const MessageText& message = failure.kind == FailureKind::System ? kNoBrowser : missing;
-    services.messages.show(parent, QString::fromUtf16(message.title),
-                           QString::fromUtf16(message.text).arg(failure.detail), message.flags);
+    services.messages.show(parent, message, {failure.detail});
 }
 
 } // namespace lumen

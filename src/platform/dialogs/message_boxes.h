@@ -22,14 +22,9 @@ public:
     virtual Answer show(QWidget* parent, const QString& title, const QString& text, int flags,
                         const QString& advice) = 0;
 
-    Answer show(QWidget* parent, const MessageText& message)
-    {
-        return show(parent, QString::fromUtf16(message.title), QString::fromUtf16(message.text),
-                    message.flags, message.advice ? QString::fromUtf16(message.advice) : QString());
-    }
-    /// The same with %1, %2, ... of the text taken from `arguments`, which may hold signs like
-    /// them.
-    Answer show(QWidget* parent, const MessageText& message, const QStringList& arguments)
+    /// A message with its advice; %1, %2, ... of the text are taken from `arguments`, which may
+    /// hold signs like them.
+    Answer show(QWidget* parent, const MessageText& message, const QStringList& arguments = {})
     {
         QString text = QString::fromUtf16(message.text);
         const auto mark = [](qsizetype place) {
@@ -39,7 +34,8 @@ public:
             text.replace(u'%' + QString::number(place), mark(place));
         for (qsizetype place = 1; place <= arguments.size(); ++place)
             text.replace(mark(place), arguments[place - 1]);
-        return show(parent, QString::fromUtf16(message.title), text, message.flags);
+        return show(parent, QString::fromUtf16(message.title), text, message.flags,
+                    message.advice ? QString::fromUtf16(message.advice) : QString());
     }
 };
 
