@@ -11,6 +11,8 @@
 #include "tools/preferences_dialog.h"
 #include "tools/user_version_dialog.h"
 
+#include <utility>
+
 namespace lumen {
 
 Windows::Windows(Services& services, AppState& state) : m_services(services), m_state(state) {}
@@ -23,37 +25,38 @@ void Windows::setReader(frm성서& reader)
     reader.closeToolWindows = [this] { return closeAll(); };
 }
 
+template <typename Window>
+void Windows::raise(std::unique_ptr<Window>& window)
+{
+    if (!window)
+        window = std::make_unique<Window>(m_services, m_state, m_reader->model);
+    if (!window->isVisible())
+        window->Form_Load();
+    raiseWindow(*window);
+}
+
+template <typename Dialog, typename... Arguments>
+void Windows::runModally(Arguments&&... arguments)
+{
+    Dialog dialog(std::forward<Arguments>(arguments)...);
+    if constexpr (requires { dialog.Form_Load(); })
+        dialog.Form_Load();
+    m_services.modal.run(dialog);
+}
+
 void Windows::open(WindowId window)
 {
     switch (window) {
     case WindowId::Search:
-        if (!m_search)
-            m_search = std::make_unique<frm성서검색>(m_services, m_state, m_reader->model);
-        if (!m_search->isVisible())
-            m_search->Form_Load();
-        raiseWindow(*m_search);
-        break;
-    case WindowId::Extract: {
-        dlog성서추출 dialog(m_services, m_state);
-        dialog.Form_Load();
-        m_services.modal.run(dialog);
-        break;
-    }
-    case WindowId::Preferences: {
-        dlog환경설정 dialog(m_services, m_reader->model);
-        m_services.modal.run(dialog);
-        break;
-    }
-    case WindowId::UserVersionPreferences: {
-        dlogUserVersionPref dialog(m_services, m_reader->model);
-        m_services.modal.run(dialog);
-        break;
-    }
-    case WindowId::About: {
-        frmAbout about;
-        m_services.modal.run(about);
-        break;
-    }
+        return raise(m_search);
+    case WindowId::Extract:
+        return runModally<dlog성서추출>(m_services, m_state);
+    case WindowId::Preferences:
+        return runModally<dlog환경설정>(m_services, m_reader->model);
+    case WindowId::UserVersionPreferences:
+        return runModally<dlogUserVersionPref>(m_services, m_reader->model);
+    case WindowId::About:
+        return runModally<frmAbout>();
     }
 }
 

@@ -34,6 +34,14 @@ public:
     bool closeAll();
 
 private:
+    /// Makes a tool window at its first use, fills it afresh when it is closed, brings it to the
+    /// front.
+    template <typename Window>
+    void raise(std::unique_ptr<Window>& window);
+    /// Makes a dialog, fills it where it has something to fill, and waits for its end.
+    template <typename Dialog, typename... Arguments>
+    void runModally(Arguments&&... arguments);
+
     Services& m_services;
     AppState& m_state;
     TypingWatch m_typing{*QCoreApplication::instance()}; ///< for the boxes of all windows

@@ -33,6 +33,20 @@ constexpr std::array kVersionMenus{u"ID_기본버전", u"ID_대역본1", u"ID_�
 /// The product's web page; the value HomePage of the reader's settings names another one.
 constexpr QStringView kHomePage = u"https://lumenscript.example/";
 
+/// A tool that opens a window of its own.
+struct WindowTool
+{
+    QStringView id;
+    WindowId window;
+};
+constexpr std::array kWindowTools{
+    WindowTool{u"ID_검색", WindowId::Search},
+    WindowTool{u"ID_본문추출", WindowId::Extract},
+    WindowTool{u"ID_환경설정", WindowId::Preferences},
+    WindowTool{u"ID_사용자역본환경설정", WindowId::UserVersionPreferences},
+    WindowTool{u"ID_루멘스크립트에대하여", WindowId::About},
+};
+
 struct LineSpacingTool
 {
     QStringView id;
@@ -236,12 +250,8 @@ void frm성서::bindMoveTools()
 
 void frm성서::bindWindowTools()
 {
-    m_tools.on(u"ID_검색", [this] { m_windows.open(WindowId::Search); });
-    m_tools.on(u"ID_본문추출", [this] { m_windows.open(WindowId::Extract); });
-    m_tools.on(u"ID_환경설정", [this] { m_windows.open(WindowId::Preferences); });
-    m_tools.on(u"ID_사용자역본환경설정",
-               [this] { m_windows.open(WindowId::UserVersionPreferences); });
-    m_tools.on(u"ID_루멘스크립트에대하여", [this] { m_windows.open(WindowId::About); });
+    for (const WindowTool& tool : kWindowTools)
+        m_tools.on(tool.id, [this, window = tool.window] { m_windows.open(window); });
     m_tools.on(u"ID_인터넷", [this] {
         const QString& own = m_settings.HomePage;
         openPage(own.isEmpty() ? kHomePage : QStringView(own));
