@@ -34,6 +34,7 @@ struct EditRow
 
 // clang-format off
 constexpr std::array kRows{
+    EditRow{EditCommand::Undo, &EditToolIds::undo, &EditState::undo, u"실행 취소(&Z)", u"Ctrl+Z"},
     EditRow{EditCommand::Cut, &EditToolIds::cut, &EditState::cut, u"잘라내기(&T)", u"Ctrl+X", u"cut"},
     EditRow{EditCommand::Copy, &EditToolIds::copy, &EditState::copy, u"복사(&C)", u"Ctrl+C", u"copy"},
     EditRow{EditCommand::CopyUnicode, &EditToolIds::copyUnicode, &EditState::copyUnicode, u"유니코드로 복사(&U)", u"Ctrl+Shift+C", u"copy-unicode"},
@@ -49,16 +50,27 @@ bool clipboardHasText()
     return content && content->hasText();
 }
 
-EditState textState(bool readOnly, bool selected, bool empty)
+EditState textState(bool readOnly, bool selected, bool empty, bool changed)
 {
     const bool editable = !readOnly;
-    return {editable && selected, selected, editable && clipboardHasText(), editable && selected,
-            !empty};
+    return {.cut = editable && selected,
+            .copy = selected,
+            .paste = editable && clipboardHasText(),
+            .remove = editable && selected,
+            .selectAll = !empty,
+            .undo = editable && changed};
+}
+
+template <typename TextBox>
+EditState textStateOf(const TextBox& box)
+{
+    return textState(box.isReadOnly(), box.textCursor().hasSelection(), box.document()->isEmpty(),
+                     box.document()->isUndoAvailable());
 }
 
 EditState gridState(const FlexGrid& grid)
 {
-    return {false, grid.Row() >= 0, false, false, grid.Rows() > grid.FixedRows()};
+    return {.copy = grid.Row() >= 0, .selectAll = grid.Rows() > grid.FixedRows()};
 }
 
 // The text part of a combo, or the control itself when it is a text line.
@@ -74,6 +86,9 @@ Line* lineOf(Control* control)
 void runOnLine(EditCommand command, QLineEdit& line)
 {
     switch (command) {
+    case EditCommand::Undo:
+        line.undo();
+        break;
     case EditCommand::Cut:
         line.cut();
         break;
@@ -98,6 +113,9 @@ template <typename TextBox>
 void runOnText(EditCommand command, TextBox& box)
 {
     switch (command) {
+    case EditCommand::Undo:
+        box.undo();
+        break;
     case EditCommand::Cut:
         box.cut();
         break;
@@ -150,6 +168,8 @@ std::vector<ToolRow> editMenuRows(const EditToolIds& ids)
             rows.push_back({u"", u"", ToolKind::Separator, ids.menu});
         rows.push_back(
             {ids.*row.id, row.caption, ToolKind::Button, ids.menu, row.shortcut, row.icon});
+        if (row.command == EditCommand::Undo)
+            rows.push_back({u"", u"", ToolKind::Separator, ids.menu});
     }
     return rows;
 }
@@ -172,7 +192,7 @@ void EditMenu::bind(ToolDispatch& tools)
         if (!(m_ids.*row.id).isEmpty())
             tools.on(m_ids.*row.id, [this, command = row.command] { run(command); });
     QObject::connect(m_bars.menu(m_ids.menu), &QMenu::aboutToHide, &m_window, [this] {
-        enableTools(m_bars, m_ids, {true, true, true, true, true, true});
+        enableTools(m_bars, m_ids, {true, true, true, true, true, true, true});
     });
 }
 
@@ -184,7 +204,6 @@ void EditMenu::popUp(const QPoint& at) const
 void EditMenu::offerOn(FlexGrid& grid)
 {
     grid.onContextMenu = [this](const QPoint& at) { popUp(at); };
-    grid.onCopy = [this] { run(EditCommand::Copy); };
 }
 
 void EditMenu::offerOn(QLineEdit& box)
@@ -213,13 +232,12 @@ void EditMenu::bringUpToDate() const
 EditState editStateOf(const QWidget* control)
 {
     if (const auto* line = lineOf<const QLineEdit>(control))
-        return textState(line->isReadOnly(), line->hasSelectedText(), line->text().isEmpty());
+        return textState(line->isReadOnly(), line->hasSelectedText(), line->text().isEmpty(),
+                         line->isUndoAvailable());
     if (const auto* box = qobject_cast<const QTextEdit*>(control))
-        return textState(box->isReadOnly(), box->textCursor().hasSelection(),
-                         box->document()->isEmpty());
+        return textStateOf(*box);
     if (const auto* box = qobject_cast<const QPlainTextEdit*>(control))
-        return textState(box->isReadOnly(), box->textCursor().hasSelection(),
-                         box->document()->isEmpty());
+        return textStateOf(*box);
     if (const auto* grid = qobject_cast<const FlexGrid*>(control))
         return gridState(*grid);
     return {};

@@ -17,7 +17,7 @@ class Clipboard;
 class FlexGrid;
 class ToolDispatch;
 
-enum class EditCommand { Cut, Copy, CopyUnicode, Paste, Delete, SelectAll };
+enum class EditCommand { Undo, Cut, Copy, CopyUnicode, Paste, Delete, SelectAll };
 
 /// What the focused control offers.
 struct EditState
@@ -28,6 +28,7 @@ struct EditState
     bool remove = false;
     bool selectAll = false;
     bool copyUnicode = false; ///< by its window alone
+    bool undo = false;
 
     friend bool operator==(const EditState&, const EditState&) = default;
 };
@@ -37,6 +38,7 @@ struct EditState
 struct EditToolIds
 {
     QStringView menu = u"ID_편집";
+    QStringView undo = u"";
     QStringView cut = u"ID_잘라내기";
     QStringView copy = u"ID_복사";
     QStringView copyUnicode = u"";
@@ -61,7 +63,7 @@ public:
     /// Leads the tools to their commands; the rows are there by then.
     void bind(ToolDispatch& tools);
     void popUp(const QPoint& at) const;
-    /// A control's context menu is the edit menu; a grid's copy key is its copy tool.
+    /// A control's context menu is the edit menu.
     void offerOn(FlexGrid& grid);
     void offerOn(QLineEdit& box);
 
@@ -80,9 +82,9 @@ private:
     EditToolIds m_ids;
 };
 
-/// What a control takes: text boxes and combos with a text all five (cut, copy and delete with a
-/// selection only, paste with text on the clipboard), read-only views and grids copy and
-/// select-all, all others (and nullptr) nothing.
+/// What a control takes: text boxes and combos with a text all (undo after a change, cut, copy and
+/// delete with a selection only, paste with text on the clipboard), read-only views and grids copy
+/// and select-all, all others (and nullptr) nothing.
 EditState editStateOf(const QWidget* control);
 /// Runs a command on a control; nothing happens where editStateOf does not offer it. Text boxes use
 /// the desktop's clipboard themselves; what a grid copies (FlexGrid::selectionText, Hebrew and

@@ -45,7 +45,7 @@ TEST_F(EditCommandsTest, AnEditableBoxOffersWhatItsSelectionAllows)
     EXPECT_EQ(editStateOf(&line), (EditState{true, true, true, true, true}));
     line.clear();
     QGuiApplication::clipboard()->clear();
-    EXPECT_EQ(editStateOf(&line), EditState());
+    EXPECT_EQ(editStateOf(&line), EditState{.undo = true});
 }
 
 TEST_F(EditCommandsTest, AGridCopiesItsRowsToTheWindowsClipboard)
@@ -86,6 +86,8 @@ TEST_F(EditCommandsTest, CommandsWorkOnAllKindsOfTextBoxes)
     run(EditCommand::SelectAll, box);
     run(EditCommand::Delete, box);
     EXPECT_EQ(box.toPlainText(), QString());
+    run(EditCommand::Undo, box);
+    EXPECT_EQ(box.toPlainText(), u"적은 글"_s);
 
     ComboBox combo;
     combo.setEditable(true);
@@ -144,11 +146,11 @@ protected:
         return open;
     }
 
-    const QString m_all = u"잘라내기 복사 붙이기 지우기 전체 선택"_s;
+    const QString all = u"실행 취소 잘라내기 복사 붙이기 지우기 전체 선택"_s;
     QMainWindow window;
     ActiveToolBars bars{window};
     ToolDispatch tools;
-    EditMenu menu{window, bars, clipboard, {.paste = u"ID_붙여넣기"}};
+    EditMenu menu{window, bars, clipboard, {.undo = u"ID_실행취소", .paste = u"ID_붙여넣기"}};
     QLineEdit* box = new QLineEdit(u"말씀"_s);
     ComboBox* combo = new ComboBox;
     FlexGrid* grid = new FlexGrid;
@@ -157,12 +159,13 @@ protected:
 TEST_F(EditMenuTest, ItsToolsFollowTheFocusAndComeAliveAgainBehindIt)
 {
     box->setFocus();
+    QTest::keyClick(box, Qt::Key_A);
     box->selectAll();
-    EXPECT_EQ(offered(), m_all);
+    EXPECT_EQ(offered(), all);
     combo->setFocus();
     EXPECT_EQ(offered(), u"붙이기"_s);
     // A tool that stayed disabled would be dead on its bar and by its key.
-    EXPECT_EQ(enabledTools(), m_all);
+    EXPECT_EQ(enabledTools(), all);
     menu.onState = [this](const QWidget* control, EditState& state) {
         state.remove = control == combo;
     };
@@ -175,6 +178,8 @@ TEST_F(EditMenuTest, ItsToolsActOnTheFocusedControl)
     tools.run(u"ID_전체선택"_s);
     tools.run(u"ID_잘라내기"_s);
     EXPECT_EQ(box->text(), QString());
+    tools.run(u"ID_실행취소"_s);
+    EXPECT_EQ(box->text(), u"말씀"_s);
     combo->setFocus();
     tools.run(u"ID_붙여넣기"_s);
     EXPECT_EQ(combo->Text(), u"말씀"_s);
