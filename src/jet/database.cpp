@@ -4,6 +4,7 @@
 #include "jet/error.h"
 #include "jet/rows/recordset_state.h"
 #include "jet/sql/sql_parser.h"
+#include "jet/store/store_writer.h"
 #include "platform/log.h"
 
 #include <sqlite3.h>
@@ -154,6 +155,39 @@ void Database::AppendTexts(const QString& table, const QString& column, const QS
     insert->bind(1, QVariant(jsonArray(texts)));
     insert->execute();
     m_recordsAffected = sqlite3_changes(connection.handle());
+    connection.noteChange();
+}
+
+void Database::MakeTable(const TableSchema& schema)
+{
+    Connection& connection = writable();
+    if (connection.schema().find(schema.name) != nullptr)
+        throw jetError(ErrorNumber::kTableExists, schema.name);
+    connection.beginWrite();
+    for (const QString& text : creationTexts(schema))
+        connection.statement(text.toUtf8())->execute();
+    connection.noteTableMade();
+}
+
+void Database::WidenText(const QString& table, const QString& column, int size)
+{
+    Connection& connection = writable();
+    const QString name = quotedName(connection.schema().table(table).name);
+    const QString former = quotedName(column);
+    const QString wide = quotedName(column + u" wide"_s);
+    connection.beginWrite();
+    for (const QString& text :
+         {u"ALTER TABLE %1 ADD COLUMN %2 TEXT(%4)"_s, u"UPDATE %1 SET %2 = %3"_s,
+          u"ALTER TABLE %1 DROP COLUMN %3"_s, u"ALTER TABLE %1 RENAME COLUMN %2 TO %3"_s})
+        connection
+            .statement(QString(text)
+                           .replace(u"%1"_s, name)
+                           .replace(u"%2"_s, wide)
+                           .replace(u"%3"_s, former)
+                           .replace(u"%4"_s, QString::number(size))
+                           .toUtf8())
+            ->execute();
+    connection.noteTableMade();
     connection.noteChange();
 }
 

@@ -11,6 +11,7 @@ namespace lumen {
 
 class Connection; // the shared SQLite connection of one file; connection.h
 class OpenRecordsets;
+struct TableSchema;
 
 struct TableDef
 {
@@ -48,6 +49,11 @@ public:
     /// Adds a row for each text, which goes into `column`, the others being Null. A text that a
     /// unique index has already is passed over. Quicker than AddNew and Update by far.
     void AppendTexts(const QString& table, const QString& column, const QStringList& texts);
+    /// Makes a table with its indexes; error 3010 when there is one of that name.
+    void MakeTable(const TableSchema& schema);
+    /// Lets a text column take `size` characters. The column moves behind the others, and
+    /// recordsets that are open go on with the former size until they are opened anew.
+    void WidenText(const QString& table, const QString& column, int size);
     int RecordsAffected() const { return m_recordsAffected; }
     lumen::TableDefs TableDefs() const;
     /// Makes the writes since BeginTrans one step on disk. When an exception or Close comes in

@@ -76,6 +76,15 @@ QString insertText(const TableSchema& schema)
 
 } // namespace
 
+QStringList creationTexts(const TableSchema& schema)
+{
+    QStringList texts{createTableText(schema)};
+    for (const IndexDef& index : schema.indexes)
+        if (!isAutonumberKey(schema, index))
+            texts << createIndexText(schema, index);
+    return texts;
+}
+
 class StoreWriter::Impl
 {
 public:

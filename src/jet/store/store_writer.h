@@ -38,6 +38,9 @@ struct TableSchema
     std::vector<IndexDef> indexes{};
 };
 
+/// The statements that make a table and its indexes in any store, the table first.
+QStringList creationTexts(const TableSchema& schema);
+
 /// How a store is used, which decides the size of its pages.
 enum class StoreUse {
     Written,  ///< single rows change: pages of 4 KB
