@@ -33,20 +33,21 @@ ColumnDef date(const QString& name)
     return {name, FieldType::Date, 0};
 }
 
-// A field of a record stands there twice, plain for searching and as RTF for showing.
-void addFieldPair(TableSchema& table, const QString& name)
+// A text of a record stands there twice, plain for searching and as RTF for showing. What is
+// searched comes first: a scan would have to walk over each long text in front of it.
+TableSchema recordTable(const QString& name, const QStringList& days, const QStringList& texts)
 {
-    table.columns.push_back(memo(name));
-    table.columns.push_back(memo(u"rtf"_s + name));
-}
-
-TableSchema recordTable(const QString& name, const QStringList& fields)
-{
-    TableSchema table{name, {key(u"일련번호"_s), {u"제목"_s, FieldType::Text, kTitleLength}}, {}};
+    TableSchema table{
+        name,
+        {key(u"일련번호"_s), {u"제목"_s, FieldType::Text, kTitleLength}, text(u"분류"_s)},
+        {}};
+    for (const QString& day : days)
+        table.columns.push_back(date(day));
+    for (const QString& each : texts)
+        table.columns.push_back(memo(each));
     table.columns.push_back(memo(u"rtf제목"_s));
-    for (const QString& field : fields)
-        addFieldPair(table, field);
-    table.columns.push_back(text(u"분류"_s));
+    for (const QString& each : texts)
+        table.columns.push_back(memo(u"rtf"_s + each));
     return table;
 }
 
@@ -82,17 +83,13 @@ std::vector<TableSchema> user_file::noteTables()
 
 std::vector<TableSchema> user_file::sermonTables()
 {
-    TableSchema table = recordTable(u"설교"_s, {u"말씀"_s, u"본문"_s, u"기도"_s, u"요약"_s});
-    table.columns.push_back(date(u"설교일"_s));
-    table.columns.push_back(date(u"작성일"_s));
-    return {table};
+    return {recordTable(u"설교"_s, {u"설교일"_s, u"작성일"_s},
+                        {u"말씀"_s, u"본문"_s, u"기도"_s, u"요약"_s})};
 }
 
 std::vector<TableSchema> user_file::quietTimeTables()
 {
-    TableSchema table = recordTable(u"QT"_s, {u"말씀"_s, u"본문"_s, u"기도"_s, u"적용"_s});
-    table.columns.push_back(date(u"작성일"_s));
-    return {table};
+    return {recordTable(u"QT"_s, {u"작성일"_s}, {u"말씀"_s, u"본문"_s, u"기도"_s, u"적용"_s})};
 }
 
 std::vector<TableSchema> user_file::addressTables()
@@ -124,7 +121,7 @@ FilePolicy filePolicy(const QString& path)
     for (const UserFile& file : user_file::kAll)
         if (name == folded(file.name.sliced(1).toString()))
             return file.policy;
-    if (name.endsWith(u".mdb"))
+    if (name.endsWith(u".mdb") || name.endsWith(u".draft"))
         return kUserTexts;
     return {.readOnly = true};
 }

@@ -83,7 +83,8 @@ inline constexpr std::array kAll{kNotes,     kBookmarks,     kSermons,      kQui
 } // namespace user_file
 
 /// How the engine treats a file of the program: a user file by its row, another .mdb as a copy or a
-/// backup of one; all others are modules, which are only read. A native path or a name.
+/// backup of one, a .draft as the unsaved text of one; all others are modules, which are only read.
+/// A native path or a name.
 FilePolicy filePolicy(const QString& path);
 
 /// The native path of the import program: beside the running program, else in its libexec folder;
