@@ -5,6 +5,7 @@
 #include "jet/import/import_talk.h"
 #include "jet/import/jet_header.h"
 #include "support/jet_header_maker.h"
+#include "support/without_privileges.h"
 
 #include <QFileInfo>
 
@@ -88,28 +89,6 @@ protected:
     };
 
     ScriptedTalk talk;
-};
-
-/// Takes the rights of a superuser, whom no mode bits stop, away for a while.
-class WithoutPrivileges
-{
-public:
-    WithoutPrivileges() : m_dropped(geteuid() == 0)
-    {
-        constexpr uid_t kNobody = 65534;
-        if (m_dropped && setresuid(kNobody, kNobody, 0) != 0)
-            ADD_FAILURE() << "the rights stay";
-    }
-    ~WithoutPrivileges()
-    {
-        if (m_dropped && setresuid(0, 0, 0) != 0)
-            ADD_FAILURE() << "the rights don't come back";
-    }
-    WithoutPrivileges(const WithoutPrivileges&) = delete;
-    WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
-
-private:
-    bool m_dropped;
 };
 
 QString titleIn(Database& database)
