@@ -8,6 +8,8 @@
 #include "platform/aside_name.h"
 #include "platform/log.h"
 
+#include <map>
+
 using namespace Qt::StringLiterals;
 
 namespace lumen {
@@ -27,6 +29,33 @@ QString testedCopy(const QString& appPath, const UserFile& file)
         return inData(appPath, file.copyName());
     QString path = appPath + u"\\Data"_s + file.copyName();
     return path.replace(u"\\\\"_s, u" \\"_s);
+}
+
+using RowCounts = std::map<QString, int>;
+
+// Nothing when the file can't be read.
+std::optional<RowCounts> rowCounts(const QString& path, const UserFile& file, JetEngine& jet)
+{
+    const QString password = file.password.toString();
+    try {
+        const auto database = jet.OpenDatabase(
+            path, false, true, password.isEmpty() ? QString() : u";pwd="_s + password);
+        RowCounts counts;
+        const TableDefs tables = database->TableDefs();
+        for (int i = 0; i < tables.Count(); ++i)
+            counts[tables(i).Name] = database->OpenRecordset(tables(i).Name)->RecordCount();
+        return counts;
+    } catch (const JetError& error) {
+        qCWarning(dataLog) << "not read back:" << path << error.number() << error.text();
+        return std::nullopt;
+    }
+}
+
+bool haveSameRows(const QString& copy, const QString& original, const UserFile& file,
+                  JetEngine& jet)
+{
+    const auto counts = rowCounts(original, file, jet);
+    return counts && counts == rowCounts(copy, file, jet);
 }
 
 enum class Compaction { Done, Failed, Ended };
@@ -56,7 +85,7 @@ Compaction compactInPlace(const QString& appPath, const UserFile& file, JetEngin
     // A copy left over from an earlier time must not come over the user's file: only one that was
     // made now does.
     const Compaction compaction = compact(original, copy, file, jet);
-    if (compaction == Compaction::Done)
+    if (compaction == Compaction::Done && haveSameRows(copy, original, file, jet))
         ignoreFailure(files.CopyFile(copy, original), kSilent);
     if (files.FileExists(copy))
         ignoreFailure(files.DeleteFile(copy), kSilent);
@@ -117,6 +146,24 @@ QString failureText(const Result<Done>& result)
     return result ? QString() : result.failure().detail;
 }
 
+bool isFaithful(const QString& copy, const QString& original, const UserFile& file, JetEngine& jet,
+                const FileSystem& files)
+{
+    if (file.isDatabase())
+        return isSound(copy, file, jet, files) && haveSameRows(copy, original, file, jet);
+    const Result<QByteArray> bytes = files.readAll(copy);
+    const Result<QByteArray> wanted = files.readAll(original);
+    return bytes && wanted && bytes.value() == wanted.value();
+}
+
+QString keepFormer(const QString& folder, const UserFile& file, JetEngine& jet, FileSystem& files)
+{
+    const QString last = folder + file.name.toString();
+    if (!files.FileExists(last) || !isSound(last, file, jet, files))
+        return {};
+    return failureText(files.CopyFile(last, folder + file.formerBackupName()));
+}
+
 QString backUp(const QString& appPath, const UserFile& file, JetEngine& jet, FileSystem& files)
 {
     const QString folder = backupFolder(appPath);
@@ -125,13 +172,18 @@ QString backUp(const QString& appPath, const UserFile& file, JetEngine& jet, Fil
         if (!made)
             return failureText(made);
     }
-    const QString last = folder + file.name.toString();
-    if (files.FileExists(last) && isSound(last, file, jet, files)) {
-        const Result<Done> kept = files.CopyFile(last, folder + file.formerBackupName());
-        if (!kept)
-            return failureText(kept);
-    }
-    return failureText(files.CopyFile(inData(appPath, file.name), last));
+    const QString original = inData(appPath, file.name);
+    const QString fresh = folder + file.copyName();
+    QString failure = failureText(files.CopyFile(original, fresh));
+    if (failure.isEmpty() && !isFaithful(fresh, original, file, jet, files))
+        failure = fresh + u": 다시 읽어 보니 원본과 다릅니다."_s;
+    if (failure.isEmpty())
+        failure = keepFormer(folder, file, jet, files);
+    if (failure.isEmpty())
+        failure = failureText(files.MoveFile(fresh, folder + file.name.toString()));
+    if (files.FileExists(fresh))
+        ignoreFailure(files.DeleteFile(fresh), kSilent);
+    return failure;
 }
 
 QString newestSoundBackup(const QString& appPath, const UserFile& file, JetEngine& jet,

@@ -18,10 +18,10 @@ QString backupFolder(const QString& appPath);
 
 /// Compacts a user file in \Data and copies it to the folder \OrvaneBackup of the program's drive,
 /// which keeps the last two generations. The file must be closed. A failed compaction leaves the
-/// file as it was; a file that is gone or damaged leaves its backups as they are, and a damaged
-/// backup never takes the place of the one before it. No failure ends the routine; what could not
-/// be copied is the answer, for the window to tell, "" when all went well or there was nothing to
-/// copy.
+/// file as it was; a file that is gone or damaged leaves its backups as they are, and a backup only
+/// takes the place of the one before it when it was read back and has every record. No failure ends
+/// the routine; what could not be copied is the answer, for the window to tell, "" when all went
+/// well or there was nothing to copy.
 QString CompactAndBackup(const QString& appPath, const UserFile& file, JetEngine& jet,
                          FileSystem& files);
 

@@ -226,6 +226,45 @@ TEST_F(DataStoreTest, DamageNeverReachesTheBackupsHoweverOftenTheProgramEnds)
     EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"첫째"_s});
 }
 
+// Says that it has copied a backup when something else lies there.
+class LyingDisc : public QtFileSystem
+{
+public:
+    LyingDisc(TestServices& services, QByteArray content)
+        : QtFileSystem(services.drives, services.jet), m_content(std::move(content))
+    {
+    }
+    Result<Done> CopyFile(const QString& from, const QString& to) override
+    {
+        if (!to.contains(u"OrvaneBackup"))
+            return QtFileSystem::CopyFile(from, to);
+        return writeAll(to, m_content);
+    }
+
+private:
+    QByteArray m_content;
+};
+
+TEST_F(DataStoreTest, ABackupThatCantBeReadBackDoesNotReplaceTheFormerOne)
+{
+    create();
+    const QByteArray empty = bytes(path(u"myc.mdb"_s));
+    addNote(u"첫째"_s);
+    closeProgram(user_file::kNotes);
+    addNote(u"둘째"_s);
+    closeProgram(user_file::kNotes);
+    addNote(u"셋째"_s);
+    for (const QByteArray& content : {bytes(path(u"myc.mdb"_s)).left(9000), empty}) {
+        LyingDisc disc(services, content);
+        EXPECT_NE(CompactAndBackup(services.state.AppPath, user_file::kNotes, services.jet, disc),
+                  u"");
+        EXPECT_EQ(notes(backup(u"myc.mdb"_s)), (QStringList{u"첫째"_s, u"둘째"_s}));
+        EXPECT_EQ(notes(backup(u"mycbak.mdb"_s)), QStringList{u"첫째"_s});
+        EXPECT_FALSE(services.files.FileExists(backup(u"mycc.mdb"_s)));
+        EXPECT_EQ(notes(path(u"myc.mdb"_s)).size(), 3);
+    }
+}
+
 TEST_F(DataStoreTest, AFileThatAnotherProgramHoldsIsNotLost)
 {
     create();

@@ -21,6 +21,7 @@ public:
     Result<Done> CreateFolder(const QString&) override { return Done{}; }
     Result<Done> DeleteFile(const QString&) override { return Failure{}; }
     Result<Done> CopyFile(const QString&, const QString&) override { return Failure{}; }
+    Result<Done> MoveFile(const QString&, const QString&) override { return Failure{}; }
     Result<QByteArray> readAll(const QString& path) const override
     {
         if (!readable || !bytes)

@@ -22,6 +22,8 @@ public:
     virtual Result<Done> DeleteFile(const QString& path) = 0;
     /// Through a temporary file in the destination's folder, renamed over an existing one.
     virtual Result<Done> CopyFile(const QString& from, const QString& to) = 0;
+    /// Within a drive, over an existing file: a step that is done or not.
+    virtual Result<Done> MoveFile(const QString& from, const QString& to) = 0;
     virtual Result<QByteArray> readAll(const QString& path) const = 0;
     /// The whole file anew, atomically: a failure leaves the old one.
     virtual Result<Done> writeAll(const QString& path, const QByteArray& bytes) = 0;

@@ -7,6 +7,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 
 namespace lumen {
@@ -97,6 +100,21 @@ Result<Done> QtFileSystem::CopyFile(const QString& from, const QString& to)
         out.write(block);
     }
     return out.commit();
+}
+
+Result<Done> QtFileSystem::MoveFile(const QString& from, const QString& to)
+{
+    const Result<QString> source = writable(from);
+    if (!source)
+        return source.failure();
+    const Result<QString> target = writable(to);
+    if (!target)
+        return target.failure();
+    // QFile::rename() refuses to take the place of a file.
+    if (std::rename(QFile::encodeName(source.value()).constData(),
+                    QFile::encodeName(target.value()).constData()) != 0)
+        return Failure{FailureKind::NoAccess, target.value() + u": "_s + qt_error_string(errno)};
+    return Done{};
 }
 
 Result<QByteArray> QtFileSystem::readAll(const QString& path) const
