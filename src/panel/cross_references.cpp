@@ -40,6 +40,7 @@ CrossReferences::CrossReferences(const PanelHost& host)
     lst정렬->setParent(m_page);
     lst정렬->hide();
     auto* layout = new QHBoxLayout(m_page);
+    lst관주목록->keepRoomFor(u"왕하00:00"_s);
     layout->addWidget(lst관주목록, 1);
     layout->addWidget(tx관주본문, 2);
 

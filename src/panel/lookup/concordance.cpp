@@ -270,6 +270,7 @@ void Concordance::layOut()
         options->addWidget(control);
     auto* results = new QHBoxLayout;
     results->addWidget(flex성구결과, 2);
+    lst성구인덱스->keepRoomFor(u"왕하00:00"_s);
     results->addWidget(lst성구인덱스, 1);
     auto* layout = new QVBoxLayout(m_page);
     layout->addLayout(words);

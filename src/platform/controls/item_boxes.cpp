@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QStyle>
 
 namespace lumen {
 
@@ -152,6 +153,15 @@ int ListBox::FindListItem(const QString& text) const
         if (item(index)->text() == text)
             return index;
     return -1;
+}
+
+void ListBox::keepRoomFor(const QString& text)
+{
+    constexpr int kItemMargins = 4; // times the toolkit's margin: both sides, of item and text
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    setMinimumWidth(fontMetrics().horizontalAdvance(text) + kItemMargins * margin +
+                    style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) +
+                    2 * frameWidth());
 }
 
 void ListBox::clicked()

@@ -70,6 +70,8 @@ public:
     void setSorted(bool sorted) { m_sorted = sorted; }
     /// The first item of exactly this text, -1 if there is none.
     int FindListItem(const QString& text) const;
+    /// Never becomes narrower than an item of this text takes, beside the scroll bar.
+    void keepRoomFor(const QString& text);
 
     std::function<void()> onClick;
     /// A double click on an item, or Enter on the chosen one.
