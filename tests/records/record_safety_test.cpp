@@ -63,12 +63,14 @@ TEST_F(RecordSafetyTest, UnsavedTextOfACrashIsOfferedAndStoredOnlyWhenTaken)
     boxes.preached = QDate(2003, 5, 9);
     manager->changed(RecordPart::PreachedDay);
     manager->writeDraft();
+    manager->writeDraft();
     crash();
 
     open();
     ASSERT_TRUE(manager->offeredDraft());
     EXPECT_EQ(manager->offeredDraft()->key, 2);
     EXPECT_EQ(manager->offeredDraft()->when.time(), QTime(9, 30));
+    EXPECT_EQ(manager->offeredDraft()->parts.size(), 3U) << "a draft takes the former one's place";
     EXPECT_TRUE(column(u"본문"_s)[1].isNull()) << "the stored record is not touched";
     manager->takeDraft();
     show();

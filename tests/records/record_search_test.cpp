@@ -182,9 +182,7 @@ TEST_F(RecordSearchTest, DaysAndCategoriesFitExactly)
     EXPECT_EQ(search.count(), 0) << "the list is no result";
     for (const QString& category : listed) {
         search.byCategory(category);
-        for (int i = 0; i < search.count(); ++i)
-            EXPECT_EQ((*search.row(i))[2], category);
-        EXPECT_GT(search.count(), 0);
+        EXPECT_EQ(found(), scan([&](const Sermon& sermon) { return sermon.category == category; }));
     }
 }
 
