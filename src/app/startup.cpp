@@ -57,6 +57,19 @@ bool takesFiles(FileSystem& files, const QString& appPath)
     return written;
 }
 
+// Before a file that is gone is made anew: its backups would be lost with the next two ends.
+void offerBackups(Services& services, const AppState& state)
+{
+    for (const UserFile& file : {user_file::kNotes, user_file::kBookmarks})
+        offerBackup(services, state, file);
+    // The work of years is not looked through at each start, but by the window that opens it.
+    for (const UserFile& file : {user_file::kSermons, user_file::kQuietTime, user_file::kAddresses,
+                                 user_file::kIllustrations})
+        if (!services.files.FileExists(
+                joinedPath(state.AppPath, u"\\Data"_s + file.name.toString())))
+            offerBackup(services, state, file);
+}
+
 } // namespace
 
 void RegisterFonts(Fonts& fonts)
@@ -92,9 +105,7 @@ int Main(World& world)
     state.CdDrive = FindCdDrive(services.drives);
     RegisterFonts(services.fonts);
     tellTwinFiles(services, state);
-    // Before a file that is gone is made anew: its backups would be lost with the next two ends.
-    for (const UserFile& file : {user_file::kNotes, user_file::kBookmarks})
-        offerBackup(services, state, file);
+    offerBackups(services, state);
     ignoreFailure(createUserDatabases(state.AppPath, services.files, world.drives(),
                                       services.clock.now().date()),
                   "the windows tell what they miss when they are used");
