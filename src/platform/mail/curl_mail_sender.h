@@ -8,7 +8,9 @@
 
 namespace lumen {
 
-/// Sends by libcurl in the event loop, one letter at a time.
+/// Sends by libcurl in the event loop, one letter at a time. The last answer, to the letter itself,
+/// is waited for within libcurl: windows stand still for as long as the server takes over it, at
+/// most as long as the patience.
 class CurlMailSender : public MailSender
 {
 public:
