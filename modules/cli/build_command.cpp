@@ -5,6 +5,7 @@
 #include "cli/build_report.h"
 #include "cli/build_run.h"
 #include "cli/console.h"
+#include "cli/page_files.h"
 #include "platform/temporary_file.h"
 #include "sources/interruption.h"
 
@@ -58,6 +59,9 @@ int build(const BuildOptions& options)
     for (const ModuleOutcome& outcome : plan.value().refused)
         printLine(outcomeLine(outcome));
     std::vector<ModuleOutcome> outcomes = runPlan(plan.value(), options.outFolder, options.jobs);
+    if (options.makesAll() && options.moduleCode == 0)
+        for (const QString& line : installPages(installedFolders().content, options.outFolder))
+            printLine(line);
     outcomes.insert(outcomes.begin(), plan.value().refused.begin(), plan.value().refused.end());
     const double seconds = static_cast<double>(timer.elapsed()) / 1000;
     printLine(u"모두 %1초 걸렸습니다."_s.arg(seconds, 0, 'f', 1));

@@ -135,7 +135,7 @@ const Result<OriginalContent>& OriginalCorpus::content()
         if (!*m_content)
             return;
         OriginalContent& content = m_content->value();
-        auto korean = koreanGlosses(content.verses, m_sources.koreanFiles);
+        auto korean = koreanGlosses(content.verses, m_sources.glosses, m_sources.koreanFiles);
         if (!korean)
             m_content = korean.failure();
         else

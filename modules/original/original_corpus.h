@@ -23,6 +23,7 @@ struct OriginalSources
     QString hebrewStrong;
     QString hebrewIndex; ///< of the Hebrew lexicon, with references to the Theological Wordbook
     QString greekStrong;
+    WrittenGlosses glosses;  ///< in Korean
     QStringList koreanFiles; ///< of the user: the Korean text that glosses are derived from
 
     /// What words and their analysis come from, without the Korean text.

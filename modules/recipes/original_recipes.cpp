@@ -57,6 +57,8 @@ OriginalSources installedOriginals(const SourceFolders& folders)
     sources.hebrewStrong = base + u"hebrewlexicon/HebrewStrong.xml"_s;
     sources.hebrewIndex = base + u"hebrewlexicon/LexicalIndex.xml"_s;
     sources.greekStrong = base + u"sblgnt/strongsgreek.xml"_s;
+    sources.glosses = {folders.content + u"/glosses/hebrew.tsv"_s,
+                       folders.content + u"/glosses/greek.tsv"_s};
     return sources;
 }
 

@@ -180,6 +180,7 @@ VersionTask userTask(int code, const QString& name, const ModuleSource& source,
     if (versionRow(code).group == VersionGroup::Korean) {
         task.numbering = Numbering::Korean;
         task.mends.push_back(Mending::korean);
+        task.headings = folders.content + u"/headings.tsv"_s;
     }
     if (isSuppliedGreek(code)) {
         task.numbering = Numbering::Korean;

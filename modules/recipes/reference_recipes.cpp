@@ -60,11 +60,22 @@ ReferenceTask taskOf(const Recipe& recipe)
     return task;
 }
 
+QStringList existing(const QStringList& files)
+{
+    QStringList there;
+    for (const QString& file : files)
+        if (QFileInfo::exists(file))
+            there << file;
+    return there;
+}
+
 // The analysis and all that is searched in it come from the same words.
 std::vector<Recipe> originalRecipes(OriginalCorpus& corpus)
 {
     const QStringList words = corpus.sources().textFiles() + corpus.sources().strongFiles();
-    const QStringList korean = corpus.sources().koreanFiles;
+    const OriginalSources& sources = corpus.sources();
+    const QStringList korean =
+        sources.koreanFiles + existing({sources.glosses.hebrew, sources.glosses.greek});
     const QString origin = u"Open Scriptures Hebrew Bible Project (WLC 4.20); CrossWire Bible "
                            "Society의 KJV 작업 (Textus Receptus); bibledit-data"_s;
     const QString licence = u"WLC 본문은 퍼블릭 도메인, 표제어와 분해는 CC BY 4.0; KJV의 낱말 "
@@ -108,15 +119,6 @@ Recipe hymnalRecipe(const HymnalTables& tables)
 
 const QString kOwnOrigin = u"사용자가 준비한 파일"_s;
 const QString kOwnLicence = u"이용 조건은 파일을 준비한 사람이 확인해야 함"_s;
-
-QStringList existing(const QStringList& files)
-{
-    QStringList there;
-    for (const QString& file : files)
-        if (QFileInfo::exists(file))
-            there << file;
-    return there;
-}
 
 Recipe bibleDictionaryRecipe(const BibleDictionarySources& works)
 {

@@ -5,9 +5,12 @@
 #include "canon/verse_index.h"
 #include "recipes/loss_check.h"
 #include "reference/module_stamp.h"
+#include "sources/user_places.h"
+#include "sources/user_table.h"
 #include "text/field_scramble.h"
 
 #include <QFileInfo>
+#include <QHash>
 #include <QLocale>
 #include <QVariant>
 
@@ -101,6 +104,32 @@ ModuleReport reportOf(const VersionText& version, Numbering numbering)
     return report;
 }
 
+// A source with headings of its own keeps them.
+std::optional<Failure> addHeadings(const QString& file, VersionText& version)
+{
+    const bool hasOwn = std::ranges::any_of(
+        version.verses, [](const VerseText& verse) { return !verse.miniTitle.isEmpty(); });
+    if (hasOwn || !QFileInfo::exists(file))
+        return std::nullopt;
+    const auto lines = readUserTable(file, {{u"절"_s, u"소제목"_s}, 2});
+    if (!lines)
+        return lines.failure();
+    TableFaults faults(file);
+    QHash<QString, QString> headings;
+    for (const TableLine& line : lines.value()) {
+        if (const auto key = UserPlaces::verseKey(line.cells[0]))
+            headings.insert(*key, line.cells[1]);
+        else
+            faults.add(line.number, u"성경에 없는 절임: %1"_s.arg(line.cells[0]));
+    }
+    if (!faults.isEmpty())
+        return faults.failure();
+    for (VerseText& verse : version.verses)
+        verse.miniTitle =
+            headings.value(BibleCode::verseKey(verse.book, verse.chapter, verse.verse));
+    return std::nullopt;
+}
+
 QString refusal(const QStringList& losses, const QString& former)
 {
     QString text = losses.join(u' ');
@@ -133,7 +162,9 @@ QString VersionTask::stamp() const
 {
     return stampOf(
         u"%1\n%2\n%3\n%4\n%5\n"_s.arg(kBuilderVersion).arg(m_code).arg(name, ownMapping, origin) +
-        sourceStamp(source));
+        sourceStamp(source) +
+        (QFileInfo::exists(headings) ? sourceStamp({SourceFormat::Usfm, {headings}, {}})
+                                     : QString()));
 }
 
 void VersionTask::shareText()
@@ -165,6 +196,8 @@ VersionResult VersionTask::readText() const
             return renumbered.failure();
     }
     arrangeVerses(version);
+    if (auto failure = addHeadings(headings, version))
+        return *failure;
     return read;
 }
 

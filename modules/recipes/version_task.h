@@ -33,6 +33,7 @@ public:
     Numbering numbering = Numbering::English;
     QString ownMapping; ///< mapping files for renumbering, "" to keep the source's numbers
     QString englishMapping;
+    QString headings;     ///< table of verse and heading for a source without headings, "" for none
     bool isWhole = false; ///< the source is known to have words for every chapter of the canon
     PsalmNumbers psalmNumbers = PsalmNumbers::AsMapped;
 

@@ -6,17 +6,13 @@
 #include "sources/interruption.h"
 #include "sources/json_readers.h"
 #include "sources/text_mending.h"
+#include "sources/user_table.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
+#include <functional>
 #include <map>
-
-// Resources of a static library are known only once this has run; it must not stand in a namespace.
-static void loadHandTable()
-{
-    Q_INIT_RESOURCE(gloss_hand);
-}
 
 namespace lumen {
 
@@ -171,24 +167,69 @@ std::optional<Failure> deriveGlosses(const OriginalText& text, const QStringList
     return std::nullopt;
 }
 
-// Lines of "H" or "G", the number and the words, divided by tabs; a line that begins with "#" is a
-// remark.
-void addHandGlosses(KoreanGlosses& glosses)
+// Lines of a number and its words.
+std::optional<Failure> addWritten(const QString& file, bool isGreek, KoreanGlosses& glosses)
 {
-    loadHandTable();
-    QFile file(u":/modules/gloss-hand.tsv"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    for (const QString& line : lines) {
-        const QStringList fields = line.split(u'\t');
-        if (fields.size() == 3 && !line.startsWith(u'#'))
-            glosses.add(fields[0] == u"G", fields[1].toInt(), fields[2].split(u", "_s),
-                        KoreanGlosses::Source::Hand);
+    if (!QFileInfo::exists(file))
+        return std::nullopt;
+    const auto lines = readUserTable(file, {{u"번호"_s, u"뜻"_s}, 2});
+    if (!lines)
+        return lines.failure();
+    TableFaults faults(file);
+    for (const TableLine& line : lines.value()) {
+        const int strong = line.cells[0].toInt();
+        if (strong < 1 || line.cells[1].isEmpty())
+            faults.add(line.number, u"번호나 뜻이 없음"_s);
+        glosses.add(isGreek, strong, line.cells[1].split(u", "_s, Qt::SkipEmptyParts),
+                    KoreanGlosses::Source::Written);
     }
+    if (!faults.isEmpty())
+        return faults.failure();
+    return std::nullopt;
 }
 
-// The numbers that a line in the hand table would do most for.
+// A verb's stem says as much as its dictionary form, a word as much as one made of it.
+bool agree(const QStringList& written, const QStringList& derived)
+{
+    const auto stem = [](QString word) { return word.endsWith(u'다') ? word.chopped(1) : word; };
+    for (const QString& one : written)
+        for (const QString& other : derived)
+            if (one.contains(stem(other)) || other.contains(stem(one)))
+                return true;
+    return false;
+}
+
+// How far what is written agrees with the Korean text.
+void addAgreementRemark(const OriginalText& text, bool isGreek, const KoreanGlosses& derived,
+                        KoreanGlosses& glosses)
+{
+    std::map<int, int> counts;
+    for (const OriginalVerse& verse : text)
+        if (verse.isGreek == isGreek)
+            for (const OriginalWord& word : verse.words)
+                if (!derived.words(isGreek, word.strong).isEmpty() &&
+                    !glosses.isDerived(isGreek, word.strong))
+                    ++counts[word.strong];
+    std::vector<std::pair<int, int>> apart; // number of words, number
+    for (const auto& [strong, count] : counts)
+        if (!agree(glosses.words(isGreek, strong), derived.words(isGreek, strong)))
+            apart.emplace_back(count, strong);
+    std::ranges::sort(apart, std::greater());
+    const double share = counts.empty() ? 0
+                                        : 100 - 100.0 * static_cast<double>(apart.size()) /
+                                                    static_cast<double>(counts.size());
+    apart.resize(std::min(apart.size(), kListedNumbers));
+    QStringList shown;
+    for (const auto& [count, strong] : apart)
+        shown << u"%1 %2≠%3"_s.arg(strong).arg(glosses.gloss(isGreek, strong),
+                                               derived.gloss(isGreek, strong));
+    glosses.addRemark(
+        u"%1 뜻이 개역한글의 대응어와 같은 번호 %2%. 다른 것 가운데 자주 나오는 것: %3"_s.arg(
+            isGreek ? u"헬라어"_s : u"히브리어"_s, QString::number(share, 'f', 1),
+            shown.join(u"; "_s)));
+}
+
+// The numbers that a written gloss would do most for.
 void addWantedRemark(const OriginalText& text, bool isGreek, KoreanGlosses& glosses)
 {
     std::map<int, int> counts;
@@ -201,6 +242,8 @@ void addWantedRemark(const OriginalText& text, bool isGreek, KoreanGlosses& glos
     std::ranges::stable_sort(sorted,
                              [](const auto& a, const auto& b) { return a.second > b.second; });
     sorted.resize(std::min(sorted.size(), kListedNumbers));
+    if (sorted.empty())
+        return;
     QStringList numbers;
     for (const auto& [strong, count] : sorted)
         numbers << u"%1(%2)"_s.arg(strong).arg(count);
@@ -213,7 +256,6 @@ void addWantedRemark(const OriginalText& text, bool isGreek, KoreanGlosses& glos
 void KoreanGlosses::add(bool isGreek, int strong, const QStringList& words, Source source)
 {
     (isGreek ? m_greek : m_hebrew).insert(strong, {words, source});
-    m_hasDerived = m_hasDerived || source == Source::Derived;
 }
 
 const KoreanGlosses::Entry* KoreanGlosses::find(bool isGreek, int strong) const
@@ -237,22 +279,32 @@ bool KoreanGlosses::isDerived(bool isGreek, int strong) const
 
 QString KoreanGlosses::originLine() const
 {
-    const QString hand = u"자주 나오는 낱말의 우리말 대표값은 손으로 적은 것"_s;
-    if (!m_hasDerived)
-        return hand + u", 다른 낱말은 비어 있음"_s;
-    return hand + u", 다른 낱말은 개역한글 본문과 원어 본문을 낱말끼리 맞추어 끌어낸 것"_s;
+    const QString written = u"우리말 뜻은 이 프로그램과 함께 온 것 (CC0 1.0)"_s;
+    const auto isDerived = [](const Entry& entry) { return entry.source == Source::Derived; };
+    if (std::ranges::none_of(m_hebrew, isDerived) && std::ranges::none_of(m_greek, isDerived))
+        return written;
+    return written +
+           u", 그것이 없는 낱말은 개역한글 본문과 원어 본문을 낱말끼리 맞추어 끌어낸 것"_s;
 }
 
-Result<KoreanGlosses> koreanGlosses(const OriginalText& text, const QStringList& koreanFiles)
+Result<KoreanGlosses> koreanGlosses(const OriginalText& text, const WrittenGlosses& written,
+                                    const QStringList& koreanFiles)
 {
-    KoreanGlosses glosses;
+    KoreanGlosses derived;
     if (!koreanFiles.isEmpty())
-        if (const auto failure = deriveGlosses(text, koreanFiles, glosses))
+        if (const auto failure = deriveGlosses(text, koreanFiles, derived))
             return *failure;
     // Written glosses win over derived ones.
-    addHandGlosses(glosses);
-    addWantedRemark(text, false, glosses);
-    addWantedRemark(text, true, glosses);
+    KoreanGlosses glosses = derived;
+    if (const auto failure = addWritten(written.hebrew, false, glosses))
+        return *failure;
+    if (const auto failure = addWritten(written.greek, true, glosses))
+        return *failure;
+    for (const bool isGreek : {false, true}) {
+        addWantedRemark(text, isGreek, glosses);
+        if (!koreanFiles.isEmpty())
+            addAgreementRemark(text, isGreek, derived, glosses);
+    }
     return glosses;
 }
 

@@ -10,20 +10,19 @@
 
 namespace lumen {
 
-/// A Korean word or a few for each of Strong's numbers. Those of the most frequent words are
-/// written by hand; the others are derived from a Korean text of the user, as far as they come out
-/// with some certainty.
+/// A Korean word or a few for each of Strong's numbers. They come written; numbers without are
+/// derived from a Korean text of the user, as far as they come out with some certainty.
 class KoreanGlosses
 {
 public:
-    enum class Source { Hand, Derived };
+    enum class Source { Written, Derived };
 
     void add(bool isGreek, int strong, const QStringList& words, Source source);
     void addRemark(const QString& remark) { m_remarks << remark; }
 
     /// The best word, "" for none.
     QString gloss(bool isGreek, int strong) const { return words(isGreek, strong).value(0); }
-    /// Up to three words, the best first.
+    /// A few words, the best first.
     QStringList words(bool isGreek, int strong) const;
     bool isDerived(bool isGreek, int strong) const;
 
@@ -35,7 +34,7 @@ private:
     struct Entry
     {
         QStringList words;
-        Source source = Source::Hand;
+        Source source = Source::Written;
     };
 
     const Entry* find(bool isGreek, int strong) const;
@@ -43,11 +42,19 @@ private:
     QHash<int, Entry> m_hebrew;
     QHash<int, Entry> m_greek;
     QStringList m_remarks;
-    bool m_hasDerived = false;
 };
 
-/// The glosses for a text. Without Korean files only those written by hand; NotFound and Damaged
-/// when a file can't be read, Cancelled when the user asked to stop.
-Result<KoreanGlosses> koreanGlosses(const OriginalText& text, const QStringList& koreanFiles);
+/// Tables of number and words, parted by ", "; a file that is not there is passed over.
+struct WrittenGlosses
+{
+    QString hebrew;
+    QString greek;
+};
+
+/// The glosses for a text. With Korean files a remark tells how far the written ones agree with
+/// what the Korean text has, and which of the commonest don't. NotFound and Damaged when a file
+/// can't be read, Cancelled when the user asked to stop.
+Result<KoreanGlosses> koreanGlosses(const OriginalText& text, const WrittenGlosses& written,
+                                    const QStringList& koreanFiles);
 
 } // namespace lumen

@@ -94,7 +94,7 @@ TEST(KoreanGlosses, AreDerivedFromTheUsersText)
 {
     const SourceFiles files;
     const auto glosses =
-        koreanGlosses(repeatedText(), {files.write(u"Ruth.json"_s, repeatedJson())});
+        koreanGlosses(repeatedText(), {}, {files.write(u"Ruth.json"_s, repeatedJson())});
     ASSERT_TRUE(glosses.ok());
     EXPECT_EQ(glosses.value().gloss(false, 7001), u"하늘"_s);
     EXPECT_EQ(glosses.value().gloss(false, 7002), u"바람"_s);
@@ -103,15 +103,29 @@ TEST(KoreanGlosses, AreDerivedFromTheUsersText)
     EXPECT_EQ(glosses.value().gloss(true, 7001), QString()) << "other language";
 }
 
-TEST(KoreanGlosses, WithoutAKoreanTextOnlyWrittenOnesAreThere)
+TEST(KoreanGlosses, WrittenOnesWinAndAreComparedWithTheText)
 {
-    const auto glosses = koreanGlosses(repeatedText(), {});
-    ASSERT_TRUE(glosses.ok());
-    EXPECT_EQ(glosses.value().gloss(false, 7001), QString());
-    EXPECT_EQ(glosses.value().gloss(false, 1961), u"있다"_s);
-    EXPECT_EQ(glosses.value().words(true, 863).size(), 3);
-    EXPECT_FALSE(glosses.value().isDerived(false, 1961));
-    const auto missing = koreanGlosses(repeatedText(), {u"/nowhere/Ruth.json"_s});
+    const SourceFiles files;
+    const WrittenGlosses written{
+        files.write(u"hebrew.tsv"_s, u"# \n7001\t하늘, 공중\n7002\t숨\n"_s),
+        u"/nowhere/greek.tsv"_s};
+    const auto alone = koreanGlosses(repeatedText(), written, {});
+    ASSERT_TRUE(alone.ok());
+    EXPECT_EQ(alone.value().words(false, 7001), (QStringList{u"하늘"_s, u"공중"_s}));
+    const auto both =
+        koreanGlosses(repeatedText(), written, {files.write(u"Ruth.json"_s, repeatedJson())});
+    ASSERT_TRUE(both.ok());
+    EXPECT_EQ(both.value().gloss(false, 7002), u"숨"_s);
+    EXPECT_FALSE(both.value().isDerived(false, 7002));
+    const auto tells = [](const QString& remark) {
+        return remark.contains(u"같은 번호 50.0%"_s) && remark.endsWith(u"7002 숨≠바람"_s);
+    };
+    EXPECT_TRUE(std::ranges::any_of(both.value().remarks(), tells));
+    const auto bad = koreanGlosses(
+        repeatedText(), {files.write(u"bad.tsv"_s, u"7001\t하늘\n\x20\t뜻\n"_s), {}}, {});
+    ASSERT_FALSE(bad.ok());
+    EXPECT_TRUE(bad.failure().detail.contains(u"bad.tsv:2"_s));
+    const auto missing = koreanGlosses(repeatedText(), {}, {u"/nowhere/Ruth.json"_s});
     ASSERT_FALSE(missing.ok());
     EXPECT_EQ(missing.failure().kind, FailureKind::NotFound);
 }
