@@ -71,6 +71,8 @@ OriginalSources writeMiniSources(const SourceFiles& files)
     sources.hebrewIndex = files.write(
         u"index.xml"_s, u"<index><xref strong=\"9\" twot=\"4a\"/><xref strong=\"9\" twot=\"5\"/>"
                         "<xref strong=\"9\" twot=\"4a\"/></index>"_s);
+    sources.glosses.greek =
+        files.write(u"glosses/greek.tsv"_s, u"2532\t그리고\n3056\t말씀, 말\n"_s);
     sources.greekStrong = files.write(
         u"greek.xml"_s,
         u"<d><entry strongs=\"03056\"><strongs>3056</strongs>"
