@@ -169,6 +169,11 @@ Result<BuildPlan> planBuild(const BuildOptions& options, const SourceFolders& fo
     if (options.baptist && tasks.contains(kKorean))
         tasks[kBaptist] = baptistTask(tasks[kKorean]);
     refuseWithoutSource(options, tasks, plan);
+    // A user's own headings go into the versions that take some.
+    if (const auto own = user.tables.find(u"headings.tsv"_s); own != user.tables.end())
+        for (auto& [code, task] : tasks)
+            if (!task.headings.isEmpty())
+                task.headings = own->second;
     // Version and concordance are made of one reading.
     for (auto& [code, task] : tasks)
         task.shareText();

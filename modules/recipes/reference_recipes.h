@@ -19,6 +19,7 @@ namespace lumen {
 struct ReferenceSources
 {
     QString crossReferences{};
+    QString ownCrossReferences{};
     HymnalTables hymnal{};
     BibleDictionarySources bibleDictionary{};
     EnglishDictionarySources englishDictionary{};

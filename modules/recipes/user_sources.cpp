@@ -47,6 +47,7 @@ constexpr std::array kTableNames{
     QStringView(u"easton.json"),    QStringView(u"hitchcock.json"),
     QStringView(u"commentary.tsv"), QStringView(u"bible-dictionary.tsv"),
     QStringView(u"wesley.tsv"),     QStringView(u"english-dictionary.tsv"),
+    QStringView(u"headings.tsv"),   QStringView(u"cross-references.tsv"),
 };
 
 bool isTableName(const QString& name)

@@ -6,6 +6,8 @@
 #include "sources/book_names.h"
 #include "sources/fault_texts.h"
 #include "sources/key_places.h"
+#include "sources/user_places.h"
+#include "sources/user_table.h"
 #include "sources/version_text.h"
 
 #include <QFile>
@@ -114,6 +116,29 @@ QString joinedReferences(const std::set<PlaceOrder>& targets)
     return references.join(u';');
 }
 
+Result<ModuleReport> writeReferences(const CrossReferences& references, ModuleStore& store)
+{
+    const QString table = u"cref"_s;
+    store.createTable(
+        {table,
+         {textColumn(u"chap"_s, 10), {u"verse"_s, FieldType::Short}, memoColumn(u"cref"_s)},
+         {{u"place"_s, {u"chap"_s, u"verse"_s}}}});
+    store.expect(references.targets.size());
+    std::size_t count = 0;
+    for (const auto& [place, targets] : references.targets) {
+        const auto& [book, chapter, verse] = place;
+        count += targets.size();
+        if (!store.addRow(table, {BibleCode::GetChapKey(book, chapter), verse,
+                                  scrambledOrNull(joinedReferences(targets))}))
+            return Failure{FailureKind::Cancelled, {}};
+    }
+    ModuleReport report;
+    report.facts << u"관주 %1"_s.arg(count);
+    if (references.outside > 0)
+        report.details << u"정경에 없는 곳을 가리켜 뺀 관주: %1"_s.arg(references.outside);
+    return report;
+}
+
 } // namespace
 
 Result<CrossReferences> readCrossReferences(const QString& file)
@@ -134,28 +159,29 @@ Result<CrossReferences> readCrossReferences(const QString& file)
 
 Result<ModuleReport> fillCrossReferences(const QString& file, ModuleStore& store)
 {
-    const QString table = u"cref"_s;
     const auto references = readCrossReferences(file);
-    if (!references)
-        return references.failure();
-    store.createTable(
-        {table,
-         {textColumn(u"chap"_s, 10), {u"verse"_s, FieldType::Short}, memoColumn(u"cref"_s)},
-         {{u"place"_s, {u"chap"_s, u"verse"_s}}}});
-    store.expect(references.value().targets.size());
-    std::size_t count = 0;
-    for (const auto& [place, targets] : references.value().targets) {
-        const auto& [book, chapter, verse] = place;
-        count += targets.size();
-        if (!store.addRow(table, {BibleCode::GetChapKey(book, chapter), verse,
-                                  scrambledOrNull(joinedReferences(targets))}))
-            return Failure{FailureKind::Cancelled, {}};
-    }
-    ModuleReport report;
-    report.facts << u"관주 %1"_s.arg(count);
-    if (references.value().outside > 0)
-        report.details << u"정경에 없는 곳을 가리켜 뺀 관주: %1"_s.arg(references.value().outside);
-    return report;
+    return references ? writeReferences(references.value(), store) : references.failure();
+}
+
+Result<ModuleReport> fillOwnCrossReferences(const QString& file, ModuleStore& store)
+{
+    const auto lines = readUserTable(file, {{u"절"_s, u"관주"_s}, 2});
+    if (!lines)
+        return lines.failure();
+    TableFaults faults(file);
+    CrossReferences references;
+    const auto placeOf = [&faults](int line, const QString& text) {
+        if (!UserPlaces::verseKey(text))
+            faults.add(line, u"성경에 없는 절임: %1"_s.arg(text));
+        return orderOf(BibleCode::ParseRef(text));
+    };
+    for (const TableLine& line : lines.value())
+        for (const QString& target : UserPlaces::parts(line.cells[1]))
+            references.targets[placeOf(line.number, line.cells[0])].insert(
+                placeOf(line.number, target));
+    if (!faults.isEmpty())
+        return faults.failure();
+    return writeReferences(references, store);
 }
 
 } // namespace lumen

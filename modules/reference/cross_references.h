@@ -26,5 +26,7 @@ Result<CrossReferences> readCrossReferences(const QString& file);
 
 /// The table of cross references out of the script file.
 Result<ModuleReport> fillCrossReferences(const QString& file, ModuleStore& store);
+/// The same out of a user's table: verse, references ("요1:1;히11:3").
+Result<ModuleReport> fillOwnCrossReferences(const QString& file, ModuleStore& store);
 
 } // namespace lumen

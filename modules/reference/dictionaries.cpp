@@ -73,6 +73,7 @@ Result<ModuleReport> fillBibleDictionary(const BibleDictionarySources& sources, 
 }
 
 Result<ModuleReport> fillEnglishDictionary(const EnglishDictionarySources& sources,
+                                           const std::vector<DictionaryEntry>& korean,
                                            ModuleStore& store)
 {
     const auto own = readTableDictionary(sources.own);
@@ -82,14 +83,16 @@ Result<ModuleReport> fillEnglishDictionary(const EnglishDictionarySources& sourc
     if (!words)
         return words.failure();
     const QString table = u"영한영사전"_s;
-    store.expect(own.value().size() + words.value().size());
+    store.expect(own.value().size() + korean.size() + words.value().size());
     store.createTable(
         {table, {textColumn(u"word"_s), memoColumn(u"def"_s)}, {{u"word"_s, {u"word"_s}}}});
-    for (const auto* entries : {&own.value(), &words.value()})
+    for (const auto* entries : {&own.value(), &korean, &words.value()})
         for (const DictionaryEntry& entry : *entries)
             if (!store.addRow(table, {DES::ScrambleField(entry.head.toLower()), stored(entry)}))
                 return Failure{FailureKind::Cancelled, {}};
     ModuleReport report;
+    if (!korean.empty())
+        report.facts << u"우리말 뜻이 있는 표제어 %1"_s.arg(counted(std::ssize(korean)));
     if (!own.value().empty())
         report.facts << u"사용자의 낱말 %1"_s.arg(counted(std::ssize(own.value())));
     return report;

@@ -29,8 +29,9 @@ struct EnglishDictionarySources
     QStringList own; ///< tables of head and text
 };
 
-/// The table of the English dictionary, a user's entries first.
+/// The table of the English dictionary: a user's entries, then `korean`, then the English ones.
 Result<ModuleReport> fillEnglishDictionary(const EnglishDictionarySources& sources,
+                                           const std::vector<DictionaryEntry>& korean,
                                            ModuleStore& store);
 
 } // namespace lumen

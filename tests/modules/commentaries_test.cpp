@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
 #include "reference/commentaries.h"
+#include "reference/cross_references.h"
 #include "text/field_scramble.h"
 
 #include <gtest/gtest.h>
@@ -85,6 +86,9 @@ TEST(OwnTables, EveryBadLineIsToldByFileLineAndReason)
          fillOwnCommentary,
          {u"own.tsv:2: 성경에 없는 장임: 창99"_s,
           u"own.tsv:3: 절이 \"3-5\", \"5\"나 빈칸이 아님: 셋"_s}},
+        {u"창1:1\t요1:1; 히11:3\n창1:2\t요1:99\n"_s,
+         fillOwnCrossReferences,
+         {u"own.tsv:2: 성경에 없는 절임: 요1:99"_s}},
         {u"창1\t글\n없음1\t글\n"_s, fillOwnWesley, {u"own.tsv:2: 성경에 없는 장임: 없음1"_s}},
     };
     for (const Row& row : rows) {

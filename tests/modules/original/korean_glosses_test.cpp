@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "modules/source_files.h"
+#include "original/glosses/english_korean.h"
 #include "original/glosses/korean_glosses.h"
 #include "original/glosses/korean_stems.h"
 #include "original/glosses/word_alignment.h"
@@ -128,6 +129,32 @@ TEST(KoreanGlosses, WrittenOnesWinAndAreComparedWithTheText)
     const auto missing = koreanGlosses(repeatedText(), {}, {u"/nowhere/Ruth.json"_s});
     ASSERT_FALSE(missing.ok());
     EXPECT_EQ(missing.failure().kind, FailureKind::NotFound);
+}
+
+TEST(EnglishKorean, OneWordOfARenderingStandsForItsNumber)
+{
+    KoreanGlosses glosses;
+    glosses.add(false, 1, {u"하늘"_s, u"공중"_s}, KoreanGlosses::Source::Written);
+    glosses.add(false, 2, {u"공기"_s}, KoreanGlosses::Source::Written);
+    glosses.add(false, 3, {u"(목적격)"_s}, KoreanGlosses::Source::Written);
+    OriginalVerse verse{{0, 1, 1}, false, {}};
+    const auto add = [&verse](int times, int strong, const QString& english) {
+        OriginalWord word;
+        word.strong = strong;
+        word.english = english;
+        verse.words.insert(verse.words.end(), static_cast<std::size_t>(times), word);
+    };
+    add(20, 1, u"of the Heaven"_s);
+    add(2, 2, u"heaven"_s);   // a tenth of them
+    add(1, 2, u"air"_s);      // seen once
+    add(5, 1, u"fair sky"_s); // two words
+    add(5, 3, u"heaven"_s);   // no word
+    add(5, 1, u"and the"_s);  // none left
+    const auto entries = englishKoreanEntries({verse}, glosses);
+    EXPECT_EQ(entries,
+              (std::vector<DictionaryEntry>{{u"heaven"_s, u"하늘, 공기 〔성경 원어의 뜻〕"_s},
+                                            {u"공기"_s, u"heaven 〔성경 원어의 뜻〕"_s},
+                                            {u"하늘"_s, u"heaven 〔성경 원어의 뜻〕"_s}}));
 }
 
 } // namespace
