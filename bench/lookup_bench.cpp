@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// The lookups of the reference panel from Enter to the filled list, over the modules in the folder
-// that LUMENSCRIPT_MODULES names; without it nothing is measured. Beside the concordance stands the
-// plain look: its words in memory, unscrambled already, each tried for its beginning.
+// The lookups of the reference panel from Enter to the filled list and its changes of tab, over the
+// modules in the folder that LUMENSCRIPT_MODULES names; without it nothing is measured. Beside the
+// concordance stands the plain look: its words in memory, unscrambled already, each tried for its
+// beginning.
 #include "data/check_data.h"
 #include "data/versions.h"
 #include "jet/engine.h"
 #include "jet/rows/recordset.h"
 #include "panel/lookup/concordance.h"
+#include "panel/panel_tabs.h"
+#include "panel/reference_panel.h"
 #include "support/fake_reader.h"
 #include "support/test_services.h"
 #include "text/field_scramble.h"
@@ -89,6 +92,44 @@ void plainLook(benchmark::State& state, int code, const QString& word)
 }
 
 // The beginnings that most words have, and one whose first word stands in most verses.
+/// From a tab to the next one at another verse, painted: each asks its module anew.
+void changeTab(benchmark::State& state)
+{
+    const QDir modules(qEnvironmentVariable("LUMENSCRIPT_MODULES"));
+    TestServices test;
+    for (const QFileInfo& file : modules.entryInfoList({u"*.dts"_s}, QDir::Files))
+        QFile::link(file.filePath(), test.folders.data(file.fileName()));
+    CheckData(test.state, test.files, test.jet);
+    FakeReader reader;
+    DataControl dacRefTab(test.jet);
+    ReferencePanel panel(test.services);
+    panel.onStatus = [](const QString&) {};
+    panel.onLayout = [] {};
+    panel.onHideTextBox = [] {};
+    PanelHost host{
+        .services = test.services, .state = test.state, .reader = reader, .dacRefTab = dacRefTab};
+    host.baseModule = [] { return static_cast<Database*>(nullptr); };
+    addPanelTabs(panel, host);
+    panel.resize(500, 600);
+    panel.show();
+    panel.toggle();
+    const int tab = static_cast<int>(state.range(0));
+    int verse = 1;
+    for (auto _ : state) {
+        state.PauseTiming();
+        panel.showTab((tab + 1) % kPanelTabCount);
+        verse = verse % 20 + 1;
+        reader.goTo(0, 1, verse);
+        QApplication::processEvents();
+        state.ResumeTiming();
+        panel.showTab(tab);
+        panel.repaint();
+        QApplication::processEvents();
+    }
+    state.SetLabel(kPanelCaptions[static_cast<std::size_t>(tab)].toString().toStdString());
+}
+
+BENCHMARK(changeTab)->DenseRange(0, kPanelTabCount - 1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(lookUp, Hebrew, 301, u"5w"_s)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(plainLook, Hebrew, 301, u"5w"_s)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(lookUp, English, 201, u"co"_s)->Unit(benchmark::kMillisecond);
