@@ -3,7 +3,9 @@
 
 #include "text/basic_text.h"
 
+#include <QByteArray>
 #include <QByteArrayView>
+#include <QSize>
 #include <QString>
 
 #include <optional>
@@ -50,6 +52,12 @@ struct RtfParagraphStyle
     int leftIndent = 0;
     int firstLineIndent = 0;
     int rightIndent = 0;
+    int spaceBefore = 0;
+    int spaceAfter = 0;
+    /// As \sl gives it: 0 for single lines, else by `lineMultiple` 240ths of a line, or twips,
+    /// which are a least height, below zero an exact one.
+    int lineSpacing = 0;
+    bool lineMultiple = false;
 
     friend bool operator==(const RtfParagraphStyle&, const RtfParagraphStyle&) = default;
 };
@@ -62,6 +70,32 @@ struct RtfRun
     int style = 0; ///< index into styles
 };
 
+/// A cell of a table's row.
+struct RtfCell
+{
+    int right = 0;               ///< twips from the left margin
+    bool continuesAbove = false; ///< the lower part of a cell that reaches over rows
+    bool bordered = false;
+};
+
+/// A row of a table. Its cells' texts are the paragraphs that bear its number.
+struct RtfRow
+{
+    int left = 0; ///< twips
+    std::vector<RtfCell> cells;
+};
+
+/// A picture; U+FFFC stands for it in the text.
+struct RtfPicture
+{
+    enum class Kind : quint8 { Unknown, Png, Jpeg, Dib, Metafile };
+
+    Kind kind = Kind::Unknown;
+    QByteArray data;  ///< the file, a bitmap without its file head
+    QSize size;       ///< shown, twips; empty where nothing tells it
+    QByteArray group; ///< the whole RTF group that it came in, "" where it can't be written back
+};
+
 /// One paragraph. Its end is the position of its line feed, or of the text's end for the last one.
 struct RtfParagraph
 {
@@ -69,21 +103,27 @@ struct RtfParagraph
     std::size_t firstRun = 0;
     std::size_t runCount = 0;
     int endStyle = 0; ///< character style of the paragraph's end, index into styles
+    int row = -1;     ///< of the table that it stands in, index into rows
+    bool endsCell = false;
     RtfParagraphStyle style;
 };
 
-/// A document read from RTF, as plain values. A paragraph end is one line feed in the text, a line
-/// break within a paragraph U+2028, so that positions are those of a display.
+/// A document read from RTF, as plain values. A paragraph end, that of a cell too, is one line feed
+/// in the text, a line break within a paragraph U+2028, so that positions are those of a display.
 struct RtfContent
 {
     QString text;
     std::vector<RtfParagraph> paragraphs; ///< at least one
     std::vector<RtfRun> runs;
     std::vector<RtfCharStyle> styles;
+    std::vector<RtfRow> rows;
+    std::vector<RtfPicture> pictures; ///< in the order in which they stand in the text
     std::vector<RtfFont> fonts;
     /// Nothing stands for the automatic colour, an entry without parts.
     std::vector<std::optional<RgbLong>> colors;
     std::optional<int> tabWidth; ///< twips
+    /// Something that can't be shown was passed over: a note, a drawing, an embedded object.
+    bool isIncomplete = false;
 
     /// The entry of a font number, nullptr when the table has none.
     const RtfFont* font(int number) const;

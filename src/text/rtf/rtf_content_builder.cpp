@@ -4,6 +4,14 @@
 #include <utility>
 
 namespace lumen {
+namespace {
+
+// Of paragraphs in a row whose end has not come yet.
+constexpr int kOpenRow = -2;
+// Of a cell that nothing is told of, twips.
+constexpr int kCellWidth = 1440;
+
+} // namespace
 
 void RtfContentBuilder::addUnit(char16_t unit)
 {
@@ -62,16 +70,71 @@ void RtfContentBuilder::pushParagraph(const RtfParagraphStyle& style)
     m_content.paragraphs.push_back(paragraph);
 }
 
-void RtfContentBuilder::endParagraph(const RtfParagraphStyle& style)
+RtfParagraph& RtfContentBuilder::addMark(const RtfParagraphStyle& style)
 {
     pushParagraph(style);
     m_content.text += u'\n';
     m_runStart = m_content.text.size();
     m_firstRun = m_content.runs.size();
+    return m_content.paragraphs.back();
+}
+
+void RtfContentBuilder::endParagraph(const RtfParagraphStyle& style, bool isInTable)
+{
+    if (!isInTable)
+        dropOpenCells();
+    addMark(style).row = isInTable ? kOpenRow : -1;
+    if (!isInTable)
+        m_firstOpen = m_content.paragraphs.size();
+}
+
+void RtfContentBuilder::endCell(const RtfParagraphStyle& style)
+{
+    RtfParagraph& paragraph = addMark(style);
+    paragraph.row = kOpenRow;
+    paragraph.endsCell = true;
+}
+
+// Cells that no row came for are paragraphs like others.
+void RtfContentBuilder::dropOpenCells()
+{
+    for (std::size_t i = m_firstOpen; i < m_content.paragraphs.size(); ++i) {
+        m_content.paragraphs[i].row = -1;
+        m_content.paragraphs[i].endsCell = false;
+    }
+}
+
+void RtfContentBuilder::endRow(RtfRow row, const RtfParagraphStyle& style)
+{
+    auto& paragraphs = m_content.paragraphs;
+    const bool hasOpen = paragraphs.size() > m_firstOpen;
+    if (m_content.text.size() > m_runStart || m_content.runs.size() > m_firstRun ||
+        (hasOpen && !paragraphs.back().endsCell))
+        endCell(style);
+    if (paragraphs.size() == m_firstOpen)
+        return;
+    std::size_t cells = 0;
+    for (std::size_t i = m_firstOpen; i < paragraphs.size(); ++i) {
+        paragraphs[i].row = static_cast<int>(m_content.rows.size());
+        cells += paragraphs[i].endsCell ? 1 : 0;
+    }
+    // A row that tells of fewer cells than it has, or of none.
+    while (row.cells.size() < cells)
+        row.cells.push_back({(row.cells.empty() ? row.left : row.cells.back().right) + kCellWidth});
+    row.cells.resize(cells);
+    m_content.rows.push_back(std::move(row));
+    m_firstOpen = paragraphs.size();
+}
+
+void RtfContentBuilder::addPicture(RtfPicture picture)
+{
+    m_content.text += QChar(QChar::ObjectReplacementCharacter);
+    m_content.pictures.push_back(std::move(picture));
 }
 
 RtfContent RtfContentBuilder::take(const RtfParagraphStyle& lastParagraph)
 {
+    dropOpenCells();
     pushParagraph(lastParagraph);
     return std::exchange(m_content, {});
 }

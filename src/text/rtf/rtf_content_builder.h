@@ -22,7 +22,14 @@ public:
     /// The style of what is added from now on.
     void setStyle(const RtfCharStyle& style);
     const RtfCharStyle& style() const { return m_style; }
-    void endParagraph(const RtfParagraphStyle& style);
+    /// `isInTable` for a paragraph within a cell; its row comes by endRow().
+    void endParagraph(const RtfParagraphStyle& style, bool isInTable = false);
+    /// Ends the paragraph and its cell.
+    void endCell(const RtfParagraphStyle& style);
+    /// Ends a cell that was left open, and puts the cells since the last row into this one.
+    void endRow(RtfRow row, const RtfParagraphStyle& style);
+    void addPicture(RtfPicture picture);
+    void setIncomplete() { m_content.isIncomplete = true; }
 
     void addFont(const RtfFont& font) { m_content.fonts.push_back(font); }
     void addColor(std::optional<RgbLong> color) { m_content.colors.push_back(color); }
@@ -35,12 +42,15 @@ private:
     void closeRun();
     int styleIndex();
     void pushParagraph(const RtfParagraphStyle& style);
+    RtfParagraph& addMark(const RtfParagraphStyle& style);
+    void dropOpenCells();
 
     RtfContent m_content;
     RtfCharStyle m_style;
     QHash<quint64, int> m_styleIndexes;
     qsizetype m_runStart = 0;
     std::size_t m_firstRun = 0;
+    std::size_t m_firstOpen = 0; ///< paragraph behind the last row
 };
 
 } // namespace lumen

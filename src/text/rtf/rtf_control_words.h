@@ -15,8 +15,11 @@ enum class RtfAction : quint8 {
     DefaultTab,
     FontTable,
     ColorTable,
-    SkipDestination,
+    SkipDestination, ///< value: 1 where something is lost to the reader that the text shows
+    PictureGroup,    ///< holds a picture, and is kept with it
+    Picture,
     FontCharset,
+    PicturePart, ///< value: RtfPicturePart
     Red,
     Green,
     Blue,
@@ -31,13 +34,38 @@ enum class RtfAction : quint8 {
     LeftIndent,
     FirstLineIndent,
     RightIndent,
+    SpaceBefore,
+    SpaceAfter,
+    LineSpacing,
+    LineMultiple,
     PlainParagraph,
     ParagraphEnd,
     Character, ///< value: the UTF-16 unit
     Unicode,
     UnicodeSkip,
     Binary,
+    InTable,
+    RowBegin,
+    RowPart, ///< value: RtfRowPart
+    CellEnd,
+    RowEnd,
 };
+
+enum class RtfPicturePart : quint8 {
+    Png,
+    Jpeg,
+    Dib,
+    Metafile,
+    OtherKind,
+    Width,
+    Height,
+    WidthGoal,
+    HeightGoal,
+    ScaleX,
+    ScaleY
+};
+
+enum class RtfRowPart : quint8 { Left, Right, ContinuesAbove, Border };
 
 struct RtfControlWord
 {

@@ -1,38 +1,18 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "text/rtf/rtf_parser.h"
 
-#include "text/rtf/rtf_content_builder.h"
-#include "text/rtf/rtf_control_words.h"
-#include "text/rtf/rtf_text_decoder.h"
-
-#include <QHash>
+#include "text/rtf/rtf_parsing.h"
 
 #include <algorithm>
+#include <utility>
 
-namespace lumen {
+namespace lumen::rtf_parsing {
 namespace {
 
 // Groups nested deeper are read without a state of their own: no document has so many, and
 // memory stays bounded for any input.
 constexpr std::size_t kMaxDepth = 2000;
 constexpr qint64 kMaxParameter = 100'000'000;
-
-enum class Destination : quint8 { Body, Fonts, Colors, Skipped };
-
-struct GroupState
-{
-    RtfCharStyle style;
-    RtfParagraphStyle paragraph;
-    Destination destination = Destination::Body;
-    int unicodeSkip = 1;
-};
-
-// A control word as it stands in the input.
-struct ControlWord
-{
-    std::string_view name;
-    std::optional<int> parameter;
-};
 
 bool isLetter(char c)
 {
@@ -58,60 +38,7 @@ bool isPlainAscii(char c)
     return c >= 0x20 && c <= 0x7E && c != '\\' && c != '{' && c != '}';
 }
 
-class Parser
-{
-public:
-    explicit Parser(QByteArrayView bytes) : m_bytes(bytes), m_builder(bytes.size()) {}
-
-    RtfContent run();
-
-private:
-    void readText();
-    void readControl();
-    void readHexByte();
-    void readSymbol(char symbol);
-    ControlWord readControlWord();
-
-    void openGroup();
-    void closeGroup();
-
-    void apply(const ControlWord& word);
-    void applyDocument(const RtfControlWord& row, int parameter);
-    void applyTable(const RtfControlWord& row, int parameter);
-    void applyCharacter(const RtfControlWord& row, std::optional<int> parameter);
-    void applyParagraph(const RtfControlWord& row, int parameter);
-    void addUnicode(int number);
-
-    void addByte(unsigned char byte);
-    void addUnit(char16_t unit);
-    void addColorByte(unsigned char byte);
-    void takeDecoded();
-    void flushText();
-    void finishFont();
-    void setStyle(const RtfCharStyle& style);
-    void endParagraph();
-
-    QByteArrayView m_bytes;
-    qsizetype m_at = 0;
-    bool m_ended = false;
-    RtfContentBuilder m_builder;
-
-    GroupState m_state;
-    std::vector<GroupState> m_groups;
-    qsizetype m_deeperGroups = 0;
-    bool m_starred = false;
-    int m_skip = 0;
-
-    RtfTextDecoder m_decoder;
-    QString m_decoded;
-    QHash<int, int> m_charsets;
-    RtfFont m_font;
-    QString m_fontName;
-    bool m_inFont = false;
-    RgbLong m_color = 0;
-    bool m_hasColor = false;
-    int m_defaultFont = 0;
-};
+} // namespace
 
 RtfContent Parser::run()
 {
@@ -140,6 +67,14 @@ RtfContent Parser::run()
 // Plain ASCII of the body is taken in one go; all else goes byte by byte.
 void Parser::readText()
 {
+    if (m_state.destination == Destination::Picture) {
+        const qsizetype start = m_at;
+        while (m_at < m_bytes.size() && m_bytes[m_at] != '\\' && m_bytes[m_at] != '{' &&
+               m_bytes[m_at] != '}')
+            ++m_at;
+        m_pictureReader.addHex(m_bytes.sliced(start, m_at - start));
+        return;
+    }
     qsizetype end = m_at;
     while (end < m_bytes.size() && isPlainAscii(m_bytes[end]))
         ++end;
@@ -243,10 +178,13 @@ void Parser::openGroup()
 {
     flushText();
     m_skip = 0;
-    if (m_groups.size() < kMaxDepth)
+    if (m_groups.size() < kMaxDepth) {
         m_groups.push_back(m_state);
-    else
+        m_state.start = m_at - 1;
+        m_state.holdsPicture = false;
+    } else {
         ++m_deeperGroups;
+    }
 }
 
 void Parser::closeGroup()
@@ -273,8 +211,10 @@ void Parser::closeGroup()
         m_ended = true;
         return;
     }
+    const GroupState closed = m_state;
     setStyle(outer.style);
     m_state = outer;
+    leavePictureGroup(closed);
 }
 
 void Parser::apply(const ControlWord& word)
@@ -282,16 +222,19 @@ void Parser::apply(const ControlWord& word)
     const bool starred = std::exchange(m_starred, false);
     flushText();
     m_skip = 0;
-    if (starred) {
-        m_state.destination = Destination::Skipped;
+    const RtfControlWord* row = findRtfControlWord(word.name);
+    if (starred && (!row || row->action != RtfAction::PictureGroup)) {
+        skip(row && row->action == RtfAction::SkipDestination && row->value != 0);
         return;
     }
-    const RtfControlWord* row = findRtfControlWord(word.name);
     if (!row)
         return;
     const int parameter = word.parameter.value_or(0);
     if (row->action == RtfAction::Binary) {
-        m_at += std::clamp<qsizetype>(parameter, 0, m_bytes.size() - m_at);
+        const qsizetype length = std::clamp<qsizetype>(parameter, 0, m_bytes.size() - m_at);
+        if (m_state.destination == Destination::Picture)
+            m_pictureReader.addBytes(m_bytes.sliced(m_at, length));
+        m_at += length;
         return;
     }
     if (m_state.destination == Destination::Skipped)
@@ -302,157 +245,10 @@ void Parser::apply(const ControlWord& word)
         applyTable(*row, parameter);
     else if (row->action < RtfAction::Alignment)
         applyCharacter(*row, word.parameter);
-    else
+    else if (row->action < RtfAction::RowBegin)
         applyParagraph(*row, parameter);
-}
-
-void Parser::applyDocument(const RtfControlWord& row, int parameter)
-{
-    switch (row.action) {
-    case RtfAction::AnsiCodePage:
-        m_decoder.setCodePage(parameter);
-        break;
-    case RtfAction::DefaultFont: {
-        m_defaultFont = parameter;
-        RtfCharStyle style = m_state.style;
-        style.font = parameter;
-        setStyle(style);
-        break;
-    }
-    case RtfAction::DefaultTab:
-        m_builder.setTabWidth(parameter);
-        break;
-    case RtfAction::FontTable:
-        m_state.destination = Destination::Fonts;
-        break;
-    case RtfAction::ColorTable:
-        m_state.destination = Destination::Colors;
-        break;
-    case RtfAction::SkipDestination:
-        m_state.destination = Destination::Skipped;
-        break;
-    default:
-        break;
-    }
-}
-
-void Parser::applyTable(const RtfControlWord& row, int parameter)
-{
-    const auto setPart = [&](int shift) {
-        m_color |= static_cast<RgbLong>(std::clamp(parameter, 0, 255)) << shift;
-        m_hasColor = true;
-    };
-    switch (row.action) {
-    case RtfAction::Font:
-        finishFont();
-        m_inFont = true;
-        m_font.number = parameter;
-        break;
-    case RtfAction::FontCharset:
-        m_font.charset = parameter;
-        m_decoder.setCharset(parameter);
-        break;
-    case RtfAction::Red:
-        setPart(0);
-        break;
-    case RtfAction::Green:
-        setPart(8);
-        break;
-    case RtfAction::Blue:
-        setPart(16);
-        break;
-    case RtfAction::Unicode:
-        addUnicode(parameter);
-        break;
-    default:
-        break;
-    }
-}
-
-void Parser::applyCharacter(const RtfControlWord& row, std::optional<int> parameter)
-{
-    RtfCharStyle style = m_state.style;
-    const auto flags = static_cast<quint8>(row.value);
-    switch (row.action) {
-    case RtfAction::Font:
-        style.font = parameter.value_or(m_defaultFont);
-        break;
-    case RtfAction::FontSize:
-        style.halfPoints = std::clamp(parameter.value_or(RtfCharStyle().halfPoints), 1, 3276);
-        break;
-    case RtfAction::Color:
-        style.color = parameter.value_or(0);
-        break;
-    case RtfAction::Background:
-        style.background = parameter.value_or(0) > 0 ? *parameter : -1;
-        break;
-    case RtfAction::SetFlag:
-        if (flags == RtfCharStyle::Superscript || flags == RtfCharStyle::Subscript)
-            style.flags &=
-                static_cast<quint8>(~(RtfCharStyle::Superscript | RtfCharStyle::Subscript));
-        style.flags = static_cast<quint8>(parameter.value_or(1) != 0 ? style.flags | flags
-                                                                     : style.flags & ~flags);
-        break;
-    case RtfAction::ClearFlag:
-        style.flags &= static_cast<quint8>(~flags);
-        break;
-    case RtfAction::PlainText:
-        style = RtfCharStyle();
-        style.font = m_defaultFont;
-        break;
-    default:
-        break;
-    }
-    setStyle(style);
-}
-
-void Parser::applyParagraph(const RtfControlWord& row, int parameter)
-{
-    RtfParagraphStyle& style = m_state.paragraph;
-    switch (row.action) {
-    case RtfAction::Alignment:
-        style.alignment = static_cast<RtfAlignment>(row.value);
-        break;
-    case RtfAction::LeftIndent:
-        style.leftIndent = parameter;
-        break;
-    case RtfAction::FirstLineIndent:
-        style.firstLineIndent = parameter;
-        break;
-    case RtfAction::RightIndent:
-        style.rightIndent = parameter;
-        break;
-    case RtfAction::PlainParagraph:
-        style = RtfParagraphStyle();
-        break;
-    case RtfAction::ParagraphEnd:
-        endParagraph();
-        break;
-    case RtfAction::Character:
-        addUnit(static_cast<char16_t>(row.value));
-        break;
-    case RtfAction::Unicode:
-        addUnicode(parameter);
-        break;
-    case RtfAction::UnicodeSkip:
-        m_state.unicodeSkip = std::clamp(parameter, 0, 16);
-        break;
-    default:
-        break;
-    }
-}
-
-// The number is a signed 16-bit one; some programs write the unsigned one, or one beyond 16 bits.
-void Parser::addUnicode(int number)
-{
-    const auto code = static_cast<char32_t>(number < 0 ? number + 0x10000 : number);
-    if (code > 0xFFFF && code <= 0x10FFFF) {
-        addUnit(QChar::highSurrogate(code));
-        addUnit(QChar::lowSurrogate(code));
-    } else if (code <= 0xFFFF) {
-        addUnit(static_cast<char16_t>(code));
-    }
-    m_skip = m_state.unicodeSkip;
+    else
+        applyTableRow(*row, parameter);
 }
 
 void Parser::addByte(unsigned char byte)
@@ -540,10 +336,12 @@ void Parser::endParagraph()
     if (m_state.destination != Destination::Body)
         return;
     flushText();
-    m_builder.endParagraph(m_state.paragraph);
+    m_builder.endParagraph(m_state.paragraph, m_state.inTable);
 }
 
-} // namespace
+} // namespace lumen::rtf_parsing
+
+namespace lumen {
 
 bool isRtf(QByteArrayView bytes)
 {
@@ -552,7 +350,7 @@ bool isRtf(QByteArrayView bytes)
 
 RtfContent parseRtf(QByteArrayView bytes)
 {
-    return isRtf(bytes) ? Parser(bytes).run() : plainTextContent(bytes);
+    return isRtf(bytes) ? rtf_parsing::Parser(bytes).run() : plainTextContent(bytes);
 }
 
 } // namespace lumen

@@ -1,18 +1,25 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "text/rtf/rtf_reader.h"
 
+#include "text/rtf/rtf_objects.h"
 #include "text/rtf/rtf_parser.h"
+#include "text/rtf/rtf_picture_reader.h"
+#include "text/rtf/rtf_table_filler.h"
 
+#include <QCryptographicHash>
 #include <QTextBlock>
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
+#include <QUrl>
 
+#include <cstdlib>
 #include <vector>
 
 namespace lumen {
 namespace {
 
 constexpr int kSingleSpacing = 100;
+constexpr int kLineUnit = 240; // of \sl, for a single line
 
 QColor toColor(RgbLong color)
 {
@@ -78,30 +85,110 @@ public:
 
     void fill(QTextCursor& cursor, bool keepFirstBlock)
     {
-        for (std::size_t i = 0; i < m_content.paragraphs.size(); ++i) {
+        bool opensBlock = true; // the cursor stands in a block that the paragraph may have
+        for (std::size_t i = 0; i < m_content.paragraphs.size();) {
             const RtfParagraph& paragraph = m_content.paragraphs[i];
-            const QTextCharFormat& end = formatOf(paragraph.endStyle);
-            if (i > 0) {
-                cursor.insertBlock(blockFormat(paragraph.style), end);
-            } else if (!keepFirstBlock) {
-                cursor.setBlockFormat(blockFormat(paragraph.style));
-                cursor.setBlockCharFormat(end);
+            if (paragraph.row >= 0) {
+                if (i == 0 && cursor.atStart())
+                    markBeforeTable(cursor);
+                i = RtfTableFiller(m_content, m_options.pixelsPerTwip)
+                        .fill(cursor, i,
+                              [this](QTextCursor& inside, const RtfParagraph& inCell, bool first) {
+                                  fillParagraph(inside, inCell, first, false);
+                              });
+                opensBlock = true;
+                keepFirstBlock = false;
+                continue;
             }
-            for (std::size_t r = 0; r < paragraph.runCount; ++r)
-                insertRun(cursor, m_content.runs[paragraph.firstRun + r]);
+            fillParagraph(cursor, paragraph, opensBlock, keepFirstBlock && i == 0);
+            opensBlock = false;
+            ++i;
         }
     }
 
 private:
+    static void markBeforeTable(QTextCursor& cursor)
+    {
+        QTextBlockFormat format;
+        format.setProperty(kBeforeTable, true);
+        cursor.mergeBlockFormat(format);
+    }
+
+    void fillParagraph(QTextCursor& cursor, const RtfParagraph& paragraph, bool opensBlock,
+                       bool keepBlock)
+    {
+        const QTextCharFormat& end = formatOf(paragraph.endStyle);
+        if (!opensBlock) {
+            cursor.insertBlock(blockFormat(paragraph.style), end);
+        } else if (!keepBlock) {
+            cursor.setBlockFormat(blockFormat(paragraph.style));
+            // Merged, as the format of a cell's first block tells how far the cell reaches.
+            if (paragraph.row >= 0)
+                cursor.mergeBlockCharFormat(end);
+            else
+                cursor.setBlockCharFormat(end);
+        }
+        for (std::size_t r = 0; r < paragraph.runCount; ++r)
+            insertRun(cursor, m_content.runs[paragraph.firstRun + r]);
+    }
+
     const QTextCharFormat& formatOf(int style) const
     {
         return m_formats[static_cast<std::size_t>(style)];
     }
 
-    void insertRun(QTextCursor& cursor, const RtfRun& run) const
+    void insertRun(QTextCursor& cursor, const RtfRun& run)
     {
-        const QChar* text = m_content.text.constData() + run.start;
-        cursor.insertText(QString::fromRawData(text, run.length), formatOf(run.style));
+        const QTextCharFormat& format = formatOf(run.style);
+        const qsizetype end = run.start + run.length;
+        for (qsizetype at = run.start; at < end;) {
+            qsizetype picture = m_content.pictures.empty()
+                                    ? -1
+                                    : m_content.text.indexOf(QChar::ObjectReplacementCharacter, at);
+            if (picture < 0 || picture > end)
+                picture = end;
+            if (picture > at)
+                cursor.insertText(
+                    QString::fromRawData(m_content.text.constData() + at, picture - at), format);
+            if (picture < end)
+                insertPicture(cursor);
+            at = picture + 1;
+        }
+    }
+
+    // Pictures come in the order of the text.
+    void insertPicture(QTextCursor& cursor)
+    {
+        const RtfPicture& picture = m_content.pictures[m_nextPicture++];
+        const QImage image = toImage(picture);
+        const QByteArray sum =
+            QCryptographicHash::hash(picture.data, QCryptographicHash::Sha1).toHex();
+        const QString name = QStringLiteral("picture:") + QString::fromLatin1(sum);
+        cursor.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+        QTextImageFormat format;
+        format.setName(name);
+        const bool isSized = !picture.size.isEmpty();
+        format.setWidth(isSized ? picture.size.width() * m_options.pixelsPerTwip : image.width());
+        format.setHeight(isSized ? picture.size.height() * m_options.pixelsPerTwip
+                                 : image.height());
+        if (!picture.group.isEmpty())
+            format.setProperty(kPictureGroup, picture.group);
+        cursor.insertImage(format);
+    }
+
+    void setLineSpacing(const RtfParagraphStyle& style)
+    {
+        const int spacing = style.lineSpacing;
+        if (m_options.lineSpacingPercent != kSingleSpacing)
+            m_blockFormat.setLineHeight(m_options.lineSpacingPercent,
+                                        QTextBlockFormat::ProportionalHeight);
+        else if (spacing != 0 && style.lineMultiple)
+            m_blockFormat.setLineHeight(spacing * 100.0 / kLineUnit,
+                                        QTextBlockFormat::ProportionalHeight);
+        else if (spacing != 0)
+            m_blockFormat.setLineHeight(std::abs(spacing) * m_options.pixelsPerTwip,
+                                        spacing > 0 ? QTextBlockFormat::MinimumHeight
+                                                    : QTextBlockFormat::FixedHeight);
     }
 
     // Neighbours mostly share their format.
@@ -122,11 +209,13 @@ private:
             m_blockFormat.setTextIndent(pixels(style.firstLineIndent));
         if (style.rightIndent != 0)
             m_blockFormat.setRightMargin(pixels(style.rightIndent));
-        if (m_options.paragraphSpacing != 0)
-            m_blockFormat.setBottomMargin(pixels(m_options.paragraphSpacing));
-        if (m_options.lineSpacingPercent != kSingleSpacing)
-            m_blockFormat.setLineHeight(m_options.lineSpacingPercent,
-                                        QTextBlockFormat::ProportionalHeight);
+        const int below =
+            m_options.paragraphSpacing != 0 ? m_options.paragraphSpacing : style.spaceAfter;
+        if (below != 0)
+            m_blockFormat.setBottomMargin(pixels(below));
+        if (style.spaceBefore != 0)
+            m_blockFormat.setTopMargin(pixels(style.spaceBefore));
+        setLineSpacing(style);
         return m_blockFormat;
     }
 
@@ -136,6 +225,7 @@ private:
     QTextBlockFormat m_blockFormat;
     RtfParagraphStyle m_blockStyle;
     bool m_hasBlockFormat = false;
+    std::size_t m_nextPicture = 0;
 };
 
 RtfContent parse(QByteArrayView rtf, LastPar lastPar)
@@ -162,7 +252,7 @@ void setTabWidth(QTextDocument& document, const RtfContent& content, const RtfRe
 
 } // namespace
 
-void readRtf(QByteArrayView rtf, QTextDocument& document, const RtfReadOptions& options)
+bool readRtf(QByteArrayView rtf, QTextDocument& document, const RtfReadOptions& options)
 {
     const RtfContent content = parse(rtf, options.lastPar);
     const bool hadUndo = document.isUndoRedoEnabled();
@@ -174,6 +264,7 @@ void readRtf(QByteArrayView rtf, QTextDocument& document, const RtfReadOptions& 
     Filler(content, options).fill(cursor, false);
     cursor.endEditBlock();
     document.setUndoRedoEnabled(hadUndo);
+    return !content.isIncomplete;
 }
 
 void insertRtf(QByteArrayView rtf, QTextCursor& cursor, const RtfReadOptions& options)
@@ -188,7 +279,12 @@ void insertRtf(QByteArrayView rtf, QTextCursor& cursor, const RtfReadOptions& op
 
 QString rtfToPlainText(QByteArrayView rtf, LastPar lastPar)
 {
-    return parse(rtf, lastPar).text;
+    RtfContent content = parse(rtf, lastPar);
+    for (std::size_t i = 0; i + 1 < content.paragraphs.size(); ++i)
+        if (content.paragraphs[i].endsCell &&
+            content.paragraphs[i].row == content.paragraphs[i + 1].row)
+            content.text[content.paragraphs[i].end] = u'\t';
+    return content.text.replace(QChar::ObjectReplacementCharacter, u' ');
 }
 
 } // namespace lumen
