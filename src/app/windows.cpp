@@ -4,10 +4,12 @@
 #include "forms/guarded.h"
 #include "platform/dialogs/modal.h"
 #include "reader/bible_window.h"
+#include "records/record_window.h"
 #include "search/original/strong_list_window.h"
 #include "search/search_window.h"
 #include "tools/about_window.h"
 #include "tools/extract_dialog.h"
+#include "tools/insert_dialog.h"
 #include "tools/preferences_dialog.h"
 #include "tools/user_version_dialog.h"
 
@@ -25,11 +27,11 @@ void Windows::setReader(frm성서& reader)
     reader.closeToolWindows = [this] { return closeAll(); };
 }
 
-template <typename Window>
-void Windows::raise(std::unique_ptr<Window>& window)
+template <typename Window, typename... Arguments>
+void Windows::raise(std::unique_ptr<Window>& window, Arguments&&... arguments)
 {
     if (!window)
-        window = std::make_unique<Window>(m_services, m_state, m_reader->model);
+        window = std::make_unique<Window>(std::forward<Arguments>(arguments)...);
     if (!window->isVisible())
         window->Form_Load();
     raiseWindow(*window);
@@ -47,8 +49,10 @@ void Windows::runModally(Arguments&&... arguments)
 void Windows::open(WindowId window)
 {
     switch (window) {
+    case WindowId::Reader:
+        return raiseWindow(*m_reader);
     case WindowId::Search:
-        return raise(m_search);
+        return raise(m_search, m_services, m_state, m_reader->model);
     case WindowId::Extract:
         return runModally<dlog성서추출>(m_services, m_state);
     case WindowId::Preferences:
@@ -57,6 +61,10 @@ void Windows::open(WindowId window)
         return runModally<dlogUserVersionPref>(m_services, m_reader->model);
     case WindowId::About:
         return runModally<frmAbout>();
+    case WindowId::Sermons:
+        return raise(m_sermons, record_profile::kSermon, m_services, m_state, *this);
+    case WindowId::QuietTime:
+        return raise(m_quietTime, record_profile::kQuietTime, m_services, m_state, *this);
     }
 }
 
@@ -67,8 +75,29 @@ void Windows::openStrongList(const QString& language, const QString& number)
     m_strongList->FillBibleIndex(language, number);
 }
 
+void Windows::openVerseInsertion(QWidget* parent, const std::function<void(const QString&)>& insert)
+{
+    runModally<dlog성구삽입>(m_services, m_state, insert, parent);
+}
+
+void Windows::openHomePage()
+{
+    m_reader->openHomePage();
+}
+
+void Windows::endAtOnce()
+{
+    for (const auto& notebook : {m_sermons.get(), m_quietTime.get()})
+        if (notebook)
+            notebook->keepUnsaved();
+    QCoreApplication::exit();
+}
+
 bool Windows::closeAll()
 {
+    for (const auto& notebook : {m_sermons.get(), m_quietTime.get()})
+        if (notebook && !notebook->close())
+            return false;
     if (m_strongList && !m_strongList->close())
         return false;
     return !m_search || m_search->close();

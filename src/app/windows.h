@@ -14,6 +14,7 @@ namespace lumen {
 class frm성서;
 class frm성서검색;
 class frm스트롱관주목록;
+class RecordWindow;
 struct AppState;
 struct Services;
 
@@ -30,14 +31,18 @@ public:
     void setReader(frm성서& reader);
     void open(WindowId window) override;
     void openStrongList(const QString& language, const QString& number) override;
+    void openVerseInsertion(QWidget* parent,
+                            const std::function<void(const QString&)>& insert) override;
+    void openHomePage() override;
+    void endAtOnce() override;
     /// Closes the tool windows; false when one refuses.
     bool closeAll();
 
 private:
     /// Makes a tool window at its first use, fills it afresh when it is closed, brings it to the
     /// front.
-    template <typename Window>
-    void raise(std::unique_ptr<Window>& window);
+    template <typename Window, typename... Arguments>
+    void raise(std::unique_ptr<Window>& window, Arguments&&... arguments);
     /// Makes a dialog, fills it where it has something to fill, and waits for its end.
     template <typename Dialog, typename... Arguments>
     void runModally(Arguments&&... arguments);
@@ -48,6 +53,8 @@ private:
     frm성서* m_reader = nullptr;
     std::unique_ptr<frm성서검색> m_search;
     std::unique_ptr<frm스트롱관주목록> m_strongList;
+    std::unique_ptr<RecordWindow> m_sermons;
+    std::unique_ptr<RecordWindow> m_quietTime;
 };
 
 } // namespace lumen

@@ -27,4 +27,8 @@ inline constexpr MessageText kInsertCdBase{
     u"CD 삽입 후 재시행 요망", u"루멘 스크립트 CD를 넣은 후 프로그램을 재실행 하십시요.", 48,
     kWithoutDisc};
 
+/// What an end could not write or back up; %1 are the files with the reason.
+inline constexpr MessageText kNotStored{
+    u"저장 실패", u"다음 파일을 쓰지 못했습니다. 전에 저장된 것은 그대로 있습니다.\r\n%1", 48};
+
 } // namespace lumen::messages

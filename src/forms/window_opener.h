@@ -3,12 +3,23 @@
 
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace lumen {
 
 /// The windows that others may ask for.
-enum class WindowId { Search, Extract, Preferences, UserVersionPreferences, About };
+enum class WindowId {
+    Reader,
+    Search,
+    Extract,
+    Preferences,
+    UserVersionPreferences,
+    About,
+    Sermons,
+    QuietTime
+};
 
 /// Opens, raises or runs a window, so that windows need not know each other.
 class WindowOpener
@@ -18,6 +29,13 @@ public:
     virtual void open(WindowId window) = 0;
     /// Lists the verses in which a Strong's number occurs; the language is "히브리어" or "헬라어".
     virtual void openStrongList(const QString& language, const QString& number) = 0;
+    /// Lets the user take verses for a text: onto the clipboard, or through `insert` to its caret.
+    virtual void openVerseInsertion(QWidget* parent,
+                                    const std::function<void(const QString&)>& insert) = 0;
+    virtual void openHomePage() = 0;
+    /// Ends the program without closing its windows. What is being written in the notebooks is kept
+    /// as a draft.
+    virtual void endAtOnce() = 0;
 };
 
 /// Brings a window to the front, be it hidden, covered or minimised; a maximised one stays so.

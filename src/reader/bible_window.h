@@ -76,6 +76,8 @@ public:
     ReferencePanel* panel;
 
     const ToolDispatch& toolClicks() const { return m_tools; }
+    /// The page that the settings name, or the program's own.
+    void openHomePage();
     const ToolDispatch& toolCombos() const { return m_combos; }
 
 protected:

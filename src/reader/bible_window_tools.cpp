@@ -42,6 +42,8 @@ struct WindowTool
 constexpr std::array kWindowTools{
     WindowTool{u"ID_검색", WindowId::Search},
     WindowTool{u"ID_본문추출", WindowId::Extract},
+    WindowTool{u"ID_설교매니저", WindowId::Sermons},
+    WindowTool{u"ID_QT매니저", WindowId::QuietTime},
     WindowTool{u"ID_환경설정", WindowId::Preferences},
     WindowTool{u"ID_사용자역본환경설정", WindowId::UserVersionPreferences},
     WindowTool{u"ID_루멘스크립트에대하여", WindowId::About},
@@ -252,13 +254,16 @@ void frm성서::bindWindowTools()
 {
     for (const WindowTool& tool : kWindowTools)
         m_tools.on(tool.id, [this, window = tool.window] { m_windows.open(window); });
-    m_tools.on(u"ID_인터넷", [this] {
-        const QString& own = m_settings.HomePage;
-        openPage(own.isEmpty() ? kHomePage : QStringView(own));
-    });
+    m_tools.on(u"ID_인터넷", [this] { openHomePage(); });
     for (const ReferencePage& page : kReferencePages)
         m_tools.on(page.tool, [this, file = page.file] { openPage(file); });
     bindHelpMenu(m_tools, m_services, this, u"Lumens_Intro.htm");
+}
+
+void frm성서::openHomePage()
+{
+    const QString& own = m_settings.HomePage;
+    openPage(own.isEmpty() ? kHomePage : QStringView(own));
 }
 
 void frm성서::openPage(QStringView file)

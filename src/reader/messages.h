@@ -27,10 +27,6 @@ inline constexpr MessageText kVersionUnread{
     u"바랍니다.\r\n%1",
     48};
 
-/// %1 are the files with the reason.
-inline constexpr MessageText kNotStored{
-    u"저장 실패", u"다음 파일을 쓰지 못했습니다. 전에 저장된 것은 그대로 있습니다.\r\n%1", 48};
-
 /// %1 is the file.
 inline constexpr MessageText kPageMissing{u"파일 없음", u"파일을 열 수 없습니다.\r\n%1", 48};
 

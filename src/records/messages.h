@@ -39,4 +39,29 @@ inline constexpr MessageText kNoFirstTerm{
     u"단추를 누르시기 바랍니다.",
     64};
 
+/// Unsaved text of a former run; %1 is its title, %2 the moment of its last word.
+inline constexpr MessageText kDraftFound{
+    u"저장되지 않은 내용",
+    u"\"%1\"에 %2까지 쓰고 저장하지 못한 내용이 남아 있습니다. 불러올까요?\r\n('아니오'를 누르면 "
+    u"지우고, '취소'를 누르면 다음에 다시 묻습니다.)",
+    35};
+inline constexpr MessageText kDraftFails{
+    u"임시 저장 실패",
+    u"쓰고 있는 내용을 임시로 저장하지 못하고 있습니다. 디스크를 확인하고 [저장]을 눌러 "
+    u"주십시오.\r\n%1",
+    48};
+inline constexpr MessageText kRecordGone{
+    u"지워진 자료",
+    u"이 자료는 다른 프로그램에서 지워졌습니다. 화면에 있는 내용을 새 자료로 저장할까요?", 36};
+inline constexpr MessageText kNotClosed{u"저장하지 못한 내용",
+                                        u"저장하지 못한 내용이 있습니다. 그래도 창을 닫을까요? "
+                                        u"닫아도 쓰던 내용은 임시 파일에 남아 다음에 "
+                                        u"열 때 다시 불러올 수 있습니다.",
+                                        276};
+inline constexpr MessageText kLosesOnEdit{
+    u"보이지 않는 내용",
+    u"이 글에는 각주나 그리기 개체처럼 여기서 보여 줄 수 없는 것이 들어 있습니다. 고치면 그것은 "
+    u"없어집니다. 계속할까요?",
+    308};
+
 } // namespace lumen::messages

@@ -24,17 +24,35 @@ struct RecordColumn
     QStringView heading; ///< in the composed text and above the grid of the search
 };
 
-/// A tool that both windows have, each under a name of its own.
+/// A tool of one of the windows.
+struct RecordTool
+{
+    QStringView id;
+    QStringView caption;
+};
+
+/// The tools that both windows have, each under a name of its own.
 struct RecordTools
 {
-    QStringView list;
-    QStringView create;
-    QStringView first;
-    QStringView previous;
-    QStringView next;
-    QStringView last;
-    QStringView remove;
-    QStringView otherManager; ///< opens the window of the other profile
+    QStringView menu; ///< caption
+    RecordTool list;
+    RecordTool create;
+    RecordTool first;
+    RecordTool previous;
+    RecordTool next;
+    RecordTool last;
+    RecordTool remove;
+    RecordTool otherManager; ///< opens the window of the other profile
+};
+
+/// What the window and its controls are called.
+struct RecordNames
+{
+    QStringView window;
+    std::array<QStringView, kRecordTexts> boxes;
+    QStringView tabs;
+    QStringView info;
+    QStringView infoCaption;
 };
 
 struct RecordMessages
@@ -73,6 +91,7 @@ struct RecordProfile
     QStringView printSource;
     QStringView helpPage;
     GeometryRow geometry;
+    RecordNames names;
     RecordTools tools;
     std::span<const QStringView> absentTools;
     RecordMessages messages;

@@ -97,6 +97,7 @@ void VerseRangeDialog::layOut()
         formLayout->addWidget(box);
 
     auto* buttons = new QHBoxLayout;
+    m_buttons = buttons;
     buttons->addStretch();
     buttons->addWidget(m_command);
     buttons->addWidget(cmd취소);
@@ -287,6 +288,12 @@ void VerseRangeDialog::showRange(const ExtractRange& range)
     showNumber(*cb장, range.chapter);
     showNumber(*cb시작절, range.firstVerse);
     showNumber(*cb끝절, range.lastVerse);
+}
+
+void VerseRangeDialog::addButton(QPushButton* button)
+{
+    button->setAutoDefault(false);
+    m_buttons->insertWidget(m_buttons->indexOf(cmd취소), button);
 }
 
 void VerseRangeDialog::takeVerses()

@@ -61,6 +61,10 @@ protected:
     /// What Form_Load has read and done() writes.
     ExtractSettings& settings() { return m_settings; }
     Services& services() { return m_services; }
+    /// Checks the range, composes its text and delivers it.
+    void takeVerses();
+    /// A button beside the dialog's own.
+    void addButton(QPushButton* button);
 
 private:
     void layOut();
@@ -70,7 +74,6 @@ private:
     void cb책명_Click();
     void cb장_Click();
     void typedChapterEnded();
-    void takeVerses();
     bool openModule(QStringView connect);
     int versesIn(int chapter);
     void fillChapters(QStringView connect);
@@ -92,6 +95,7 @@ private:
     std::optional<ExtractRange> m_kept;
     bool m_keptToEnd = false;
     QBoxLayout* m_ownControls = nullptr;
+    QBoxLayout* m_buttons = nullptr;
     QPushButton* m_command;
 };
 

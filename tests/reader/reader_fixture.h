@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/startup_progress.h"
-#include "forms/window_opener.h"
 #include "reader/bible_window.h"
+#include "support/recording_opener.h"
 #include "support/test_services.h"
 #include "support/tiny_data.h"
 
@@ -16,18 +16,6 @@
 #include <vector>
 
 namespace lumen {
-
-class RecordingOpener : public WindowOpener
-{
-public:
-    void open(WindowId window) override { opened.push_back(window); }
-    void openStrongList(const QString& language, const QString& number) override
-    {
-        strongLists << language + u' ' + number;
-    }
-    std::vector<WindowId> opened;
-    QStringList strongLists;
-};
 
 class RecordingSplash : public StartupProgress
 {

@@ -25,6 +25,8 @@ public:
     /// The next box. `whileOpen` runs while it is up, before the answer is given.
     void expect(const QString& title, const QString& text, int flags, Answer answer = Answer::Ok,
                 std::function<void()> whileOpen = {});
+    /// The next box by its title alone, for words that the system or a library chooses.
+    void expectAny(const QString& title, int flags, Answer answer = Answer::Ok);
     /// Fails for each box that hasn't come, and forgets them; the destructor does it too.
     void verify();
     int shownCount() const { return m_shown; }

@@ -22,10 +22,10 @@ constexpr int kJohn = 42;
 class ExtractDialogTest : public testing::Test
 {
 protected:
-    template <typename Dialog>
-    std::unique_ptr<Dialog> open()
+    template <typename Dialog, typename... More>
+    std::unique_ptr<Dialog> open(More... more)
     {
-        auto dialog = std::make_unique<Dialog>(world.services, world.state);
+        auto dialog = std::make_unique<Dialog>(world.services, world.state, more...);
         dialog->Form_Load();
         showActive(*dialog);
         return dialog;
@@ -256,9 +256,11 @@ TEST_F(ExtractDialogTest, TheRangeIsThereAgainTheNextTime)
     EXPECT_TRUE(dialog->chkVerNum->isChecked());
 }
 
-TEST_F(ExtractDialogTest, TheInsertionGoesToTheClipboardAndCloses)
+TEST_F(ExtractDialogTest, TheInsertionGoesToTheClipboardOrIntoTheTextAndCloses)
 {
-    const auto dialog = open<dlog성구삽입>();
+    QString inserted;
+    const auto insert = [&inserted](const QString& text) { inserted = text; };
+    auto dialog = open<dlog성구삽입>(insert);
     choose(*dialog, u"개역한글"_s, kJohn, 3);
     verses(*dialog, u"16"_s, u"16"_s);
     dialog->chkTail->setChecked(true);
@@ -269,6 +271,15 @@ TEST_F(ExtractDialogTest, TheInsertionGoesToTheClipboardAndCloses)
         64);
     press(*dialog, u"cmd삽입");
     EXPECT_EQ(world.clipboard.plainText(), johnText(16) + u" (요한복음 3:16)"_s);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(inserted, QString());
+
+    dialog = open<dlog성구삽입>(insert);
+    verses(*dialog, u"15"_s, u"16"_s);
+    dialog->chkVerLf->setChecked(true);
+    dialog->chkTail->setChecked(false);
+    press(*dialog, u"cmd넣기");
+    EXPECT_EQ(inserted, johnText(15) + u'\n' + johnText(16) + u'\n');
     EXPECT_FALSE(dialog->isVisible());
 }
 

@@ -175,6 +175,12 @@ void RichTextBox::setTextRTF(const QString& rtf)
     display([this] { m_wouldLose = !readRtf(toRtfBytes(m_given), *document(), readOptions()); });
 }
 
+void RichTextBox::setStored()
+{
+    m_given = TextRTF();
+    document()->setModified(false);
+}
+
 int RichTextBox::SelStart() const
 {
     return textCursor().selectionStart();
@@ -430,20 +436,6 @@ void RichTextBox::insertFromMimeData(const QMimeData* source)
         return setSelText(source->text());
     }
     insertRtfBytes(writeRtf(content, {writeOptions().pixelsPerTwip}));
-}
-
-bool RichTextBox::event(QEvent* event)
-{
-    // The window's tools have these keys, so that each way to them is the same.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->modifiers() == Qt::ControlModifier &&
-            (key->key() == Qt::Key_B || key->key() == Qt::Key_I || key->key() == Qt::Key_U)) {
-            event->ignore();
-            return true;
-        }
-    }
-    return QTextEdit::event(event);
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent* event)

@@ -69,6 +69,8 @@ public:
 
     /// The height of all lines at the box's present width, twips.
     int textHeight() const;
+    /// What stands here now has been stored: it is what is given back from here on. Undo stays.
+    void setStored();
     /// False while the text is what was given.
     bool isEdited() const { return document()->isModified(); }
     /// The text has something that is not shown, and that the first edit would lose.
@@ -92,7 +94,6 @@ protected:
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
-    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void dropEvent(QDropEvent* event) override;
