@@ -5,7 +5,7 @@
 #include "data/compact_and_backup.h"
 #include "jet/store/store_writer.h"
 #include "records/record_manager.h"
-#include "records/record_search.h"
+#include "records/search/record_search.h"
 #include "support/test_services.h"
 
 #include <QApplication>

@@ -49,6 +49,7 @@ struct RecordTools
 struct RecordNames
 {
     QStringView window;
+    QStringView search; ///< its window
     std::array<QStringView, kRecordTexts> boxes;
     QStringView tabs;
     QStringView info;

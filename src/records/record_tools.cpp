@@ -55,7 +55,7 @@ constexpr std::array kFormatMenu{
 constexpr std::array kToolMenu{
     ToolRow{u"ID_mn도구", u"도구(&T)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_성구삽입", u"성구 삽입(&I)...", ToolKind::Button, u"ID_mn도구", u"Ctrl+J"},
-    ToolRow{u"ID_검색", u"검색(&S)...", ToolKind::Button, u"ID_mn도구", u"Ctrl+F", u"search", ToolState::Later},
+    ToolRow{u"ID_검색", u"검색(&S)...", ToolKind::Button, u"ID_mn도구", u"Ctrl+F", u"search"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_mn도구"},
     ToolRow{u"ID_성서", u"성서(&B)", ToolKind::Button, u"ID_mn도구", u"Ctrl+Shift+B"},
     ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_mn도구", u"", u"", ToolState::Later},
@@ -108,7 +108,7 @@ void addRecordMenu(std::vector<ToolRow>& rows, const RecordTools& tools)
     rows.push_back(button(tools.previous, u"Alt+PgUp", u"previous-chapter"));
     rows.push_back(button(tools.next, u"Alt+PgDown", u"next-chapter"));
     rows.push_back(button(tools.last, u"Alt+End", u"last-record"));
-    rows.push_back(button(tools.list, u"Ctrl+L", u"record-list", ToolState::Later));
+    rows.push_back(button(tools.list, u"Ctrl+L", u"record-list"));
     rows.push_back(separator);
     rows.push_back(button(tools.remove, u"Ctrl+Shift+D", u"delete-record"));
     rows.push_back({u"ID_History", u"이전 상태와 지운 것(&H)...", ToolKind::Button, kMenu,

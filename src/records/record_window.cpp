@@ -12,6 +12,7 @@
 #include "platform/files/clock.h"
 #include "platform/registry/registry_store.h"
 #include "records/messages.h"
+#include "records/search/record_search_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -49,6 +50,23 @@ RecordWindow::RecordWindow(const RecordProfile& profile, Services& services, App
     m_manager.onDraftFailed = [this](const JetError& error) {
         m_services.messages.show(this, messages::kDraftFails, {error.text()});
     };
+}
+
+RecordWindow::~RecordWindow() = default;
+
+RecordSearchWindow& RecordWindow::openSearch()
+{
+    if (!m_search) {
+        m_search = std::make_unique<RecordSearchWindow>(m_profile, m_services, m_state);
+        m_search->onOpenRecord = [this](int key) {
+            if (showRecord(key))
+                raiseWindow(*this);
+        };
+    }
+    if (!m_search->isVisible())
+        m_search->Form_Load();
+    raiseWindow(*m_search);
+    return *m_search;
 }
 
 QString RecordWindow::plainText(int text) const
@@ -222,6 +240,8 @@ bool RecordWindow::Form_Unload()
 {
     saveFormGeometry(m_services.registry, m_profile.geometry, *this);
     ignoreFailure(m_services.registry.flush(), "unsaved settings never keep the window open");
+    if (m_search)
+        m_search->close();
     if (m_manager.isOpen() && m_manager.hasRecord()) {
         if (boxes[kTitleText]->Text().isEmpty()) {
             boxes[kTitleText]->setText(kUntitled.toString());

@@ -20,6 +20,7 @@
 
 namespace lumen {
 
+class RecordSearchWindow;
 class WindowOpener;
 
 /// The notebook of sermons or of quiet time, as the profile says: a record's five texts edited in
@@ -29,6 +30,7 @@ class RecordWindow : public QMainWindow, private RecordBoxes // no Q_OBJECT: moc
 public:
     RecordWindow(const RecordProfile& profile, Services& services, AppState& state,
                  WindowOpener& windows, QWidget* parent = nullptr);
+    ~RecordWindow() override;
 
     /// Opens the notebook at its first record; the opener calls it before it shows the window.
     void Form_Load();
@@ -39,6 +41,8 @@ public:
     void keepUnsaved();
     /// Stores, then shows the record of a number; false when it could not be stored.
     bool showRecord(int key);
+    /// The search over the notebook, in front; made at its first use.
+    RecordSearchWindow& openSearch();
 
     ActiveToolBars atbar{*this};
     std::array<RichTextBox*, kRecordTexts> boxes{};
@@ -105,6 +109,7 @@ private:
     ToolDispatch m_tools;
     ToolDispatch m_combos;
     RichTextBox* m_current = nullptr;
+    std::unique_ptr<RecordSearchWindow> m_search;
     bool m_isLoading = true; ///< controls are filled by code
 };
 

@@ -8,6 +8,7 @@
 #include "platform/dialogs/message_boxes.h"
 #include "records/messages.h"
 #include "records/record_window.h"
+#include "records/search/record_search_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -203,6 +204,8 @@ void RecordWindow::bindRecordTools()
     const RecordTools& tools = m_profile.tools;
     m_tools.on(tools.create.id, [this] { addRecord(); });
     m_tools.on(tools.remove.id, [this] { removeRecord(); });
+    m_tools.on(u"ID_검색", [this] { openSearch(); });
+    m_tools.on(tools.list.id, [this] { openSearch().showAll(); });
     const std::pair<QStringView, RecordMove> moves[] = {
         {tools.first.id, RecordMove::First},
         {tools.previous.id, RecordMove::Previous},

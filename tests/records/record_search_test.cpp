@@ -2,7 +2,7 @@
 #include "data/user_files.h"
 #include "jet/engine.h"
 #include "jet/store/store_writer.h"
-#include "records/record_search.h"
+#include "records/search/record_search.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>

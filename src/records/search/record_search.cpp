@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "records/record_search.h"
+#include "records/search/record_search.h"
 
 #include "data/app_state.h"
 #include "data/module_path.h"
