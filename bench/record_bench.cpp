@@ -5,13 +5,18 @@
 #include "data/compact_and_backup.h"
 #include "jet/store/store_writer.h"
 #include "records/record_manager.h"
+#include "records/record_window.h"
 #include "records/search/record_search.h"
+#include "records/search/record_search_window.h"
+#include "support/recording_opener.h"
 #include "support/test_services.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QInputMethodEvent>
 
 #include <benchmark/benchmark.h>
+#include <chrono>
 #include <random>
 #include <unistd.h>
 
@@ -177,10 +182,107 @@ void endOfWindow(benchmark::State& state)
                          book.services.files);
 }
 
+/// The manager's window over the notebook, painted at once as a user would see it.
+struct Window
+{
+    Window() : window(record_profile::kSermon, book.services.services, book.services.state, opener)
+    {
+    }
+    void paint() { benchmark::DoNotOptimize(window.grab()); }
+
+    Notebook& book = notebook();
+    RecordingOpener opener;
+    RecordWindow window;
+};
+
+void openWindow(benchmark::State& state)
+{
+    for (auto _ : state) {
+        Window opened;
+        opened.window.Form_Load();
+        opened.window.show();
+        opened.paint();
+        state.PauseTiming();
+        opened.window.manager().close();
+        state.ResumeTiming();
+    }
+}
+
+void moveInWindow(benchmark::State& state)
+{
+    Window opened;
+    opened.window.Form_Load();
+    opened.window.show();
+    opened.paint();
+    QAction* const next = opened.window.atbar.tool(u"ID_다음설교").action();
+    for (auto _ : state) {
+        next->trigger();
+        opened.paint();
+    }
+    opened.window.manager().close();
+}
+
+// The 95th percentile of a letter's way to the screen, in a sermon of the given length.
+void typeInWindow(benchmark::State& state)
+{
+    Window opened;
+    opened.window.Form_Load();
+    opened.window.show();
+    RichTextBox& box = *opened.window.boxes[2];
+    QString text;
+    while (text.size() < state.range(0))
+        text += u"모든 성도가 함께 읽은 말씀을 다시 생각하며 적는다. "_s +
+                (text.size() % 500 < 30 ? u"\\par "_s : QString());
+    box.setTextRTF(u"{\\rtf1\\ansi "_s + text + u"\\par}"_s);
+    box.setFocus();
+    box.select(static_cast<int>(state.range(0) / 2), 0);
+    opened.paint();
+    std::vector<double> times;
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        QInputMethodEvent letter;
+        letter.setCommitString(u"글"_s);
+        QApplication::sendEvent(&box, &letter);
+        QApplication::processEvents();
+        opened.paint();
+        times.push_back(
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+                .count());
+    }
+    std::ranges::sort(times);
+    state.counters["p95 ms"] = times[times.size() * 95 / 100];
+    opened.window.manager().revert();
+    opened.window.manager().close();
+}
+
+void searchInWindow(benchmark::State& state)
+{
+    Notebook& book = notebook();
+    RecordSearchWindow window(record_profile::kSermon, book.services.services, book.services.state);
+    window.Form_Load();
+    window.show();
+    window.sstSearch->setTab(1);
+    window.easy->cb대상->setListIndex(2);
+    window.easy->cb검색->setEditText(state.range(0) != 0 ? u"하나님의 은혜"_s : QString());
+    for (auto _ : state) {
+        if (state.range(0) != 0)
+            window.easy->cmd검색->click();
+        else
+            window.showAll();
+        benchmark::DoNotOptimize(window.grab());
+    }
+    window.close();
+}
+
 BENCHMARK(openNotebook)->Unit(benchmark::kMillisecond)->Iterations(11);
 BENCHMARK(move)->Unit(benchmark::kMillisecond)->Iterations(kRecords);
 BENCHMARK(save)->Unit(benchmark::kMillisecond)->Iterations(21)->Arg(2200)->Arg(22000);
 BENCHMARK(search)->Unit(benchmark::kMillisecond)->Iterations(11)->Arg(0)->Arg(1);
+BENCHMARK(openWindow)->Unit(benchmark::kMillisecond)->Iterations(11);
+BENCHMARK(moveInWindow)->Unit(benchmark::kMillisecond)->Iterations(200);
+BENCHMARK(typeInWindow)->Unit(benchmark::kMillisecond)->Iterations(200)->Arg(2200)->Arg(100000);
+// A word, and every record.
+BENCHMARK(searchInWindow)->Unit(benchmark::kMillisecond)->Iterations(7)->Arg(1)->Arg(0);
 BENCHMARK(endOfWindow)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace
