@@ -137,8 +137,18 @@ bool isSound(const QString& path, const UserFile& file, JetEngine& jet, const Fi
 
 bool isEmpty(const QString& path, const FileSystem& files)
 {
-    const Result<QByteArray> bytes = files.readAll(path);
-    return bytes && bytes.value().isEmpty();
+    const Result<FileStamp> stamp = files.stamp(path);
+    return stamp && stamp.value().size == 0;
+}
+
+// Not written since its last backup, which was read back: what a whole check of a large file would
+// tell is known.
+bool isAsBackedUp(const QString& path, const QString& backup, const FileSystem& files)
+{
+    const Result<FileStamp> now = files.stamp(path);
+    const Result<FileStamp> then = files.stamp(backup);
+    return now && then && now.value().size == then.value().size &&
+           now.value().modified <= then.value().modified;
 }
 
 QString failureText(const Result<Done>& result)
@@ -235,7 +245,8 @@ std::optional<LostFile> findLostFile(const QString& appPath, const UserFile& fil
         lost.fault = LostFile::Fault::Emptied;
         if (!file.isDatabase() && (!files.FileExists(lastBackup) || isEmpty(lastBackup, files)))
             return std::nullopt;
-    } else if (soundnessOf(path, file, jet, files) != Soundness::Damaged)
+    } else if (isAsBackedUp(path, lastBackup, files) ||
+               soundnessOf(path, file, jet, files) != Soundness::Damaged)
         return std::nullopt;
     lost.backup = newestSoundBackup(appPath, file, jet, files);
     if (lost.backup.isEmpty() && lost.fault == LostFile::Fault::Gone)

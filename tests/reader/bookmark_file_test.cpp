@@ -22,6 +22,10 @@ public:
     Result<Done> DeleteFile(const QString&) override { return Failure{}; }
     Result<Done> CopyFile(const QString&, const QString&) override { return Failure{}; }
     Result<Done> MoveFile(const QString&, const QString&) override { return Failure{}; }
+    Result<FileStamp> stamp(const QString& path) const override
+    {
+        return Failure{FailureKind::NotFound, path};
+    }
     Result<QByteArray> readAll(const QString& path) const override
     {
         if (!readable || !bytes)

@@ -117,6 +117,14 @@ Result<Done> QtFileSystem::MoveFile(const QString& from, const QString& to)
     return Done{};
 }
 
+Result<FileStamp> QtFileSystem::stamp(const QString& path) const
+{
+    const QFileInfo file(m_paths.nativePath(path));
+    if (!file.isFile())
+        return Failure{FailureKind::NotFound, path};
+    return FileStamp{file.size(), file.lastModified()};
+}
+
 Result<QByteArray> QtFileSystem::readAll(const QString& path) const
 {
     const QString native = m_paths.nativePath(path);

@@ -20,6 +20,7 @@ public:
     Result<Done> DeleteFile(const QString& path) override;
     Result<Done> CopyFile(const QString& from, const QString& to) override;
     Result<Done> MoveFile(const QString& from, const QString& to) override;
+    Result<FileStamp> stamp(const QString& path) const override;
     Result<QByteArray> readAll(const QString& path) const override;
     Result<Done> writeAll(const QString& path, const QByteArray& bytes) override;
 
