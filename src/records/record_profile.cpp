@@ -26,8 +26,8 @@ constexpr int kShortWidth = 900;
 constexpr int kTextWidth = 2000;
 
 constexpr std::array<RecordResultColumn, 9> kSermonResult{
-    RecordResultColumn{u"설교일", u"설교일", kShortWidth},
-    {u"작성일", u"작성일", kShortWidth},
+    RecordResultColumn{u"설교일", u"설교일", kShortWidth, true},
+    {u"작성일", u"작성일", kShortWidth, true},
     {u"분류", u"분류", kShortWidth},
     {u"제목", u"제목", kTextWidth},
     {u"말씀", u"말씀", kTextWidth},
@@ -36,7 +36,7 @@ constexpr std::array<RecordResultColumn, 9> kSermonResult{
     {u"요약", u"요약", kTextWidth},
     {u"일련번호", u"일련번호", 0}};
 constexpr std::array<RecordResultColumn, 8> kQuietTimeResult{
-    RecordResultColumn{u"작성일", u"작성일", kShortWidth},
+    RecordResultColumn{u"작성일", u"작성일", kShortWidth, true},
     {u"분류", u"분류", kShortWidth},
     {u"제목", u"제목", kTextWidth},
     {u"말씀", u"말씀", kTextWidth},

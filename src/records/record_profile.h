@@ -72,6 +72,7 @@ struct RecordResultColumn
     QStringView header;
     QStringView column;
     int width = 0; ///< twips; 0 hides it
+    bool isDay = false;
 };
 
 /// All in which the notebook of sermons and the one of quiet time differ.

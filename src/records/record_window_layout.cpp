@@ -28,8 +28,8 @@ constexpr int kLeastWidth = 7000;
 constexpr int kLeastHeight = 6500;
 constexpr int kTitleTop = 60;
 constexpr int kTitleDocumentMargin = 2; // pixels: its lowest height takes one line, no bar
-constexpr int kStandardWidth = 12000;
-constexpr int kStandardHeight = 9000;
+constexpr int kStandardWidth = 11400;   // with its frame it stays on a screen of 800 x 600
+constexpr int kStandardHeight = 8100;
 
 QWidget* labelled(QLabel* label, QWidget* control)
 {

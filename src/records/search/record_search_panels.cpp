@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "records/search/record_search_panels.h"
 
-#include "platform/controls/bars/wrapping_row.h"
-
 #include <QButtonGroup>
+#include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -20,17 +19,6 @@ QLabel* labelFor(QWidget* control, const QString& text)
     auto* label = new QLabel(text);
     label->setBuddy(control);
     return label;
-}
-
-/// Controls that stay side by side where the row wraps.
-QWidget* group(std::initializer_list<QWidget*> controls)
-{
-    auto* widget = new QWidget;
-    auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    for (QWidget* control : controls)
-        row->addWidget(control);
-    return widget;
 }
 
 void fillTargets(ComboBox& combo, const RecordProfile& profile)
@@ -67,18 +55,23 @@ DaySearchPanel::DaySearchPanel(const RecordProfile& profile) : m_profile(profile
     cb분류->setEditable(true);
     cb분류->setInsertPolicy(QComboBox::NoInsert);
 
-    // They stand in frames of their own, in which each would be alone.
     auto* options = new QButtonGroup(this);
     for (QRadioButton* option : {op날짜일치, op날짜범위, Op분류})
         options->addButton(option);
 
-    auto* rows = new WrappingRow;
-    rows->addWidget(group({op날짜일치, cb날짜일치, dtp날짜일치}));
-    rows->addWidget(group({op날짜범위, cb날짜범위, dtp날짜시작, new QLabel(u"~"_s), dtp날짜끝}));
-    rows->addWidget(group({Op분류, cb분류, cmd검색}));
-    auto* column = new QVBoxLayout(this);
-    column->addLayout(rows);
-    column->addStretch();
+    auto* rows = new QGridLayout(this);
+    rows->addWidget(op날짜일치, 0, 0);
+    rows->addWidget(cb날짜일치, 0, 1);
+    rows->addWidget(dtp날짜일치, 0, 2);
+    rows->addWidget(op날짜범위, 1, 0);
+    rows->addWidget(cb날짜범위, 1, 1);
+    rows->addWidget(dtp날짜시작, 1, 2);
+    rows->addWidget(new QLabel(u"~"_s), 1, 3);
+    rows->addWidget(dtp날짜끝, 1, 4);
+    rows->addWidget(Op분류, 2, 0);
+    rows->addWidget(cb분류, 2, 1, 1, 2);
+    rows->addWidget(cmd검색, 2, 4);
+    rows->setColumnStretch(5, 1);
     // One notebook has a single date, which nobody has to choose.
     for (ComboBox* choice : {cb날짜일치, cb날짜범위})
         choice->setVisible(!profile.dateChoices.empty());
@@ -119,13 +112,17 @@ EasyRecordSearchPanel::EasyRecordSearchPanel(const RecordProfile& profile)
     cb검색->setMinimumContentsLength(16);
     fillTargets(*cb대상, profile);
     fillScopes(*cb범위);
-    auto* rows = new WrappingRow;
-    rows->addWidget(group({labelFor(cb검색, u"검색어(&W):"_s), cb검색, cmd검색}));
-    rows->addWidget(group(
-        {labelFor(cb대상, u"대상(&O):"_s), cb대상, labelFor(cb범위, u"범위(&N):"_s), cb범위}));
-    auto* column = new QVBoxLayout(this);
-    column->addLayout(rows);
-    column->addStretch();
+    auto* rows = new QGridLayout(this);
+    rows->addWidget(labelFor(cb검색, u"검색어(&W):"_s), 0, 0);
+    rows->addWidget(cb검색, 0, 1, 1, 3);
+    rows->addWidget(cmd검색, 0, 4);
+    rows->addWidget(labelFor(cb대상, u"대상(&O):"_s), 1, 0);
+    rows->addWidget(cb대상, 1, 1);
+    rows->addWidget(labelFor(cb범위, u"범위(&N):"_s), 1, 2);
+    rows->addWidget(cb범위, 1, 3);
+    rows->setColumnStretch(3, 1);
+    rows->setColumnStretch(5, 1);
+    rows->setRowStretch(2, 1);
 }
 
 PowerRecordSearchPanel::PowerRecordSearchPanel(const RecordProfile& profile)
@@ -137,14 +134,20 @@ PowerRecordSearchPanel::PowerRecordSearchPanel(const RecordProfile& profile)
     }
     fillTargets(*cbP대상, profile);
     fillScopes(*cbP범위);
-    auto* rows = new WrappingRow;
-    rows->addWidget(group({labelFor(txPSearch1, u"검색어(&W):"_s), txPSearch1, cbCond1}));
-    rows->addWidget(group({txPSearch2, cbCond2}));
-    rows->addWidget(group({txPSearch3, cmd검색}));
-    rows->addWidget(group(
-        {labelFor(cbP대상, u"대상(&O):"_s), cbP대상, labelFor(cbP범위, u"범위(&N):"_s), cbP범위}));
+    auto* words = new QHBoxLayout;
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{labelFor(txPSearch1, u"검색어(&W):"_s), txPSearch1,
+                                         cbCond1, txPSearch2, cbCond2, txPSearch3})
+        words->addWidget(control);
+    auto* choices = new QHBoxLayout;
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{labelFor(cbP대상, u"대상(&O):"_s), cbP대상,
+                                         labelFor(cbP범위, u"범위(&N):"_s), cbP범위, cmd검색})
+        choices->addWidget(control);
+    choices->insertStretch(4);
     auto* column = new QVBoxLayout(this);
-    column->addLayout(rows);
+    column->addLayout(words);
+    column->addLayout(choices);
     column->addStretch();
 }
 

@@ -6,6 +6,7 @@
 #include "forms/help_menu.h"
 #include "forms/tool_icons.h"
 #include "forms/wait_pointer.h"
+#include "platform/controls/twips.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/files/clock.h"
 #include "platform/registry/registry_store.h"
@@ -14,7 +15,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
-#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
+constexpr int kCellFrame = 8; // pixels beside a cell's text
 constexpr QStringView kToolBar = u"도구 막대";
 // How long rows are filled in one go, milliseconds: before the result is shown, which is more than
 // a page of them, and then between events.
@@ -87,6 +88,7 @@ void RecordSearchWindow::layOut()
     column->addWidget(sstSearch);
     column->addWidget(flex결과, 1);
     setCentralWidget(central);
+    sstSearch->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     sb상황판->addWidget(statusPanel1, 1);
     setStatusBar(sb상황판);
 }
@@ -143,12 +145,7 @@ void RecordSearchWindow::wire()
     m_editMenu.offerOn(*easy->cb검색->lineEdit());
     m_editMenu.offerOn(*days->cb분류->lineEdit());
     m_editMenu.offerOn(*flex결과);
-    sstSearch->onTabClick = [this](int, int) {
-        focusInput();
-        fitTabs();
-    };
-    for (QWidget* panel : std::initializer_list<QWidget*>{days, easy, power})
-        panel->installEventFilter(this);
+    sstSearch->onTabClick = [this](int, int) { focusInput(); };
     flex결과->onDblClick = [this](int row, int) { openRow(row); };
     flex결과->onEnter = [this] { openRow(flex결과->Row()); };
     m_fillTimer.setInterval(0);
@@ -164,12 +161,15 @@ void RecordSearchWindow::InitFlex결과()
     flex결과->setSelectionMode(GridSelection::Cells);
     flex결과->setCols(static_cast<int>(columns.size()));
     flex결과->setRows(1);
+    flex결과->setSingleLines(true);
     flex결과->setHeaderStyle({.align = GridAlign::Center});
+    // With large letters a day needs more than its usual width.
+    const int dayWidth = toTwips(fontMetrics().horizontalAdvance(u"2000-00-00 "_s) + kCellFrame);
     for (int col = 0; col < flex결과->Cols(); ++col) {
         const RecordResultColumn& column = columns[static_cast<std::size_t>(col)];
         flex결과->setTextMatrix(0, col, column.header.toString());
         flex결과->setColStyle(col, {.family = u"굴림"_s});
-        flex결과->setColWidth(col, column.width);
+        flex결과->setColWidth(col, std::max(column.width, column.isDay ? dayWidth : 0));
         flex결과->setColHidden(col, column.width == 0);
     }
 }
@@ -186,25 +186,6 @@ void RecordSearchWindow::Form_Load()
     statusPanel1->setText(QString());
     atbar.tool(u"ID_도구막대").setChecked(atbar.barVisible(kToolBar));
     Proc시동크기위치설정(m_services.registry, m_profile.searchGeometry, *this);
-    fitTabs();
-}
-
-// The controls stand in more rows in a narrower window.
-void RecordSearchWindow::fitTabs()
-{
-    const QWidget* page = sstSearch->currentWidget();
-    const QLayout& inputs = *page->layout();
-    const int height = inputs.hasHeightForWidth() ? inputs.totalHeightForWidth(page->width())
-                                                  : inputs.totalMinimumSize().height();
-    sstSearch->setFixedHeight(height + sstSearch->headerHeight() +
-                              2 * sstSearch->style()->pixelMetric(QStyle::PM_DefaultFrameWidth));
-}
-
-bool RecordSearchWindow::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Resize && watched == sstSearch->currentWidget())
-        fitTabs();
-    return QMainWindow::eventFilter(watched, event);
 }
 
 void RecordSearchWindow::focusInput()
@@ -283,12 +264,12 @@ void RecordSearchWindow::Proc내용별쉬운검색()
         easy->cb검색->setEditText(word);
     if (word.isEmpty())
         return;
-    easy->cb검색->lineEdit()->selectAll();
     const auto scope = static_cast<RecordScope>(easy->cb범위->ListIndex());
     search([&] { return m_search.easy(easy->cb대상->Text(), word, scope); }, *easy->cb범위,
            m_profile.messages.nothingFoundBefore, [this] { Proc내용별쉬운검색(); });
     if (m_search.count() > 0 && easy->cb검색->findItem(word) < 0)
         easy->cb검색->AddItem(word);
+    easy->cb검색->lineEdit()->selectAll();
 }
 
 void RecordSearchWindow::Proc내용별파워검색()

@@ -50,7 +50,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void layOut();
@@ -58,7 +57,6 @@ private:
     void bindTools();
     void wire();
     void InitFlex결과();
-    void fitTabs();
     void focusInput();
     void Proc날짜분류별검색();
     void Proc내용별쉬운검색();

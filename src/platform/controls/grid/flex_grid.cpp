@@ -372,6 +372,12 @@ void FlexGrid::setStretchShares(const QString& shares)
     columnsResized();
 }
 
+void FlexGrid::setSingleLines(bool single)
+{
+    m_singleLines = single;
+    viewport()->update();
+}
+
 void FlexGrid::FitColumns()
 {
     const bool before = std::exchange(m_fitting, true);

@@ -81,6 +81,11 @@ public:
     QString StretchShares() const;
     void setStretchShares(const QString& shares);
 
+    /// Shows each cell on one line, cut with "..." where the column is too narrow, for grids that
+    /// are lists.
+    void setSingleLines(bool single);
+    bool SingleLines() const { return m_singleLines; }
+
     /// Makes every column as wide as its widest text needs without wrapping. Texts that come later
     /// don't change it.
     void FitColumns();
@@ -192,6 +197,7 @@ private:
     int m_stretchFrom = -1;
     std::map<qsizetype, std::vector<int>> m_shares; // by the number of stretched columns
     bool m_redraw = true;
+    bool m_singleLines = false;
     bool m_sized = false;
     bool m_inCode = false;
     bool m_fitting = false;

@@ -63,8 +63,12 @@ void GridDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& opti
     if (text.isEmpty())
         return;
     const CellStyle look = m_model.style(row, col);
-    QTextLayout layout(shownText(text), m_model.font(row, col));
-    if (m_grid.highlight)
+    const QFont font = m_model.font(row, col);
+    const int room = option.rect.width() - 2 * kCellMarginLeft;
+    const bool single = m_grid.SingleLines();
+    QTextLayout layout(
+        single ? QFontMetrics(font).elidedText(text, Qt::ElideRight, room) : shownText(text), font);
+    if (m_grid.highlight && !single)
         layout.setFormats(foundWords(text, m_grid.highlight(row, col, text)));
     const int height = layOutCell(layout, option.rect.width(), look.align);
     QColor color = option.palette.color(QPalette::Text);
