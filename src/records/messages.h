@@ -64,4 +64,16 @@ inline constexpr MessageText kLosesOnEdit{
     u"없어집니다. 계속할까요?",
     308};
 
+inline constexpr MessageText kNoWordProcessor{u"MS 워드 미설치",
+                                              u"MS 워드가 설치되어 있지 않습니다.", 16};
+inline constexpr MessageText kExportSelection{u"선택 부분 추출 확인",
+                                              u"현재 선택된 내용이 있습니다. 선택된 내용만 "
+                                              u"추출하시겠습니까?\r\n(전체를 추출하려면 '아니오'를 "
+                                              u"클릭!)",
+                                              51};
+inline constexpr MessageText kExportOverwrite{
+    u"확인", u"해당 이름의 파일이 이미 존재합니다. 이를 겹쳐쓰기 할까요?", 52};
+inline constexpr MessageText kPageSaved{u"HTML로 저장 완료", u"HTML 파일로 저장이 완료되었습니다.",
+                                        48};
+
 } // namespace lumen::messages

@@ -39,7 +39,8 @@ QString titleOf(const Draft& draft)
 RecordWindow::RecordWindow(const RecordProfile& profile, Services& services, AppState& state,
                            WindowOpener& windows, QWidget* parent)
     : QMainWindow(parent), m_profile(profile), m_services(services), m_state(state),
-      m_windows(windows), m_manager(profile, services, state, *this)
+      m_windows(windows), m_manager(profile, services, state, *this),
+      m_export(profile, services, state, *this, this)
 {
     setObjectName(profile.names.window.toString());
     setWindowTitle(profile.caption.toString());

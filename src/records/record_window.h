@@ -11,6 +11,7 @@
 #include "platform/controls/named.h"
 #include "platform/controls/tab_control.h"
 #include "platform/controls/text/rich_text_box.h"
+#include "records/export/record_export.h"
 #include "records/record_manager.h"
 #include "records/record_tools.h"
 
@@ -68,6 +69,7 @@ private:
     void bindTools();
     void bindRecordTools();
     void bindFormatTools();
+    void bindExports();
     void bindEditing();
 
     // record_window.cpp: the record in hand
@@ -105,6 +107,7 @@ private:
     AppState& m_state;
     WindowOpener& m_windows;
     RecordManager m_manager;
+    RecordExport m_export;
     EditMenu m_editMenu{*this, atbar, m_services.clipboard, kRecordEditTools};
     ToolDispatch m_tools;
     ToolDispatch m_combos;

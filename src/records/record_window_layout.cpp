@@ -173,6 +173,7 @@ void RecordWindow::bindTools()
     bindRecordTools();
     bindEditing();
     bindFormatTools();
+    bindExports();
     m_tools.on(u"ID_mn도구", [this] { showInsertionState(); });
     m_tools.on(u"ID_성구삽입", [this] {
         RichTextBox* const box = m_current;
@@ -214,6 +215,22 @@ void RecordWindow::bindRecordTools()
     };
     for (const auto& [id, move] : moves)
         m_tools.on(id, [this, move = move] { moveTo(move); });
+}
+
+void RecordWindow::bindExports()
+{
+    m_tools.on(u"ID_MS워드로추출", [this] { m_export.ProcMS워드로추출(m_current); });
+    m_tools.on(u"ID_HWP로추출", [this] { m_export.ProcHWP로추출(); });
+    m_tools.on(u"ID_RTF파일로추출", [this] { m_export.ProcRTF로추출(); });
+    m_tools.on(u"ID_텍스트파일로추출", [this] { m_export.Proc텍스트파일로추출(); });
+    if (!m_profile.lacksTool(u"ID_HTML로저장"))
+        m_tools.on(u"ID_HTML로저장", [this] { m_export.saveAsPage(); });
+    m_tools.on(u"ID_ODT로추출", [this] { m_export.saveAsOdt(); });
+    m_tools.on(u"ID_PDF로추출", [this] { m_export.saveAsPdf(); });
+    // No box: an export that fails has lost nothing.
+    m_export.onFailure = [this](const QString& path) {
+        statusPanel1->setText(u"파일을 쓰지 못했습니다: "_s + path);
+    };
 }
 
 void RecordWindow::bindEditing()

@@ -103,6 +103,15 @@ std::optional<char16_t> unit949(std::uint16_t code)
     return unit;
 }
 
+QByteArray textFileContent(const QString& text)
+{
+    QByteArray bytes = toCodePage949(text);
+    if (fromCodePage949(bytes) == text)
+        return bytes;
+    // What the page lacks would be question marks; editors know the mark.
+    return "\xEF\xBB\xBF" + text.toUtf8();
+}
+
 QByteArray toCodePage949(QStringView text)
 {
     const Tables& table = tables();

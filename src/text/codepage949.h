@@ -19,6 +19,10 @@ QByteArray toCodePage949(QStringView text);
 /// byte is read anew when it is no trail byte, so that a line end is never swallowed.
 QString fromCodePage949(QByteArrayView bytes);
 
+/// The content of a text file: of the code page, or UTF-8 with a byte order mark when the page
+/// lacks a character of the text.
+QByteArray textFileContent(const QString& text);
+
 /// The code of one UTF-16 unit, lead byte times 256 plus trail byte; nothing for a unit that the
 /// page lacks.
 std::optional<std::uint16_t> code949(char16_t unit);

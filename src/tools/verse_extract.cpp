@@ -90,12 +90,7 @@ QString extractFileName(const ExtractRange& range)
 
 QByteArray extractFileContent(const QString& text)
 {
-    const QString content = text + u"\r\n"_s;
-    QByteArray bytes = toCodePage949(content);
-    if (fromCodePage949(bytes) == content)
-        return bytes;
-    // Western and original letters would be question marks; editors know the mark.
-    return "\xEF\xBB\xBF" + content.toUtf8();
+    return textFileContent(text + u"\r\n"_s);
 }
 
 QString bookRowsQuery(const QString& table, int book)

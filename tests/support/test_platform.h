@@ -28,8 +28,16 @@ class RecordingShell : public Shell
 {
 public:
     Result<Done> open(const QString& target) override;
+    bool hasWordProcessor() const override { return wordProcessor; }
+    Result<Done> openInWordProcessor(const QByteArray& rtf) override
+    {
+        documents << rtf;
+        return Done{};
+    }
 
     QStringList opened;
+    bool wordProcessor = true;
+    QByteArrayList documents;
     std::optional<Failure> failure;
 };
 

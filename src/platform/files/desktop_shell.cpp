@@ -2,6 +2,7 @@
 #include "platform/files/desktop_shell.h"
 
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
 #include <QProcess>
@@ -49,6 +50,14 @@ bool canShow(const QUrl& url)
     return isPage ? hasBrowser() : hasProgramFor(type.name());
 }
 
+QString writer()
+{
+    for (const QString& name : {u"soffice"_s, u"libreoffice"_s, u"lowriter"_s})
+        if (const QString found = QStandardPaths::findExecutable(name); !found.isEmpty())
+            return found;
+    return {};
+}
+
 } // namespace
 
 Result<Done> DesktopShell::open(const QString& target)
@@ -66,6 +75,29 @@ Result<Done> DesktopShell::open(const QString& target)
     }
     if (!canShow(url) || !QDesktopServices::openUrl(url))
         return Failure{FailureKind::System, url.toString()};
+    return Done{};
+}
+
+bool DesktopShell::hasWordProcessor() const
+{
+    return !writer().isEmpty() || hasProgramFor(u"application/rtf"_s);
+}
+
+Result<Done> DesktopShell::openInWordProcessor(const QByteArray& rtf)
+{
+    if (!m_handedOver)
+        m_handedOver = std::make_unique<QTemporaryDir>();
+    const QString path = m_handedOver->filePath(u"%1.rtf"_s.arg(++m_handed));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(rtf) != rtf.size() || !file.flush())
+        return Failure{FailureKind::System, path};
+    file.close();
+    // "-n" takes the file as a template: the document has no name, and saving asks for one.
+    const QString program = writer();
+    const bool opened = program.isEmpty() ? QDesktopServices::openUrl(QUrl::fromLocalFile(path))
+                                          : QProcess::startDetached(program, {u"-n"_s, path});
+    if (!opened)
+        return Failure{FailureKind::System, path};
     return Done{};
 }
 

@@ -4,6 +4,10 @@
 #include "platform/files/shell.h"
 #include "platform/path_resolver.h"
 
+#include <QTemporaryDir>
+
+#include <memory>
+
 namespace lumen {
 
 /// Opens files and pages with the programs that the desktop has set for them. Invalid for any
@@ -13,9 +17,15 @@ class DesktopShell : public Shell
 public:
     explicit DesktopShell(const PathResolver& paths) : m_paths(paths) {}
     Result<Done> open(const QString& target) override;
+    /// LibreOffice Writer, else what the desktop opens RTF files with.
+    bool hasWordProcessor() const override;
+    Result<Done> openInWordProcessor(const QByteArray& rtf) override;
 
 private:
     const PathResolver& m_paths;
+    /// What word processors were given; it goes with the program.
+    std::unique_ptr<QTemporaryDir> m_handedOver;
+    int m_handed = 0;
 };
 
 } // namespace lumen

@@ -164,7 +164,12 @@ QString RichTextBox::TextRTF() const
 {
     if (!isEdited() && !m_given.isEmpty())
         return m_given;
-    return QString::fromLatin1(writeRtf(*document(), writeOptions()));
+    return QString::fromLatin1(writtenRtf());
+}
+
+QByteArray RichTextBox::writtenRtf() const
+{
+    return writeRtf(*document(), writeOptions());
 }
 
 void RichTextBox::setTextRTF(const QString& rtf)

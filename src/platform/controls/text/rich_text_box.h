@@ -32,6 +32,8 @@ public:
     void setText(const QString& text);
     /// RTF as a database keeps it: characters beyond ASCII may stand for themselves.
     QString TextRTF() const;
+    /// The text as the box writes it, whatever was given.
+    QByteArray writtenRtf() const;
     /// Replaces all, and forgets what could be undone; the caret goes to 0. No RTF is taken as
     /// text.
     void setTextRTF(const QString& rtf);

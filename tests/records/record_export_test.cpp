@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/controls/text/rich_text_box.h"
+#include "records/export/record_export.h"
+#include "records/record_fixture.h"
+#include "text/codepage949.h"
+#include "text/rtf/rtf_reader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace lumen {
+namespace {
+
+/// Signs that each of the formats gives a meaning, and letters of many scripts.
+const QString kHardText = u"{가}\\<b>&漢字 \u05D0\u05D1 \U0001F600"_s;
+
+/// Exports of a record whose texts need care.
+class RecordExportTest : public RecordFixture
+{
+protected:
+    RecordExportTest()
+        : RecordFixture(record_profile::kSermon),
+          record(profile, services.services, services.state, boxes, nullptr)
+    {
+        boxes.plain = {u"제목"_s, u"말씀\n둘째 줄"_s, kHardText, u"기도"_s, u"요약"_s};
+        RichTextBox writer;
+        for (std::size_t i = 0; i < boxes.plain.size(); ++i) {
+            writer.setText(boxes.plain[i]);
+            writer.selectAll();
+            writer.setSelBold(true);
+            boxes.formatted[i] = writer.TextRTF();
+        }
+        boxes.categoryText = u"기타"_s;
+        record.onFailure = [this](const QString& path) { failed << path; };
+    }
+
+    QString file(const QString& name) const { return services.folders.root() + u'/' + name; }
+    static QByteArray read(const QString& path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+        return file.readAll();
+    }
+    /// What a program of the system makes of a file; nothing where it is not installed.
+    static std::optional<QString> outputOf(const QString& program, const QStringList& arguments)
+    {
+        if (QStandardPaths::findExecutable(program).isEmpty())
+            return {};
+        QProcess process;
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+        return QString::fromUtf8(process.readAllStandardOutput());
+    }
+
+    RecordExport record;
+    QStringList failed;
+};
+
+TEST_F(RecordExportTest, TheOldFilesHoldTheComposedRecord)
+{
+    boxes.plain[2] = u"본문 漢字"_s;
+    const QString body = u"[설교일] 2003-05-01      [작성일] 2003-05-01 \n\n[설교 제목] \n제목 "
+                         u"\n[말씀]\n말씀둘째 줄 \n"
+                         "[설교 본문]\n본문 漢字 \n[기도]\n기도 \n[설교 요약]\n요약"_s;
+    services.fileDialogs.answerSave(file(u"a"_s));
+    record.ProcHWP로추출();
+    EXPECT_EQ(rtfToPlainText(read(file(u"a.hwp"_s)), LastPar::EndsDocument).toStdString(),
+              body.toStdString());
+    services.fileDialogs.answerSave(file(u"b.RTF"_s));
+    record.ProcRTF로추출();
+    EXPECT_EQ(rtfToPlainText(read(file(u"b.RTF.rtf"_s)), LastPar::EndsDocument), body)
+        << "the extension counts as it is written";
+    services.fileDialogs.answerSave(file(u"c.txt"_s));
+    record.Proc텍스트파일로추출();
+    EXPECT_EQ(read(file(u"c.txt"_s)), toCodePage949(QString(body).replace(u'\n', u"\r\n"_s)));
+    EXPECT_EQ(services.fileDialogs.saveRequests[0].title, u"HWP Format으로 추출"_s);
+    EXPECT_EQ(services.fileDialogs.saveRequests[2].filter, u"텍스트 파일(*.txt)|*.txt"_s);
+
+    services.fileDialogs.answerSave(file(u"c.txt"_s));
+    services.messages.expect(
+        u"확인"_s, u"해당 이름의 파일이 이미 존재합니다. 이를 겹쳐쓰기 할까요?"_s, 52, Answer::No);
+    record.Proc텍스트파일로추출();
+    services.fileDialogs.answerSave({});
+    record.ProcRTF로추출();
+    EXPECT_EQ(failed, QStringList());
+    services.fileDialogs.answerSave(file(u"no/such/folder/d.rtf"_s));
+    record.ProcRTF로추출();
+    EXPECT_EQ(failed, QStringList{file(u"no/such/folder/d.rtf"_s)});
+}
+
+TEST_F(RecordExportTest, SignsOfTheFormatSpoilTheComposedTextAsTheyAlwaysDid)
+{
+    boxes.plain[2] = u"a{b}\\par c"_s;
+    services.fileDialogs.answerSave(file(u"a.txt"_s));
+    record.Proc텍스트파일로추출();
+    EXPECT_TRUE(read(file(u"a.txt"_s)).contains("ab\r\nc"));
+}
+
+TEST_F(RecordExportTest, ThePageTakesTheTextsOneAfterTheOther)
+{
+    boxes.plain[0] = u" 말씀내용 <b> "_s;
+    services.fileDialogs.answerSave(file(u"page.htm"_s));
+    services.messages.expect(u"HTML로 저장 완료"_s, u"HTML 파일로 저장이 완료되었습니다."_s, 48);
+    record.saveAsPage();
+    const SaveRequest request = services.fileDialogs.saveRequests.constFirst();
+    EXPECT_EQ(request.name, u"말씀내용 <b>.htm"_s);
+    EXPECT_TRUE(QDir(request.folder).exists());
+    EXPECT_TRUE(request.folder.endsWith(u"/HTML"_s));
+    const QByteArray bytes = read(file(u"page.htm"_s));
+    const QString page = fromCodePage949(bytes);
+    EXPECT_TRUE(page.contains(u"<TITLE> 말씀<BR>둘째 줄 <b> </TITLE>"_s)) << "replaced in turn";
+    EXPECT_TRUE(page.contains(u"{가}\\<b>&漢字 &#1488;&#1489; &#128512;"_s));
+    EXPECT_TRUE(page.contains(u"charset=euc-kr"_s));
+    EXPECT_EQ(page.count(u"<TR>"_s), 8);
+    EXPECT_TRUE(page.contains(u">2003-05-01</FONT></TD>"_s));
+    EXPECT_EQ(page.count(u"\r\n"_s), page.count(u'\n'));
+}
+
+TEST_F(RecordExportTest, TheWordProcessorGetsTheSelectionOrAll)
+{
+    RichTextBox box;
+    box.setTextRTF(u"{\\rtf1 one {\\b two} three}"_s);
+    box.select(4, 3);
+    services.messages.expectAny(u"선택 부분 추출 확인"_s, 51, Answer::Yes);
+    record.ProcMS워드로추출(&box);
+    EXPECT_EQ(rtfToPlainText(services.shell.documents.last()), u"two"_s);
+    EXPECT_EQ(services.clipboard.content.plain, u"one two three"_s);
+    services.messages.expectAny(u"선택 부분 추출 확인"_s, 51, Answer::No);
+    record.ProcMS워드로추출(&box);
+    EXPECT_TRUE(rtfToPlainText(services.shell.documents.last()).startsWith(u"[설교일]"_s));
+    services.messages.expectAny(u"선택 부분 추출 확인"_s, 51, Answer::Cancel);
+    record.ProcMS워드로추출(&box);
+    EXPECT_EQ(services.shell.documents.size(), 2);
+    services.shell.wordProcessor = false;
+    services.messages.expect(u"MS 워드 미설치"_s, u"MS 워드가 설치되어 있지 않습니다."_s, 16);
+    record.ProcMS워드로추출(&box);
+}
+
+TEST_F(RecordExportTest, OurOwnFilesHoldEveryLetter)
+{
+    services.fileDialogs.answerSave(file(u"a.odt"_s));
+    record.saveAsOdt();
+    EXPECT_EQ(services.fileDialogs.saveRequests[0].name, u"제목.odt"_s);
+    if (const auto content = outputOf(u"unzip"_s, {u"-p"_s, file(u"a.odt"_s), u"content.xml"_s})) {
+        QXmlStreamReader xml(*content);
+        QString text;
+        while (!xml.atEnd())
+            if (xml.readNext() == QXmlStreamReader::Characters)
+                text += xml.text();
+        EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+        EXPECT_TRUE(text.contains(kHardText)) << text.toStdString();
+        EXPECT_TRUE(text.contains(u"둘째 줄"_s));
+        EXPECT_TRUE(content->contains(u"fo:font-weight=\"700\""_s) ||
+                    content->contains(u"fo:font-weight=\"bold\""_s));
+    }
+    services.fileDialogs.answerSave(file(u"a.pdf"_s));
+    record.saveAsPdf();
+    EXPECT_TRUE(read(file(u"a.pdf"_s)).startsWith("%PDF"));
+    if (const auto text = outputOf(u"pdftotext"_s, {file(u"a.pdf"_s), u"-"_s})) {
+        // Where letters stand tells how wide a blank is, which is guessed in reading.
+        const QString letters = QString(*text).remove(QRegularExpression(u"\\s"_s));
+        EXPECT_TRUE(letters.contains(u"{가}\\<b>&漢字"_s)) << text->toStdString();
+        EXPECT_TRUE(letters.contains(u"둘째줄"_s)) << text->toStdString();
+        EXPECT_TRUE(letters.contains(u"설교본문"_s)) << text->toStdString();
+    }
+    EXPECT_EQ(failed, QStringList());
+}
+
+} // namespace
+} // namespace lumen
