@@ -195,9 +195,14 @@ std::vector<FormerState> RecordHistory::deleted(Database& database)
     return listed(database, deletedOnes());
 }
 
+std::unique_ptr<Recordset> RecordHistory::open(Database& database, int number)
+{
+    return database.OpenRecordset(statesText(u"*", ofState(number)));
+}
+
 void RecordHistory::fill(Database& database, int number, Recordset& records)
 {
-    const auto state = database.OpenRecordset(statesText(u"*", ofState(number)));
+    const auto state = open(database, number);
     for (int i = 0; i < state->FieldCount(); ++i) {
         const QString name = state->Fields(i).Name();
         for (int j = 0; j < records.FieldCount(); ++j)

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 
+#include <memory>
 #include <vector>
 
 namespace lumen {
@@ -46,6 +47,8 @@ public:
     static std::vector<FormerState> statesOf(Database& database, int key);
     /// All deleted records, the latest first.
     static std::vector<FormerState> deleted(Database& database);
+    /// A recordset of one state with all columns of its record.
+    static std::unique_ptr<Recordset> open(Database& database, int number);
     /// Copies a state into the edit buffer of `records`, all but its number.
     static void fill(Database& database, int number, Recordset& records);
     static void forget(Database& database, int number);

@@ -34,7 +34,7 @@ std::optional<QDate> dayOrNull(const Field& field)
     return day.isValid() ? std::optional(day) : std::nullopt;
 }
 
-RecordValues valuesOf(Recordset& record, const RecordProfile& profile)
+RecordValues readValues(Recordset& record, const RecordProfile& profile)
 {
     RecordValues values;
     values.key = Number(record.Fields(kRecordKey));
@@ -128,14 +128,14 @@ RecordValues RecordManager::storedValues(int key)
 {
     const auto record = m_data.Database()->OpenRecordset(
         m_profile.source() + u" where %1 = %2"_s.arg(kRecordKey).arg(key));
-    return record->RecordCount() > 0 ? valuesOf(*record, m_profile) : RecordValues();
+    return record->RecordCount() > 0 ? readValues(*record, m_profile) : RecordValues();
 }
 
 // False when another program has deleted the record.
 bool RecordManager::readCurrent()
 {
     try {
-        m_values = valuesOf(records(), m_profile);
+        m_values = readValues(records(), m_profile);
     } catch (const JetError& error) {
         if (error.number() != ErrorNumber::kRecordDeleted)
             throw;
@@ -372,6 +372,11 @@ std::vector<FormerState> RecordManager::formerStates()
 std::vector<FormerState> RecordManager::deletedRecords()
 {
     return RecordHistory::deleted(*m_data.Database());
+}
+
+RecordValues RecordManager::valuesOf(const FormerState& state)
+{
+    return readValues(*RecordHistory::open(*m_data.Database(), state.number), m_profile);
 }
 
 SaveOutcome RecordManager::bringBack(const FormerState& state)

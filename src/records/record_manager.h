@@ -94,6 +94,7 @@ public:
 
     std::vector<FormerState> formerStates();
     std::vector<FormerState> deletedRecords();
+    RecordValues valuesOf(const FormerState& state);
     /// Stores, then adds a former state as a new record and shows it.
     SaveOutcome bringBack(const FormerState& state);
 

@@ -111,8 +111,8 @@ void addRecordMenu(std::vector<ToolRow>& rows, const RecordTools& tools)
     rows.push_back(button(tools.list, u"Ctrl+L", u"record-list"));
     rows.push_back(separator);
     rows.push_back(button(tools.remove, u"Ctrl+Shift+D", u"delete-record"));
-    rows.push_back({u"ID_History", u"이전 상태와 지운 것(&H)...", ToolKind::Button, kMenu,
-                    u"Ctrl+H", u"", ToolState::Later});
+    rows.push_back(
+        {u"ID_History", u"이전 상태와 지운 것(&H)...", ToolKind::Button, kMenu, u"Ctrl+H"});
 }
 
 void addRecordBar(std::vector<ToolRow>& rows, const RecordTools& tools)

@@ -9,8 +9,10 @@
 #include "forms/wait_pointer.h"
 #include "forms/window_opener.h"
 #include "platform/dialogs/message_boxes.h"
+#include "platform/dialogs/modal.h"
 #include "platform/files/clock.h"
 #include "platform/registry/registry_store.h"
+#include "records/history/history_dialog.h"
 #include "records/messages.h"
 #include "records/search/record_search_window.h"
 
@@ -227,6 +229,19 @@ void RecordWindow::removeRecord()
     guarded(m_services, this, [this] {
         m_manager.remove();
         Proc필드표시();
+    });
+}
+
+void RecordWindow::openHistory()
+{
+    HistoryDialog dialog(m_profile, m_services, m_manager, this);
+    dialog.Form_Load();
+    m_services.modal.run(dialog);
+    if (!dialog.chosen())
+        return;
+    guarded(m_services, this, [this, &dialog] {
+        if (Proc저장확인(m_manager.bringBack(*dialog.chosen())))
+            Proc필드표시();
     });
 }
 

@@ -88,6 +88,7 @@ private:
     void moveTo(RecordMove move);
     void addRecord();
     void removeRecord();
+    void openHistory();
     void changed(RecordPart part);
     void showPosition();
 

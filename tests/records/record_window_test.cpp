@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
 #include "platform/controls/twips.h"
+#include "records/history/history_dialog.h"
 #include "records/record_window.h"
 #include "support/active_window.h"
 #include "support/recording_opener.h"
@@ -325,6 +326,44 @@ TEST_F(RecordWindowTest, UnsavedTextIsOfferedAfterACrash)
     EXPECT_TRUE(window->close());
     EXPECT_EQ(stored(u"본문"_s, 1), u"오후 내내 쓴 글"_s);
     open();
+}
+
+TEST_F(RecordWindowTest, FormerStatesAndDeletedRecordsComeBackAsNewOnes)
+{
+    open();
+    make({u"하나"_s, u"둘"_s});
+    write(2, u"첫 글"_s);
+    run(u"ID_저장"_s);
+    services.clock.time = services.clock.time.addSecs(3600);
+    write(2, u"다시 쓴 글"_s);
+    run(u"ID_저장"_s);
+    services.modal.expect([](QDialog& shown) {
+        auto& dialog = static_cast<HistoryDialog&>(shown);
+        EXPECT_TRUE(dialog.txState->Text().contains(u"첫 글"_s));
+        EXPECT_TRUE(dialog.lstStates->List(0).endsWith(u"둘"_s));
+        QTest::mouseClick(dialog.cmd되살리기, Qt::LeftButton);
+    });
+    run(u"ID_History"_s);
+    EXPECT_EQ(status(), u"3/3"_s);
+    EXPECT_EQ(box(2).Text(), u"첫 글"_s);
+    services.messages.expectAny(u"설교 레코드 삭제 확인"_s, 20, Answer::Yes);
+    run(u"ID_설교삭제"_s);
+    services.modal.expect([](QDialog& shown) {
+        auto& dialog = static_cast<HistoryDialog&>(shown);
+        dialog.opDeleted->click();
+        EXPECT_EQ(dialog.lstStates->ListCount(), 1);
+        QTest::keyClick(dialog.lstStates, Qt::Key_Return);
+    });
+    run(u"ID_History"_s);
+    EXPECT_EQ(status(), u"3/3"_s);
+    EXPECT_EQ(box(2).Text(), u"첫 글"_s);
+    services.modal.expect([](QDialog& shown) {
+        auto& dialog = static_cast<HistoryDialog&>(shown);
+        dialog.opDeleted->click();
+        EXPECT_FALSE(dialog.cmd되살리기->isEnabled());
+    });
+    run(u"ID_History"_s);
+    EXPECT_EQ(stored(u"본문"_s, 1), u"다시 쓴 글"_s);
 }
 
 TEST_F(RecordWindowTest, AFailedStepKeepsTheTextAndTheWindow)
