@@ -4,6 +4,7 @@
 #include "forms/guarded.h"
 #include "platform/dialogs/modal.h"
 #include "reader/bible_window.h"
+#include "records/illustrations/illustration_window.h"
 #include "records/record_window.h"
 #include "search/original/strong_list_window.h"
 #include "search/search_window.h"
@@ -65,6 +66,8 @@ void Windows::open(WindowId window)
         return raise(m_sermons, record_profile::kSermon, m_services, m_state, *this);
     case WindowId::QuietTime:
         return raise(m_quietTime, record_profile::kQuietTime, m_services, m_state, *this);
+    case WindowId::Illustrations:
+        return raise(m_illustrations, m_services, m_state);
     }
 }
 
@@ -98,6 +101,8 @@ bool Windows::closeAll()
     for (const auto& notebook : {m_sermons.get(), m_quietTime.get()})
         if (notebook && !notebook->close())
             return false;
+    if (m_illustrations && !m_illustrations->close())
+        return false;
     if (m_strongList && !m_strongList->close())
         return false;
     return !m_search || m_search->close();

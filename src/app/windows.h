@@ -15,6 +15,7 @@ class frm성서;
 class frm성서검색;
 class frm스트롱관주목록;
 class RecordWindow;
+class frm예화사전;
 struct AppState;
 struct Services;
 
@@ -55,6 +56,7 @@ private:
     std::unique_ptr<frm스트롱관주목록> m_strongList;
     std::unique_ptr<RecordWindow> m_sermons;
     std::unique_ptr<RecordWindow> m_quietTime;
+    std::unique_ptr<frm예화사전> m_illustrations;
 };
 
 } // namespace lumen

@@ -18,7 +18,8 @@ enum class WindowId {
     UserVersionPreferences,
     About,
     Sermons,
-    QuietTime
+    QuietTime,
+    Illustrations
 };
 
 /// Opens, raises or runs a window, so that windows need not know each other.

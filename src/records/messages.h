@@ -76,4 +76,17 @@ inline constexpr MessageText kExportOverwrite{
 inline constexpr MessageText kPageSaved{u"HTML로 저장 완료", u"HTML 파일로 저장이 완료되었습니다.",
                                         48};
 
+inline constexpr MessageText kNoIllustrationTitle{u"예화 저장",
+                                                  u"제목이 없습니다. 제목을 입력하여 주십시요", 48};
+inline constexpr MessageText kNoIllustrationCategory{
+    u"예화 저장", u"분류 항목이 없습니다. 분류 항목을 입력하여 주십시요", 48};
+inline constexpr MessageText kNoIllustrationBody{
+    u"예화 저장", u"본문이 없습니다. 본문 내용을 입력하여 주십시요", 48};
+inline constexpr MessageText kCancelIllustration{u"편집 취소", u"편집 작업을 취소하시겠습니까?",
+                                                 36};
+inline constexpr MessageText kDeleteIllustration{u"삭제 확인",
+                                                 u"현재의 예화 자료를 삭제하시겠습니까?", 52};
+inline constexpr MessageText kLeaveIllustration{u"예화 저장", u"고치던 예화를 저장하고 닫을까요?",
+                                                35};
+
 } // namespace lumen::messages

@@ -59,7 +59,7 @@ constexpr std::array kToolMenu{
     ToolRow{u"", u"", ToolKind::Separator, u"ID_mn도구"},
     ToolRow{u"ID_성서", u"성서(&B)", ToolKind::Button, u"ID_mn도구", u"Ctrl+Shift+B"},
     ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_mn도구", u"", u"", ToolState::Later},
-    ToolRow{u"ID_예화사전", u"예화 사전(&Y)...", ToolKind::Button, u"ID_mn도구", u"F7", u"", ToolState::Later},
+    ToolRow{u"ID_예화사전", u"예화 사전(&Y)...", ToolKind::Button, u"ID_mn도구", u"F7"},
 };
 constexpr std::array kMailMenu{
     ToolRow{u"", u"", ToolKind::Separator, u"ID_mn도구"},

@@ -180,6 +180,7 @@ void RecordWindow::bindTools()
         m_windows.openVerseInsertion(this, [box](const QString& text) { box->setSelText(text); });
     });
     m_tools.on(u"ID_성서", [this] { m_windows.open(WindowId::Reader); });
+    m_tools.on(u"ID_예화사전", [this] { m_windows.open(WindowId::Illustrations); });
     m_tools.on(u"ID_인터넷", [this] { m_windows.openHomePage(); });
     m_tools.on(m_profile.tools.otherManager.id, [this] {
         m_windows.open(m_profile.hasPreachedDay() ? WindowId::QuietTime : WindowId::Sermons);
