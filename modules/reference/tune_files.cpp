@@ -2,6 +2,7 @@
 #include "reference/tune_files.h"
 
 #include "platform/files/safe_write.h"
+#include "reference/companion_folder.h"
 #include "reference/tunes.h"
 
 #include <QDir>
@@ -32,19 +33,12 @@ bool isOwnFile(const QString& path)
 
 } // namespace
 
-QString tuneFolder(const QString& moduleFolder)
-{
-    const QFileInfo folder(moduleFolder);
-    const bool isData = folder.fileName().compare(u"Data"_s, Qt::CaseInsensitive) == 0;
-    return (isData ? folder.path() : moduleFolder) + u"/Hymn"_s;
-}
-
 bool tuneFilesAreThere(const QString& tunes, const QString& moduleFolder)
 {
     const auto read = tunesOf(tunes);
     if (!read)
         return false; // the making tells why
-    const QDir folder(tuneFolder(moduleFolder));
+    const QDir folder(companionFolder(moduleFolder, u"Hymn"_s));
     for (const auto& [number, tune] : read.value())
         if (!folder.exists(tuneName(number)))
             return false;
@@ -56,7 +50,7 @@ Result<QStringList> writeTuneFiles(const QString& tunes, const QString& moduleFo
     const auto read = tunesOf(tunes);
     if (!read)
         return read.failure();
-    QDir folder(tuneFolder(moduleFolder));
+    QDir folder(companionFolder(moduleFolder, u"Hymn"_s));
     if (!read.value().empty() && !folder.mkpath(u"."_s))
         return Failure{FailureKind::NoAccess, u"폴더를 만들 수 없습니다: %1"_s.arg(folder.path())};
     QStringList remarks;

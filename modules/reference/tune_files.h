@@ -8,10 +8,6 @@
 
 namespace lumen {
 
-/// Where the tunes of a hymnal lie: beside a folder "Data" as the program looks for them, within
-/// any other.
-QString tuneFolder(const QString& moduleFolder);
-
 /// Whether each tune of a table, "" for none, has its file.
 bool tuneFilesAreThere(const QString& tunes, const QString& moduleFolder);
 
