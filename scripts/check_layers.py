@@ -46,7 +46,8 @@ BUILDER = {
     "sources": ["check", "platform"],
     "reference": ["sources", "data"],
     "original": ["reference", "text/original"],
-    "recipes": ["original"],
+    "map": ["reference"],
+    "recipes": ["original", "map"],
     "import": ["sources", "jet"],
     "cli": ["recipes", "import"],
 }

