@@ -86,6 +86,10 @@ TEST_F(MapModuleTest, TablesBecomeAListPicturesAndPlacesInThem)
         storeRows(module, u"select Name, Left, Top from BibleMapPlace where FileNum = 3"_s);
     ASSERT_EQ(places.size(), 2U);
     EXPECT_EQ(DES::UnscrambleField(places[0][0].toString()), u"가 마을"_s);
+    // 2,500 pixels for three degrees east, at the eleventh degree, from the north-west corner (80,
+    // 150).
+    EXPECT_EQ(places[1][1].toInt(), 2163);
+    EXPECT_EQ(places[1][2].toInt(), 574);
     const QColor mark = map.pixelColor(places[0][1].toInt(), places[0][2].toInt());
     EXPECT_GT(mark.red(), 2 * mark.green()) << "the mark of a town stands where the row says";
 }
