@@ -21,7 +21,7 @@ constexpr std::array kFileMenu{
     ToolRow{u"ID_텍스트파일로추출", u"텍스트 파일로 추출(&T)...", ToolKind::Button, u"ID_Export"},
     ToolRow{u"ID_HTML로저장", u"HTML로 저장(&M)...", ToolKind::Button, u"ID_Export"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_Export"},
-    ToolRow{u"ID_HWPX로추출", u"한글 문서(HWPX)로 추출(&X)...", ToolKind::Button, u"ID_Export", u"", u"", ToolState::Later},
+    ToolRow{u"ID_HWPX로추출", u"한글 문서(HWPX)로 추출(&X)...", ToolKind::Button, u"ID_Export"},
     ToolRow{u"ID_ODT로추출", u"ODT 문서로 추출(&O)...", ToolKind::Button, u"ID_Export"},
     ToolRow{u"ID_PDF로추출", u"PDF 문서로 추출(&P)...", ToolKind::Button, u"ID_Export"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},

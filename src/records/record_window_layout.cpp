@@ -227,6 +227,7 @@ void RecordWindow::bindExports()
     m_tools.on(u"ID_텍스트파일로추출", [this] { m_export.Proc텍스트파일로추출(); });
     if (!m_profile.lacksTool(u"ID_HTML로저장"))
         m_tools.on(u"ID_HTML로저장", [this] { m_export.saveAsPage(); });
+    m_tools.on(u"ID_HWPX로추출", [this] { m_export.saveAsHwpx(); });
     m_tools.on(u"ID_ODT로추출", [this] { m_export.saveAsOdt(); });
     m_tools.on(u"ID_PDF로추출", [this] { m_export.saveAsPdf(); });
     // No box: an export that fails has lost nothing.

@@ -173,5 +173,98 @@ TEST_F(RecordExportTest, OurOwnFilesHoldEveryLetter)
     EXPECT_EQ(failed, QStringList());
 }
 
+/// Reads a part through to its end; `onElement` sees each of its elements.
+void readXml(const QString& part, const std::function<void(QXmlStreamReader&)>& onElement)
+{
+    QXmlStreamReader xml(part);
+    while (!xml.atEnd())
+        if (xml.readNext() == QXmlStreamReader::StartElement)
+            onElement(xml);
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+}
+
+QString attribute(const QXmlStreamReader& xml, const QString& name)
+{
+    return xml.attributes().value(name).toString();
+}
+
+TEST_F(RecordExportTest, TheHangulWordProcessorGetsItsOwnFormat)
+{
+    boxes.plain[0] = u"\x01제목"_s;
+    boxes.formatted[3] = u"{\\rtf1\\pard\\qc\\b one\\b0\\tab two\\line three\\par"
+                         "\\trowd\\cellx2000\\cellx4000\\pard\\intbl A1\\cell B1\\cell\\row"
+                         "\\trowd\\cellx2000\\cellx4000\\pard\\intbl A2\\cell B2\\cell\\row"
+                         "\\pard end\\par}"_s;
+    services.fileDialogs.answerSave(file(u"a.hwpx"_s));
+    record.saveAsHwpx();
+    EXPECT_EQ(failed, QStringList());
+    // What tells the kind of a file stands where it can be read without unpacking.
+    EXPECT_EQ(read(file(u"a.hwpx"_s)).mid(30, 27), "mimetypeapplication/hwp+zip");
+    if (!outputOf(u"unzip"_s, {u"-t"_s, file(u"a.hwpx"_s)}))
+        GTEST_SKIP() << "unzip is not installed";
+    const auto part = [this](const QString& name) {
+        return *outputOf(u"unzip"_s, {u"-p"_s, file(u"a.hwpx"_s), name});
+    };
+    QStringList listed;
+    readXml(part(u"META-INF/container.xml"_s), [&](QXmlStreamReader& xml) {
+        if (xml.name() == u"rootfile")
+            listed << attribute(xml, u"full-path"_s);
+    });
+    readXml(part(listed.value(0)), [&](QXmlStreamReader& xml) {
+        if (xml.name() == u"item")
+            listed << attribute(xml, u"href"_s);
+    });
+    EXPECT_EQ(listed.size(), 4);
+    for (const QString& name : listed + QStringList{u"version.xml"_s, u"META-INF/manifest.xml"_s})
+        readXml(part(name), [](QXmlStreamReader&) {});
+
+    QMap<QString, QStringList> letters;
+    QMap<QString, QString> paragraphs;
+    QString id;
+    readXml(part(u"Contents/header.xml"_s), [&](QXmlStreamReader& xml) {
+        if (xml.name() == u"charPr" || xml.name() == u"paraPr")
+            id = attribute(xml, u"id"_s);
+        letters[id] << xml.name().toString();
+        if (xml.name() == u"align")
+            paragraphs[id] = attribute(xml, u"horizontal"_s);
+    });
+    QStringList texts;
+    QStringList cells;
+    QStringList bold;
+    QMap<QString, QString> alignments;
+    QString run;
+    QString paragraph;
+    readXml(part(u"Contents/section0.xml"_s), [&](QXmlStreamReader& xml) {
+        if (xml.name() == u"p")
+            paragraph = attribute(xml, u"paraPrIDRef"_s);
+        else if (xml.name() == u"run")
+            run = attribute(xml, u"charPrIDRef"_s);
+        else if (xml.name() == u"cellAddr")
+            cells << texts.last() + attribute(xml, u"colAddr"_s) + attribute(xml, u"rowAddr"_s);
+        if (xml.name() != u"t")
+            return;
+        ASSERT_TRUE(letters.contains(run) && paragraphs.contains(paragraph));
+        QString text;
+        while (xml.readNext() != QXmlStreamReader::EndElement || xml.name() != u"t") {
+            if (xml.isCharacters())
+                text += xml.text();
+            else if (xml.isStartElement())
+                text += u'/' + xml.name().toString();
+        }
+        texts << text;
+        alignments[text] = paragraphs[paragraph];
+        if (letters[run].contains(u"bold"_s))
+            bold << text;
+    });
+    EXPECT_TRUE(texts.contains(kHardText)) << texts.join(u'|').toStdString();
+    EXPECT_TRUE(bold.contains(kHardText));
+    EXPECT_TRUE(bold.contains(u"one"_s));
+    EXPECT_TRUE(texts.contains(u"/tabtwo/lineBreakthree"_s)) << texts.join(u'|').toStdString();
+    EXPECT_FALSE(bold.contains(u"/tabtwo/lineBreakthree"_s));
+    EXPECT_EQ(alignments[u"one"_s], u"CENTER"_s);
+    EXPECT_EQ(alignments[u"end"_s], u"LEFT"_s);
+    EXPECT_EQ(cells, (QStringList{u"A100"_s, u"B110"_s, u"A201"_s, u"B211"_s}));
+}
+
 } // namespace
 } // namespace lumen

@@ -12,6 +12,7 @@
 #include "platform/files/file_system.h"
 #include "platform/files/shell.h"
 #include "records/export/record_document.h"
+#include "records/export/record_hwpx.h"
 #include "records/export/record_page.h"
 #include "records/messages.h"
 #include "text/codepage949.h"
@@ -35,6 +36,8 @@ const RecordExport::FileKind RecordExport::kRtf{u"Rich Text Format으로 추출"
                                                 u"rtf파일(*.rtf)|*.rtf", u"", u".rtf"};
 const RecordExport::FileKind RecordExport::kText{u"Text 파일로 추출", u"텍스트 파일(*.txt)|*.txt",
                                                  u"", u".txt"};
+const RecordExport::FileKind RecordExport::kHwpx{u"한글 문서(HWPX)로 추출",
+                                                 u"한글 문서(*.hwpx)|*.hwpx", u"", u".hwpx", true};
 const RecordExport::FileKind RecordExport::kOdt{u"ODT 문서로 추출", u"ODT 문서(*.odt)|*.odt", u"",
                                                 u".odt", true};
 const RecordExport::FileKind RecordExport::kPdf{u"PDF 문서로 추출", u"PDF 문서(*.pdf)|*.pdf", u"",
@@ -174,6 +177,13 @@ void RecordExport::saveAsPage()
         m_services.messages.show(m_parent, messages::kPageSaved);
     else if (onFailure)
         onFailure(*path);
+}
+
+void RecordExport::saveAsHwpx()
+{
+    if (const auto path = askName(kHwpx))
+        write(*path, hwpxBytes(*recordDocument(m_profile, m_boxes, RecordFonts::AsWritten),
+                               m_boxes.plainText(kTitleText).simplified()));
 }
 
 void RecordExport::saveAsOdt()

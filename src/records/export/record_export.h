@@ -31,6 +31,7 @@ public:
     void ProcRTF로추출();
     void Proc텍스트파일로추출();
     void saveAsPage();
+    void saveAsHwpx();
     void saveAsOdt();
     void saveAsPdf();
 
@@ -41,6 +42,7 @@ private:
     static const FileKind kHwp;
     static const FileKind kRtf;
     static const FileKind kText;
+    static const FileKind kHwpx;
     static const FileKind kOdt;
     static const FileKind kPdf;
 
