@@ -5,6 +5,9 @@
 #include "platform/dialogs/modal.h"
 #include "reader/bible_window.h"
 #include "records/illustrations/illustration_window.h"
+#include "records/mail/address_dialogs.h"
+#include "records/mail/mail_settings_dialog.h"
+#include "records/mail/send_mail_window.h"
 #include "records/record_window.h"
 #include "search/original/strong_list_window.h"
 #include "search/search_window.h"
@@ -68,6 +71,14 @@ void Windows::open(WindowId window)
         return raise(m_quietTime, record_profile::kQuietTime, m_services, m_state, *this);
     case WindowId::Illustrations:
         return raise(m_illustrations, m_services, m_state);
+    case WindowId::AddressBook:
+        return raise(m_addresses, m_services, m_state);
+    case WindowId::SendSermon:
+        if (m_sermons)
+            raise(m_sending, m_services, m_state, m_sermons->texts());
+        return;
+    case WindowId::MailSettings:
+        return runModally<dlog전자우편환경설정>(m_services);
     }
 }
 
@@ -98,6 +109,9 @@ void Windows::endAtOnce()
 
 bool Windows::closeAll()
 {
+    for (QWidget* mail : std::initializer_list<QWidget*>{m_sending.get(), m_addresses.get()})
+        if (mail)
+            mail->close();
     for (const auto& notebook : {m_sermons.get(), m_quietTime.get()})
         if (notebook && !notebook->close())
             return false;

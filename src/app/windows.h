@@ -16,6 +16,8 @@ class frm성서검색;
 class frm스트롱관주목록;
 class RecordWindow;
 class frm예화사전;
+class frm전자우편주소록;
+class frm설교문발송;
 struct AppState;
 struct Services;
 
@@ -57,6 +59,8 @@ private:
     std::unique_ptr<RecordWindow> m_sermons;
     std::unique_ptr<RecordWindow> m_quietTime;
     std::unique_ptr<frm예화사전> m_illustrations;
+    std::unique_ptr<frm전자우편주소록> m_addresses;
+    std::unique_ptr<frm설교문발송> m_sending;
 };
 
 } // namespace lumen

@@ -14,6 +14,7 @@
 #include "platform/files/qt_file_system.h"
 #include "platform/files/system_clock.h"
 #include "platform/files/virtual_drives.h"
+#include "platform/mail/curl_mail_sender.h"
 #include "platform/registry/registry_store.h"
 
 namespace lumen {
@@ -45,6 +46,7 @@ private:
     QtModal m_modal;
     QtClipboard m_clipboard;
     FileHtmlHelp m_help;
+    CurlMailSender m_mail;
     Services m_services;
 };
 

@@ -128,9 +128,13 @@ constexpr std::array kPreviewRows{
                                 kPaper},
 };
 
+constexpr SettingRule kPort{.smallest = 0, .largest = 65535};
+constexpr SettingRule kEncryption{.smallest = 0, .largest = 2};
 constexpr std::array kMailRows{
     SettingRow<MailSettings>{u"SMTP", settingAt<&MailSettings::SMTP>},
     SettingRow<MailSettings>{u"myAddress", settingAt<&MailSettings::myAddress>},
+    SettingRow<MailSettings>{u"Port", settingAt<&MailSettings::Port>, kPort},
+    SettingRow<MailSettings>{u"Encryption", settingAt<&MailSettings::Encryption>, kEncryption},
     SettingRow<MailSettings>{u"UserName", settingAt<&MailSettings::UserName>},
 };
 

@@ -129,7 +129,9 @@ struct MailSettings
 {
     QString SMTP; ///< "host", "host:port" or a URL
     QString myAddress;
-    QString UserName; ///< "" for a server that asks for none
+    int Port = 0;       ///< 0: as the server's name or the encryption says
+    int Encryption = 0; ///< 0: as the server offers, 1 STARTTLS, 2 TLS
+    QString UserName;   ///< "" for a server that asks for none
 };
 
 // One row a value

@@ -11,6 +11,7 @@ class FileSystem;
 class Fonts;
 class HtmlHelp;
 class JetEngine;
+class MailSender;
 class MessageBoxes;
 class Modal;
 class ProcessList;
@@ -33,6 +34,7 @@ struct Services
     HtmlHelp& help;
     RegistryStore& registry;
     JetEngine& jet;
+    MailSender& mail;
 };
 
 } // namespace lumen

@@ -19,7 +19,10 @@ enum class WindowId {
     About,
     Sermons,
     QuietTime,
-    Illustrations
+    Illustrations,
+    AddressBook,
+    SendSermon,
+    MailSettings
 };
 
 /// Opens, raises or runs a window, so that windows need not know each other.

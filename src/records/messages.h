@@ -89,4 +89,32 @@ inline constexpr MessageText kDeleteIllustration{u"삭제 확인",
 inline constexpr MessageText kLeaveIllustration{u"예화 저장", u"고치던 예화를 저장하고 닫을까요?",
                                                 35};
 
+inline constexpr MessageText kNoName{u"성명 누락", u"성명이 입력되지 않았습니다.", 48};
+inline constexpr MessageText kNoAddress{u"전자우편 주소 누락",
+                                        u"전자우편 주소가 입력되지 않았습니다.", 48};
+inline constexpr MessageText kWrongAddress{u"전자우편 주소 오류",
+                                           u"전자우편 주소가 잘못 입력되었습니다.", 48};
+inline constexpr MessageText kLastAddress{
+    u"삭제 불가", u"마지막 항목은 삭제할 수 없습니다. 수정을 이용하시기 바랍니다.", 64};
+/// %1 is the name.
+inline constexpr MessageText kDeleteAddress{u"삭제 확인", u"주소록에서 '%1'을 삭제하시겠습니까?",
+                                            36};
+inline constexpr MessageText kNoOwnAddress{u"전자우편 주소 누락",
+                                           u"귀하의 전자 우편 주소가 누락되었습니다.", 48};
+inline constexpr MessageText kNoServer{u"SMTP 주소 누락",
+                                       u"귀하의 전자우편(SMTP) 서버 이름이 누락되었습니다.", 48};
+/// %1 is the reason.
+inline constexpr MessageText kMailSettingsNotStored{
+    u"저장 실패", u"전자우편 환경 설정을 저장하지 못했습니다.\r\n%1", 48};
+inline constexpr MessageText kNoRecipient{u"수신자 없음", u"메일을 보낼 곳을 선택하시기 바랍니다.",
+                                          48};
+inline constexpr MessageText kNoServerSet{
+    u"SMTP 설정 오류", u"메일 서버 설정이 되어 있지 않습니다. 전자우편 환경 설정을 하십시요.", 16};
+inline constexpr MessageText kNoOwnAddressSet{
+    u"SMTP 설정 오류",
+    u"귀하의 전자우편 주소 설정이 되어 있지 않습니다. 전자우편 환경 설정을 하십시요.", 16};
+/// %1 is the reason.
+inline constexpr MessageText kSendingFailed{u"전송 에러", u"전송 실패: %1", 48};
+inline constexpr MessageText kSent{u"전송 완료", u"전송이 모두 성공적으로 완료되었습니다.", 0};
+
 } // namespace lumen::messages

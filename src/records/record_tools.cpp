@@ -63,9 +63,9 @@ constexpr std::array kToolMenu{
 };
 constexpr std::array kMailMenu{
     ToolRow{u"", u"", ToolKind::Separator, u"ID_mn도구"},
-    ToolRow{u"ID_전자우편주소록편집", u"전자우편 주소록 편집(&A)...", ToolKind::Button, u"ID_mn도구", u"", u"", ToolState::Later},
-    ToolRow{u"ID_설교문발송", u"설교문 발송(&M)...", ToolKind::Button, u"ID_mn도구", u"", u"", ToolState::Later},
-    ToolRow{u"ID_전자우편환경설정", u"전자우편 환경 설정(&O)...", ToolKind::Button, u"ID_mn도구", u"", u"", ToolState::Later},
+    ToolRow{u"ID_전자우편주소록편집", u"전자우편 주소록 편집(&A)...", ToolKind::Button, u"ID_mn도구"},
+    ToolRow{u"ID_설교문발송", u"설교문 발송(&M)...", ToolKind::Button, u"ID_mn도구"},
+    ToolRow{u"ID_전자우편환경설정", u"전자우편 환경 설정(&O)...", ToolKind::Button, u"ID_mn도구"},
 };
 constexpr std::array kLastTools{
     ToolRow{u"", u"", ToolKind::Separator, u"ID_mn도구"},

@@ -38,6 +38,8 @@ public:
     const ToolDispatch& toolClicks() const { return m_tools; }
     const ToolDispatch& toolCombos() const { return m_combos; }
     RecordManager& manager() { return m_manager; }
+    /// The record as it stands in the boxes, stored or not.
+    const RecordBoxes& texts() const { return *this; }
     /// Keeps what was not stored, for an end that closes no windows.
     void keepUnsaved();
     /// Stores, then shows the record of a number; false when it could not be stored.

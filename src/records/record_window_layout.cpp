@@ -180,6 +180,14 @@ void RecordWindow::bindTools()
         m_windows.openVerseInsertion(this, [box](const QString& text) { box->setSelText(text); });
     });
     m_tools.on(u"ID_성서", [this] { m_windows.open(WindowId::Reader); });
+    const std::pair<QStringView, WindowId> mail[] = {
+        {u"ID_전자우편주소록편집", WindowId::AddressBook},
+        {u"ID_설교문발송", WindowId::SendSermon},
+        {u"ID_전자우편환경설정", WindowId::MailSettings},
+    };
+    for (const auto& [id, window] : mail)
+        if (!m_profile.lacksTool(id))
+            m_tools.on(id, [this, window = window] { m_windows.open(window); });
     m_tools.on(u"ID_예화사전", [this] { m_windows.open(WindowId::Illustrations); });
     m_tools.on(u"ID_인터넷", [this] { m_windows.openHomePage(); });
     m_tools.on(m_profile.tools.otherManager.id, [this] {

@@ -51,7 +51,7 @@ QString TestFolders::data(const QString& name) const
 TestServices::TestServices(bool withDisc)
     : drives(driveFolders(folders, withDisc)), jet(drives, filePolicy, importOptions()),
       files(drives, jet), services{messages, fileDialogs, modal, clock, shell,    clipboard, drives,
-                                   files,    processes,   fonts, help,  registry, jet}
+                                   files,    processes,   fonts, help,  registry, jet,       mail}
 {
     state.AppPath = drives.appPath();
     state.CdDrive = FindCdDrive(drives);

@@ -8,6 +8,7 @@
 #include "platform/files/virtual_drives.h"
 #include "platform/registry/registry_store.h"
 #include "support/scripted_dialogs.h"
+#include "support/scripted_mail_sender.h"
 #include "support/scripted_message_boxes.h"
 #include "support/test_platform.h"
 
@@ -65,6 +66,7 @@ public:
     FixedProcessList processes;
     TestFonts fonts;
     RecordingHelp help;
+    ScriptedMailSender mail;
     /// AppPath and CdDrive are set; installed is what CheckData makes of the folder when asked.
     AppState state;
 
