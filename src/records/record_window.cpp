@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -93,8 +94,9 @@ void RecordWindow::Form_Load()
     makeCurrent(*boxes[kTitleText]);
     Proc필드표시();
     boxes[kTitleText]->setFocus();
+    // Behind the window, so that the question stands over the record that it is about.
     if (opened)
-        offerDrafts();
+        QTimer::singleShot(0, this, [this] { offerDrafts(); });
     ProcUpdateToolBar();
     Form_Resize();
 }
@@ -103,6 +105,8 @@ void RecordWindow::Form_Load()
 void RecordWindow::offerDrafts()
 {
     while (const std::optional<Draft> draft = m_manager.offeredDraft()) {
+        if (!showRecord(draft->key))
+            return;
         const QString title = titleOf(*draft);
         const Answer answer = m_services.messages.show(
             this, messages::kDraftFound,

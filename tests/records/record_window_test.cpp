@@ -316,7 +316,8 @@ TEST_F(RecordWindowTest, UnsavedTextIsOfferedAfterACrash)
                          "누르면 지우고, '취소'를 누르면 다음에 다시 묻습니다.)"_s.arg(when);
     services.messages.expect(u"저장되지 않은 내용"_s, text, 35, Answer::Cancel);
     open();
-    EXPECT_EQ(box(0).Text(), u"하나"_s);
+    EXPECT_EQ(box(0).Text(), u"둘"_s) << "the record that it is about";
+    EXPECT_EQ(box(2).Text(), QString());
     window.reset();
     services.messages.expect(u"저장되지 않은 내용"_s, text, 35, Answer::Yes);
     open();

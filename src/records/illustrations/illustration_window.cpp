@@ -25,6 +25,8 @@ namespace lumen {
 namespace {
 
 constexpr QStringView kNothing = u"내용 없음"; // a category or a text that is not there
+constexpr QStringView kEmptyBook =
+    u"아직 예화가 없습니다. 편집(Ctrl+3)에서 '새 예화'를 누르고 적으십시오.";
 constexpr QStringView kHelpPage = u"ExIntro.htm";
 constexpr double kTreeShare = 0.3;
 enum Page { kReading, kSearching, kEditing };
@@ -200,6 +202,8 @@ void frm예화사전::Form_Load()
     const bool opened = guarded(m_services, this, [this] {
         m_book.open();
         fillTree();
+        if (Tree예화->topLevelItemCount() == 0)
+            tx열람->setText(kEmptyBook.toString());
     });
     centralWidget()->setEnabled(opened);
     Tree예화->setFocus();

@@ -20,6 +20,7 @@ constexpr int kBookWidth = 8400;
 constexpr int kBookHeight = 5400;
 constexpr int kNameWidth = 1500;
 constexpr int kAddressWidth = 3300;
+constexpr int kNoteWidth = 2700;
 enum Column { kName, kAddress, kNote, kId, kColumns };
 
 // The header and one address.
@@ -128,7 +129,7 @@ void frm전자우편주소록::ProcFillList()
         grid.setTextMatrix(0, col, captions[col]);
     grid.setColWidth(kName, kNameWidth);
     grid.setColWidth(kAddress, kAddressWidth);
-    grid.setStretchFrom(kNote);
+    grid.setColWidth(kNote, kNoteWidth);
     grid.setColHidden(kId, true);
     for (const AddressEntry& entry : entries)
         grid.AddItem({entry.name, entry.address, entry.note, QString::number(entry.id)});

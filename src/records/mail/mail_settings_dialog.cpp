@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "records/mail/mail_settings_dialog.h"
 
+#include "platform/controls/twips.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/registry/registry_store.h"
 #include "records/messages.h"
@@ -14,6 +15,7 @@ namespace lumen {
 namespace {
 
 constexpr int kHighestPort = 65535;
+constexpr int kFieldWidth = 3600; // twips
 
 } // namespace
 
@@ -39,6 +41,8 @@ void dlog전자우편환경설정::layOut()
     spnPort->setSpecialValueText(u"자동"_s);
     for (const QString& kind : {u"서버가 하는 대로"_s, u"STARTTLS"_s, u"TLS"_s})
         cbEncryption->AddItem(kind);
+    for (QLineEdit* box : {tx전자우편, txSMTP})
+        box->setMinimumWidth(toPixels(kFieldWidth));
     auto* fields = new QFormLayout;
     fields->addRow(u"귀하의 전자우편 주소(&M):"_s, tx전자우편);
     fields->addRow(u"메일(SMTP) 서버(&S):"_s, txSMTP);
