@@ -7,7 +7,7 @@ ROOT=$PWD
 
 # What building needs, what the modules are built from, what the windows are drawn with.
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlite3-dev mdbtools-dev
-  libcurl4-openssl-dev python3-aiosmtpd openssl unzip poppler-utils
+  libcurl4-openssl-dev qtkeychain-qt6-dev python3-aiosmtpd openssl unzip poppler-utils
   libsword-dev zlib1g-dev libzip-dev libgtest-dev libgmock-dev libbenchmark-dev python3"
 SOURCE_PACKAGES="sword-text-kjv sword-text-web sword-text-sparv sword-comm-mhcc sword-dict-naves dict-wn
   bibledit-data npm"

@@ -15,6 +15,7 @@
 #include "platform/files/system_clock.h"
 #include "platform/files/virtual_drives.h"
 #include "platform/mail/curl_mail_sender.h"
+#include "platform/mail/desktop_secret_store.h"
 #include "platform/registry/registry_store.h"
 
 namespace lumen {
@@ -47,6 +48,7 @@ private:
     QtClipboard m_clipboard;
     FileHtmlHelp m_help;
     CurlMailSender m_mail;
+    DesktopSecretStore m_secrets;
     Services m_services;
 };
 

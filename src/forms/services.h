@@ -16,6 +16,7 @@ class MessageBoxes;
 class Modal;
 class ProcessList;
 class RegistryStore;
+class SecretStore;
 class Shell;
 
 /// The world outside a window. References only: app/ owns the real ones, tests the scripted ones.
@@ -35,6 +36,7 @@ struct Services
     RegistryStore& registry;
     JetEngine& jet;
     MailSender& mail;
+    SecretStore& secrets;
 };
 
 } // namespace lumen

@@ -5,6 +5,7 @@
 #include "records/record_fixture.h"
 #include "support/active_window.h"
 
+#include <QCheckBox>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -152,15 +153,15 @@ TEST_F(MailWindowsTest, ALetterGoesToThoseWhoAreChosen)
     auto* bar = sending->findChild<QProgressBar*>();
     EXPECT_EQ(bar->value(), 40);
     services.messages.expect(u"전송 에러"_s, u"전송 실패: 김: 없는 사람"_s, 48);
-    services.mail.events.finished({true, u"김: 없는 사람"_s, {}});
+    services.mail.events.finished({true, u"김: 없는 사람"_s, {}, false});
     EXPECT_TRUE(sending->isVisible());
     press(sending->cmd보내기);
     services.messages.expect(u"전송 완료"_s, u"전송이 모두 성공적으로 완료되었습니다."_s, 0);
-    services.mail.events.finished({true, {}, {}});
+    services.mail.events.finished({true, {}, {}, false});
     EXPECT_FALSE(sending->isVisible());
 }
 
-TEST_F(MailWindowsTest, APasswordIsAskedForAndKeptNowhereAndASendingCanBeBrokenOff)
+TEST_F(MailWindowsTest, APasswordIsAskedForAndRememberedOnlyWhenItProvedRight)
 {
     book.save({0, u"김"_s, u"kim@example.kr"_s, {}});
     saveSettings(services.registry, mailTable(),
@@ -170,15 +171,30 @@ TEST_F(MailWindowsTest, APasswordIsAskedForAndKeptNowhereAndASendingCanBeBrokenO
     services.modal.expect([](QDialog& dialog) { dialog.reject(); });
     press(sending->cmd보내기);
     EXPECT_TRUE(services.mail.letters.empty());
-    services.modal.expect([](QDialog& dialog) {
+    const auto answer = [](QDialog& dialog) {
         dialog.findChild<QLineEdit*>()->setText(u"비밀"_s);
+        dialog.findChild<QCheckBox*>()->setChecked(true);
         dialog.accept();
-    });
+    };
+    services.modal.expect(answer);
     press(sending->cmd보내기);
-    EXPECT_EQ(services.mail.servers.front().password, u"비밀"_s);
+    EXPECT_EQ(services.mail.servers.back().password, u"비밀"_s);
     press(sending->findChild<MailProgress*>()->cmd취소);
     EXPECT_EQ(services.mail.cancelled, 1);
-    EXPECT_TRUE(sending->isVisible());
+    EXPECT_TRUE(services.secrets.passwords.isEmpty());
+
+    services.modal.expect(answer);
+    press(sending->cmd보내기);
+    services.messages.expectAny(u"전송 완료"_s, 0);
+    services.mail.events.finished({true, {}, {}, false});
+    EXPECT_EQ(services.secrets.passwords.value(u"me@mail.example"_s), u"비밀"_s);
+    openSending();
+    choose(1);
+    press(sending->cmd보내기);
+    EXPECT_EQ(services.mail.servers.back().password, u"비밀"_s) << "without a question";
+    services.messages.expectAny(u"전송 에러"_s, 48);
+    services.mail.events.finished({false, u"거절"_s, {}, true});
+    EXPECT_TRUE(services.secrets.passwords.isEmpty());
 }
 
 } // namespace

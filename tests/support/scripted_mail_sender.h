@@ -2,6 +2,9 @@
 #pragma once
 
 #include "platform/mail/mail_sender.h"
+#include "platform/mail/secret_store.h"
+
+#include <QMap>
 
 #include <vector>
 
@@ -25,6 +28,25 @@ public:
     std::vector<MailServer> servers;
     MailEvents events;
     int cancelled = 0;
+};
+
+/// A safe that is open.
+class MemorySecretStore : public SecretStore
+{
+public:
+    void read(const QString& account,
+              std::function<void(const std::optional<QString>&)> answer) override
+    {
+        answer(passwords.contains(account) ? std::optional(passwords.value(account))
+                                           : std::nullopt);
+    }
+    void write(const QString& account, const QString& password) override
+    {
+        passwords.insert(account, password);
+    }
+    void remove(const QString& account) override { passwords.remove(account); }
+
+    QMap<QString, QString> passwords;
 };
 
 } // namespace lumen

@@ -67,6 +67,7 @@ public:
     TestFonts fonts;
     RecordingHelp help;
     ScriptedMailSender mail;
+    MemorySecretStore secrets;
     /// AppPath and CdDrive are set; installed is what CheckData makes of the folder when asked.
     AppState state;
 

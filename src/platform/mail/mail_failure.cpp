@@ -67,6 +67,7 @@ MailReport mailReportOf(const MailEnding& ending, const MailServer& server)
     MailReport report;
     report.delivered = ending.code == CURLE_OK;
     report.refused = ending.refused;
+    report.loginRefused = ending.code == CURLE_LOGIN_DENIED;
     if (ending.code == CURLE_OPERATION_TIMEDOUT)
         report.failure =
             u"메일 서버가 %1초 동안 응답하지 않았습니다."_s.arg(ending.patienceSeconds);

@@ -25,6 +25,7 @@ struct MailReport
     bool delivered = false; ///< the server took the letter, for those whom it did not refuse
     QString failure;        ///< in Korean; empty when everyone is served
     QList<MailRefusal> refused;
+    bool loginRefused = false; ///< the user name or the password
 };
 
 struct MailEvents

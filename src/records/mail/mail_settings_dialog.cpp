@@ -51,7 +51,7 @@ void dlog전자우편환경설정::layOut()
     extra->addRow(u"포트(&P):"_s, spnPort);
     extra->addRow(u"암호화(&E):"_s, cbEncryption);
     extra->addRow(u"사용자 이름(&U):"_s, txUserName);
-    extra->addRow(new QLabel(u"비밀번호는 보낼 때 묻고 저장하지 않습니다."_s));
+    extra->addRow(new QLabel(u"비밀번호는 보낼 때 묻고 설정에 적지 않습니다."_s));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(cmd확인);

@@ -15,7 +15,7 @@
 namespace lumen {
 
 /// How mail leaves: the sender's address and the server, and what today's servers ask for beside
-/// its name. The password is asked for at each sending and stored nowhere.
+/// its name. The password is asked for when mail is sent and never stands among the settings.
 class dlog전자우편환경설정 : public QDialog // no Q_OBJECT: moc cannot read the name
 {
 public:

@@ -7,11 +7,14 @@
 #include "platform/dialogs/message_boxes.h"
 #include "platform/dialogs/modal.h"
 #include "platform/files/clock.h"
+#include "platform/mail/secret_store.h"
 #include "platform/registry/registry_store.h"
 #include "records/mail/mail_settings_dialog.h"
 #include "records/messages.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
+#include <QPointer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -155,22 +158,27 @@ bool frm설교문발송::askSettings(const MessageText& message)
     return false;
 }
 
-std::optional<QString> frm설교문발송::askPassword(const QString& user)
+void frm설교문발송::askPassword(const MailSettings& settings, const MailServer& server)
 {
     QDialog dialog(this);
     dialog.setObjectName(u"dlogPassword"_s);
     dialog.setWindowTitle(u"메일 비밀번호"_s);
     auto* box = named<QLineEdit>(u"txPassword", u"비밀번호");
     box->setEchoMode(QLineEdit::Password);
-    auto* send = named<QPushButton>(u"cmd확인", u"확인(&O)");
+    auto* remember = named<QCheckBox>(u"chkRemember", u"데스크톱의 암호 보관함에 기억하기(&R)");
+    auto* confirm = named<QPushButton>(u"cmd확인", u"확인(&O)");
     auto* column = new QVBoxLayout(&dialog);
-    column->addWidget(new QLabel(u"%1의 비밀번호를 입력하십시오."_s.arg(user)));
+    column->addWidget(new QLabel(u"%1의 비밀번호를 입력하십시오."_s.arg(server.user)));
     column->addWidget(box);
-    column->addWidget(send, 0, Qt::AlignRight);
-    connect(send, &QPushButton::clicked, &dialog, &QDialog::accept);
+    column->addWidget(remember);
+    column->addWidget(confirm, 0, Qt::AlignRight);
+    connect(confirm, &QPushButton::clicked, &dialog, &QDialog::accept);
     if (m_services.modal.run(dialog) != QDialog::Accepted)
-        return {};
-    return box->text();
+        return;
+    MailServer named = server;
+    named.password = box->text();
+    m_toRemember = remember->isChecked() ? std::optional(named.password) : std::nullopt;
+    sendLetter(settings, named);
 }
 
 void frm설교문발송::send()
@@ -193,14 +201,21 @@ void frm설교문발송::send()
         m_services.messages.show(this, messages::kSendingFailed, {server.failure().detail});
         return;
     }
-    MailServer named = server.value();
-    if (!named.user.isEmpty()) {
-        const auto password = askPassword(named.user);
-        if (!password)
+    const MailServer named = server.value();
+    m_toRemember.reset();
+    m_account = named.user.isEmpty() ? QString() : named.user + u'@' + named.host;
+    if (m_account.isEmpty())
+        return sendLetter(settings, named);
+    m_services.secrets.read(m_account, [this, guard = QPointer<QObject>(this), settings,
+                                        named](const std::optional<QString>& password) {
+        if (!guard)
             return;
-        named.password = *password;
-    }
-    sendLetter(settings, named);
+        if (!password)
+            return askPassword(settings, named);
+        MailServer known = named;
+        known.password = *password;
+        sendLetter(settings, known);
+    });
 }
 
 QString frm설교문발송::letterBody() const
@@ -237,6 +252,11 @@ void frm설교문발송::sendLetter(const MailSettings& settings, const MailServ
 void frm설교문발송::finished(const MailReport& report)
 {
     m_progress->hide();
+    if (report.loginRefused && !m_account.isEmpty())
+        m_services.secrets.remove(m_account); // asked for again next time
+    else if (m_toRemember && report.delivered)
+        m_services.secrets.write(m_account, *m_toRemember);
+    m_toRemember.reset();
     if (report.delivered && report.failure.isEmpty()) {
         m_services.messages.show(this, messages::kSent);
         close();

@@ -53,7 +53,7 @@ private:
     QList<MailAddress> recipients() const;
     void send();
     bool askSettings(const MessageText& message);
-    std::optional<QString> askPassword(const QString& user);
+    void askPassword(const MailSettings& settings, const MailServer& server);
     void sendLetter(const MailSettings& settings, const MailServer& server);
     void finished(const MailReport& report);
     QString letterBody() const;
@@ -63,6 +63,8 @@ private:
     const RecordBoxes& m_boxes;
     AddressBook m_book;
     std::unique_ptr<MailProgress> m_progress;
+    QString m_account;                   ///< that the last password belongs to, "" for none
+    std::optional<QString> m_toRemember; ///< a password to be kept once it has proved right
 };
 
 } // namespace lumen
