@@ -63,6 +63,8 @@ HistoryDialog::HistoryDialog(const RecordProfile& profile, Services& services,
 void HistoryDialog::layOut()
 {
     resize(toPixels(kWidth), toPixels(kHeight));
+    // Paper, as the boxes are: texts bring colours that were chosen for it.
+    txState->setBackColor(RGB(255, 255, 255));
     auto* options = new QHBoxLayout;
     options->addWidget(opStates);
     options->addWidget(opDeleted);
