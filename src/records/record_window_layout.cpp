@@ -15,6 +15,7 @@
 #include <QFontDatabase>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -96,7 +97,9 @@ QWidget* RecordWindow::makeInfo()
 
 void RecordWindow::layOut()
 {
-    setMinimumSize(toPixels(kLeastWidth), toPixels(kLeastHeight));
+    // A screen of large pixels may be smaller still.
+    setMinimumSize(
+        QSize(toPixels(kLeastWidth), toPixels(kLeastHeight)).boundedTo(screen()->availableSize()));
     resize(toPixels(kStandardWidth), toPixels(kStandardHeight));
 
     tabs = named<TabControl>(m_profile.names.tabs);
