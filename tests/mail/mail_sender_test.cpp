@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
@@ -11,7 +12,9 @@
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTimer>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -212,6 +215,26 @@ TEST(MailSenderTest, EveryFailureOfTheServerHasItsWords)
         EXPECT_TRUE(report.failure.contains(one.words)) << report.failure.toStdString();
         EXPECT_FALSE(server.hasLetter());
     }
+}
+
+TEST(MailSenderTest, WindowsStayAliveWhileTheServerThinksTheLetterOver)
+{
+    Server server({u"--silent"_s, u"end"_s});
+    constexpr int kPatience = 2000;
+    CurlMailSender sender({milliseconds(kPatience), {}});
+    QEventLoop loop;
+    QTimer ticks;
+    QElapsedTimer sinceTick;
+    qint64 longestStill = 0;
+    QObject::connect(&ticks, &QTimer::timeout,
+                     [&] { longestStill = std::max(longestStill, sinceTick.restart()); });
+    const MailEvents events{{}, [&](const MailReport&) { loop.quit(); }};
+    ASSERT_TRUE(sender.send(sundayLetter(), server.address(), events).ok());
+    sinceTick.start();
+    ticks.start(10);
+    loop.exec();
+    // Within one call of libcurl it would be the whole patience.
+    EXPECT_LT(longestStill, kPatience / 2);
 }
 
 TEST(MailSenderTest, NobodyWaitsForTheFarewell)

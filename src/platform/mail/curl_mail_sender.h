@@ -4,13 +4,13 @@
 #include "platform/mail/mail_sender.h"
 #include "platform/mail/mail_transfer.h"
 
-#include <QPointer>
+#include <memory>
+#include <vector>
 
 namespace lumen {
 
-/// Sends by libcurl in the event loop, one letter at a time. The last answer, to the letter itself,
-/// is waited for within libcurl: windows stand still for as long as the server takes over it, at
-/// most as long as the patience.
+/// Sends by libcurl in a thread of its own, one letter at a time, as libcurl waits for some of the
+/// server's answers within its calls. Events come in the thread of the caller.
 class CurlMailSender : public MailSender
 {
 public:
@@ -24,8 +24,12 @@ public:
     void cancel() override;
 
 private:
+    struct Told;
+    struct Run;
+    void forgetEnded();
+
     MailHabits m_habits;
-    QPointer<MailTransfer> m_transfer; ///< deletes itself when it is over
+    std::vector<std::unique_ptr<Run>> m_runs; ///< the last one, and those whose threads still end
 };
 
 } // namespace lumen
