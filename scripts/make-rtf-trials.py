@@ -98,10 +98,11 @@ def lines(path):
 
 def compare(folder):
     wrong = edited = 0
-    originals = sorted(p for p in folder.glob("*.txt") if not p.name.endswith(".edited.txt"))
+    pages = sorted(folder.glob("*.html"))
+    originals = [page.with_suffix(".txt") for page in pages]
     for original in originals:
         other = original.with_suffix("").with_suffix(".edited.txt")
-        if not other.exists():
+        if not original.exists() or not other.exists():
             print(f"{original.name}: not read back")
             wrong += 1
             continue
