@@ -141,6 +141,7 @@ void RecordWindow::Proc필드표시()
     dtp설교일->setDate(values.preached.value_or(today));
     dtp작성일->setDate(values.written.value_or(today));
     m_isLoading = false;
+    statusPanel1->setText(QString()); // what was told of the record before
     showPosition();
     Form_Resize();
 }

@@ -242,8 +242,9 @@ void RecordWindow::bindExports()
     m_tools.on(u"ID_ODT로추출", [this] { m_export.saveAsOdt(); });
     m_tools.on(u"ID_PDF로추출", [this] { m_export.saveAsPdf(); });
     // No box: an export that fails has lost nothing.
-    m_export.onFailure = [this](const QString& path) {
-        statusPanel1->setText(u"파일을 쓰지 못했습니다: "_s + path);
+    m_export.onWritten = [this](const QString& path, bool written) {
+        statusPanel1->setText((written ? u"저장했습니다: "_s : u"파일을 쓰지 못했습니다: "_s) +
+                              path);
     };
 }
 

@@ -37,7 +37,10 @@ protected:
             boxes.formatted[i] = writer.TextRTF();
         }
         boxes.categoryText = u"기타"_s;
-        record.onFailure = [this](const QString& path) { failed << path; };
+        record.onWritten = [this](const QString& path, bool written) {
+            if (!written)
+                failed << path;
+        };
     }
 
     QString file(const QString& name) const { return services.folders.root() + u'/' + name; }

@@ -106,8 +106,8 @@ void RecordExport::ProcMS워드로추출(const RichTextBox* current)
     }
     m_services.clipboard.set({plain, {}, rtf});
     const Result<Done> opened = m_services.shell.openInWordProcessor(rtf);
-    if (!opened && onFailure)
-        onFailure(opened.failure().detail);
+    if (!opened && onWritten)
+        onWritten(opened.failure().detail, false);
 }
 
 bool RecordExport::mayOverwrite(const QString& path)
@@ -137,8 +137,8 @@ std::optional<QString> RecordExport::askName(const FileKind& kind)
 void RecordExport::write(const QString& path, const QByteArray& bytes)
 {
     const bool written = !bytes.isEmpty() && m_services.files.writeAll(path, bytes);
-    if (!written && onFailure)
-        onFailure(path);
+    if (onWritten)
+        onWritten(path, written);
 }
 
 void RecordExport::ProcHWP로추출()
@@ -175,8 +175,8 @@ void RecordExport::saveAsPage()
         return;
     if (m_services.files.writeAll(*path, pageBytes(page)))
         m_services.messages.show(m_parent, messages::kPageSaved);
-    else if (onFailure)
-        onFailure(*path);
+    else if (onWritten)
+        onWritten(*path, false);
 }
 
 void RecordExport::saveAsHwpx()

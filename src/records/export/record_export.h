@@ -15,7 +15,7 @@ struct AppState;
 struct Services;
 
 /// Hands the record on the screen to the outside world, as it stands in the boxes, be it stored or
-/// not. Failures to write are told through `onFailure`, with the file's name.
+/// not. What became of a file is told through `onWritten`.
 class RecordExport
 {
 public:
@@ -35,7 +35,7 @@ public:
     void saveAsOdt();
     void saveAsPdf();
 
-    std::function<void(const QString& path)> onFailure;
+    std::function<void(const QString& path, bool written)> onWritten;
 
 private:
     struct FileKind;
