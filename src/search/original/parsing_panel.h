@@ -45,15 +45,17 @@ public:
     QPushButton* cmd책별선택 = named<QPushButton>(u"cmd책별선택(2)", u"책별 선택(&L)...");
     QPushButton* cmdParsingSearch = named<QPushButton>(u"cmdParsingSearch", u"검색(&S)");
     TabControl* sstHGSearch = named<TabControl>(u"sstHGSearch", u"단어");
-    ControlArray<ComboBox, kConditionCount> cbType{u"cbType"};
-    ControlArray<QLineEdit, kConditionCount> txHGSearch{u"txHGSearch"};
+    ControlArray<ComboBox, kConditionCount> cbType{u"cbType", [](int) { return u"원어 조건"; }};
+    ControlArray<QLineEdit, kConditionCount> txHGSearch{u"txHGSearch",
+                                                        [](int) { return u"원어 검색어"; }};
     ControlArray<QPushButton, kConditionCount> cmdInput{u"cmdInput",
                                                         [](int) { return u"자판(&K)..."; }};
     ControlArray<QLabel, kConditionCount> lblParsing{u"lblParsing", [](int) { return u"파싱:"; }};
     ControlArray<ListBox, kConditionCount> lstParsing{u"lstParsing"};
     ControlArray<QPushButton, kConditionCount> cmdSetParsing{
         u"cmdSetParsing", [](int) { return u"파싱 설정(&G)..."; }};
-    ControlArray<ComboBox, kConditionCount - 1> cbAndOr{u"cbAndOr"};
+    ControlArray<ComboBox, kConditionCount - 1> cbAndOr{u"cbAndOr",
+                                                        [](int) { return u"다음 조건과의 관계"; }};
 
 private:
     QWidget* conditionPage(int condition);
