@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
+#include <QMainWindow>
 #include <QPalette>
 #include <QPixmap>
 #include <QRegularExpression>
@@ -65,7 +66,9 @@ QIcon iconOn(const QColor& ground, QStringView name)
 
 } // namespace
 
-void setToolIcons(const ActiveToolBars& bars)
+namespace {
+
+void drawIcons(const ActiveToolBars& bars)
 {
     const QPalette look = QGuiApplication::palette();
     const bool dark = isDark(look);
@@ -73,6 +76,14 @@ void setToolIcons(const ActiveToolBars& bars)
         if (!row.icon.isEmpty())
             bars.tool(row.id).setIcon(dark ? iconOn(look.color(QPalette::Window), row.icon)
                                            : iconNamed(row.icon));
+}
+
+} // namespace
+
+void setToolIcons(QMainWindow& window, const ActiveToolBars& bars)
+{
+    drawIcons(bars);
+    onSchemeChange(window, [&bars] { drawIcons(bars); });
 }
 
 QIcon programIcon()

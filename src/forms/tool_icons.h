@@ -3,13 +3,16 @@
 
 #include <QIcon>
 
+class QMainWindow;
+
 namespace lumen {
 
 class ActiveToolBars;
 
-/// Gives the tools of a window the icons of their rows, in colours that fit a dark desktop too.
-/// Where no plug-in draws SVG they keep their captions.
-void setToolIcons(const ActiveToolBars& bars);
+/// Gives the tools of a window the icons of their rows, in colours that fit the desktop's, also
+/// when those change later; the bars live as long as the window. Where no plug-in draws SVG the
+/// tools keep their captions.
+void setToolIcons(QMainWindow& window, const ActiveToolBars& bars);
 
 /// The program's own icon; null where no plug-in draws SVG.
 QIcon programIcon();

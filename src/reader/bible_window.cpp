@@ -76,7 +76,7 @@ frm성서::frm성서(Services& services, AppState& state, WindowOpener& windows)
     atbar.add(kHelpMenu);
     atbar.add(kReaderHelpTools);
     addGeneratedTools();
-    setToolIcons(atbar);
+    setToolIcons(*this, atbar);
     layOut();
     bindTools();
     atbar.onToolClick = [this](const QString& toolId) { atbar_event9(toolId); };

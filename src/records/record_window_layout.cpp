@@ -150,7 +150,7 @@ void RecordWindow::addTools()
     for (std::size_t i = 0; i < boxes.size(); ++i)
         atbar.tool(u"ID_Box"_s + QString::number(i + 1))
             .setCaption(m_profile.texts[i].heading.toString() + u"(&%1)"_s.arg(i + 1));
-    setToolIcons(atbar);
+    setToolIcons(*this, atbar);
 
     ComboBox& fonts = atbar.tool(u"ID_서체").combo();
     fonts.setEditable(true);

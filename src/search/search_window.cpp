@@ -86,7 +86,7 @@ void frm성서검색::addTools()
     atbar.add(kHelpMenu);
     for (const ScopeRow& scope : kScopes)
         atbar.add({scope.toolId, scope.text, ToolKind::Toggle, u"ID_Scope"});
-    setToolIcons(atbar);
+    setToolIcons(*this, atbar);
 }
 
 void frm성서검색::bindTools()

@@ -56,7 +56,7 @@ TEST_P(ToolIconsTest, LinesCanBeToldFromTheGround)
     int drawn = 0;
     for (const QStringView id : {u"search", u"extract", u"copy-unicode", u"quick-move"}) {
         bars.add(ToolRow{id, id, ToolKind::Button, bar, u"", id});
-        setToolIcons(bars);
+        setToolIcons(window, bars);
         const QImage image = bars.tool(id).action()->icon().pixmap(48).toImage();
         double least = 21;
         for (int y = 0; y < image.height(); ++y)

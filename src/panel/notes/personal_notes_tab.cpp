@@ -248,7 +248,7 @@ void PersonalNotesTab::rowChanged()
     tx개인주석본문->setEnabled(hasNote);
     QPalette palette; // the application's own colours
     if (!hasNote)
-        palette.setColor(QPalette::Base, toColor(kGreyedBox));
+        palette.setColor(QPalette::Base, groundInScheme(toColor(kGreyedBox), QPalette::Window));
     tx개인주석본문->setPalette(palette);
 }
 

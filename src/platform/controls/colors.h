@@ -6,6 +6,9 @@
 #include <QColor>
 #include <QPalette>
 
+#include <functional>
+#include <optional>
+
 class QWidget;
 
 namespace lumen {
@@ -21,7 +24,22 @@ bool isDark(const QPalette& palette);
 /// until it can: a contrast of at least 4.5 to 1, the usual limit for running text.
 QColor readableOn(const QColor& ground, const QColor& color);
 
-/// Shows the selection of a control in its active colours while another control has the focus.
-void keepSelectionColors(QWidget& control);
+/// The contrast of two colours by the accessibility guidelines, 1 to 21.
+double contrast(const QColor& one, const QColor& other);
+
+/// A ground that was chosen for a light desktop, as it is shown now: on a dark desktop it gives way
+/// to that role of the palette, unless it is dark itself.
+QColor groundInScheme(const QColor& chosen, QPalette::ColorRole role = QPalette::Base);
+
+/// A text colour that was chosen for a light desktop, as it is shown now: on a dark desktop it is
+/// made readable on its ground.
+QColor textInScheme(const QColor& ground, const QColor& chosen);
+
+/// Gives a control the desktop's colours, its selection the active ones while another control has
+/// the focus, and the ground that was chosen for it.
+void showScheme(QWidget& control, std::optional<RgbLong> ground = {});
+
+/// Calls back whenever the desktop has changed its colours, for as long as the owner lives.
+void onSchemeChange(QWidget& owner, std::function<void()> follow);
 
 } // namespace lumen

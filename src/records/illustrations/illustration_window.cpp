@@ -10,6 +10,7 @@
 #include "forms/help_menu.h"
 #include "forms/tool_icons.h"
 #include "forms/wait_pointer.h"
+#include "platform/controls/colors.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/registry/registry_store.h"
 #include "records/messages.h"
@@ -66,7 +67,8 @@ frm예화사전::frm예화사전(Services& services, AppState& state, QWidget* p
     m_editMenu.addRows();
     atbar.add(kTools);
     atbar.add(kHelpMenu);
-    setToolIcons(atbar);
+    setToolIcons(*this, atbar);
+    onSchemeChange(*this, [this] { showFieldGrounds(); });
     bindTools();
     wire();
 }
@@ -301,12 +303,17 @@ void frm예화사전::setEditing(bool editing)
     tx제목->setReadOnly(!editing);
     tx본문->setReadOnly(!editing);
     cb분류->setEnabled(editing);
+    showFieldGrounds();
+}
+
+void frm예화사전::showFieldGrounds()
+{
     // What can't be written into has the ground of a disabled window.
-    const QPalette::ColorGroup group = editing ? QPalette::Active : QPalette::Disabled;
+    const QPalette::ColorGroup group = m_isEditing ? QPalette::Active : QPalette::Disabled;
     for (QWidget* field : std::initializer_list<QWidget*>{tx제목, tx본문}) {
-        QPalette look = palette();
+        QPalette look;
         look.setColor(QPalette::Base,
-                      palette().color(group, editing ? QPalette::Base : QPalette::Window));
+                      look.color(group, m_isEditing ? QPalette::Base : QPalette::Window));
         field->setPalette(look);
     }
 }

@@ -77,6 +77,7 @@ private:
     void cancelEdit();
     void removeCurrent();
     void setEditing(bool editing);
+    void showFieldGrounds();
     void emptyPages();
     bool leaveEdit();
     void Form_Unload();

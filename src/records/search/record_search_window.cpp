@@ -99,7 +99,7 @@ void RecordSearchWindow::addTools()
     m_editMenu.addRows();
     atbar.add(kTools);
     atbar.add(kHelpMenu);
-    setToolIcons(atbar);
+    setToolIcons(*this, atbar);
 }
 
 void RecordSearchWindow::bindTools()

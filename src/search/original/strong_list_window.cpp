@@ -61,7 +61,7 @@ frm스트롱관주목록::frm스트롱관주목록(Services& services, AppState&
     atbar.add(kStrongListFileMenu);
     m_editMenu.addRows();
     atbar.add(kStrongListTools);
-    setToolIcons(atbar);
+    setToolIcons(*this, atbar);
     bindTools();
     wire();
 }

@@ -61,7 +61,8 @@ FlexGrid::FlexGrid(QWidget* parent)
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(GridSelection::Rows);
-    keepSelectionColors(*this);
+    showScheme(*this);
+    onSchemeChange(*this, [this] { showScheme(*this, m_ground); });
     m_resizeTimer.setParent(this);
     m_resizeTimer.setSingleShot(true);
     m_resizeTimer.setInterval(kResizeRest);
@@ -201,27 +202,14 @@ void FlexGrid::applyMergedRows()
 
 void FlexGrid::setBackColor(RgbLong color)
 {
-    QPalette look = palette();
-    const QColor ground = toColor(color);
-    look.setColor(QPalette::Base, ground);
-    look.setColor(QPalette::Text, readableOn(ground, look.color(QPalette::Text)));
-    setPalette(look);
+    m_ground = color;
+    showScheme(*this, m_ground);
 }
 
 void FlexGrid::setBackColorAlternate(RgbLong color)
 {
     static_cast<GridDelegate*>(itemDelegate())->setAlternate(toColor(color));
     viewport()->update();
-}
-
-void FlexGrid::setSelectionColors(RgbLong back, RgbLong fore)
-{
-    QPalette look = palette();
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        look.setColor(group, QPalette::Highlight, toColor(back));
-        look.setColor(group, QPalette::HighlightedText, toColor(fore));
-    }
-    setPalette(look);
 }
 
 int FlexGrid::ColWidth(int col) const

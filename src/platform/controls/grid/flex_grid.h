@@ -65,8 +65,6 @@ public:
     void setBackColor(RgbLong color);
     /// The ground of every other row below the header.
     void setBackColorAlternate(RgbLong color);
-    /// Ground and text of the selection.
-    void setSelectionColors(RgbLong back, RgbLong fore);
 
     int ColWidth(int col) const;
     void setColWidth(int col, int twips);
@@ -190,6 +188,7 @@ private:
 
     GridModel* m_model;
     std::unique_ptr<RowHeights> m_heights;
+    std::optional<RgbLong> m_ground;
     QTimer m_resizeTimer;
     QString m_tag;
     GridSelection m_mode = GridSelection::Rows;

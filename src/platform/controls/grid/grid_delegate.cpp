@@ -42,7 +42,7 @@ QColor GridDelegate::ground(const QStyleOptionViewItem& option, const QModelInde
     if (const auto own = m_model.style(index.row() + m_model.fixedRows(), index.column()).back)
         return toColor(*own);
     if (index.row() % 2 == 1 && m_alternate.isValid())
-        return m_alternate;
+        return groundInScheme(m_alternate, QPalette::AlternateBase);
     return option.palette.color(QPalette::Base);
 }
 
@@ -52,13 +52,25 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->save();
     painter->setClipRect(option.rect, Qt::IntersectClip);
     painter->fillRect(option.rect, ground(option, index));
-    paintText(*painter, option, index.row() + m_model.fixedRows(), index.column());
+    paintText(*painter, option, index);
     painter->restore();
 }
 
-void GridDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& option, int row,
-                             int col) const
+QColor GridDelegate::textColor(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
+    if (option.state & QStyle::State_Selected)
+        return option.palette.color(QPalette::HighlightedText);
+    const QColor behind = ground(option, index);
+    if (const auto own = m_model.style(index.row() + m_model.fixedRows(), index.column()).color)
+        return textInScheme(behind, toColor(*own));
+    return readableOn(behind, option.palette.color(QPalette::Text));
+}
+
+void GridDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const
+{
+    const int row = index.row() + m_model.fixedRows();
+    const int col = index.column();
     const QString& text = m_model.text(row, col);
     if (text.isEmpty())
         return;
@@ -71,12 +83,7 @@ void GridDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& opti
     if (m_grid.highlight && !single)
         layout.setFormats(foundWords(text, m_grid.highlight(row, col, text)));
     const int height = layOutCell(layout, option.rect.width(), look.align);
-    QColor color = option.palette.color(QPalette::Text);
-    if (option.state & QStyle::State_Selected)
-        color = option.palette.color(QPalette::HighlightedText);
-    else if (look.color)
-        color = toColor(*look.color);
-    painter.setPen(color);
+    painter.setPen(textColor(option, index));
     // A cell beside a longer one stands in the middle; one that is cut off begins at its top.
     const int spare = std::max(0, option.rect.height() - height);
     layout.draw(&painter,

@@ -19,10 +19,13 @@ public:
     void setAlternate(const QColor& color) { m_alternate = color; }
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    /// What a cell is painted with, by the desktop's colours of now.
+    QColor ground(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+    QColor textColor(const QStyleOptionViewItem& option, const QModelIndex& index) const;
 
 private:
-    QColor ground(const QStyleOptionViewItem& option, const QModelIndex& index) const;
-    void paintText(QPainter& painter, const QStyleOptionViewItem& option, int row, int col) const;
+    void paintText(QPainter& painter, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) const;
 
     FlexGrid& m_grid;
     GridModel& m_model;

@@ -89,12 +89,8 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent)
 {
     document()->setDefaultFont(QFont(kFontName.toString(), int(kFontPoints)));
     setAutoFormatting(AutoNone);
-    keepSelectionColors(*this);
-    // A page is white under any theme: texts bring colours of their own that were chosen for it.
-    QPalette paper = palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    paper.setColor(QPalette::Text, Qt::black);
-    setPalette(paper);
+    showPaper();
+    onSchemeChange(*this, [this] { showPaper(); });
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
         if (!m_isLoading && onChange &&
             (isEdited() || document()->isUndoAvailable() || document()->isRedoAvailable()))
@@ -103,6 +99,16 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent)
     connect(this, &QTextEdit::selectionChanged, this, &RichTextBox::reportSelection);
     connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextBox::reportSelection);
     connect(this, &QTextEdit::currentCharFormatChanged, this, &RichTextBox::reportSelection);
+}
+
+void RichTextBox::showPaper()
+{
+    showScheme(*this);
+    // A page is white under any theme: texts bring colours of their own that were chosen for it.
+    QPalette paper = palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    setPalette(paper);
 }
 
 void RichTextBox::reportSelection()

@@ -110,6 +110,7 @@ private:
     bool mayEdit();
     void display(const std::function<void()>& fill);
     void reportSelection();
+    void showPaper();
     RtfReadOptions readOptions() const;
     RtfWriteOptions writeOptions() const;
     void insertRtfBytes(const QByteArray& rtf);

@@ -2,6 +2,7 @@
 #include "platform/controls/text/text_control.h"
 
 #include "platform/controls/colors.h"
+#include "platform/controls/text/readable_text.h"
 #include "platform/controls/twips.h"
 #include "text/rtf/rtf_reader.h"
 
@@ -31,8 +32,8 @@ TextControl::TextControl(QWidget* parent) : QTextEdit(parent)
     setUndoRedoEnabled(false);
     // A bar that comes and goes would lay a long chapter out twice.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    // The selected verse has to be seen while the panel has the focus.
-    keepSelectionColors(*this);
+    followScheme();
+    onSchemeChange(*this, [this] { followScheme(); });
     m_resizeTimer.setParent(this);
     m_resizeTimer.setSingleShot(true);
     m_resizeTimer.setInterval(kResizeRest);
@@ -89,6 +90,8 @@ void TextControl::display(std::unique_ptr<QTextDocument> content)
     m_content = content.release();
     m_content->setParent(this);
     setDocument(m_content);
+    if (m_readable)
+        m_readable->show(*m_content);
     delete before;
     verticalScrollBar()->setValue(0);
     setUpdatesEnabled(true);
@@ -196,11 +199,15 @@ void TextControl::applySpacing(QTextDocument& content) const
 
 void TextControl::setBackColor(RgbLong color)
 {
-    QPalette look = palette();
-    const QColor ground = toColor(color);
-    look.setColor(QPalette::Base, ground);
-    look.setColor(QPalette::Text, readableOn(ground, look.color(QPalette::Text)));
-    setPalette(look);
+    m_ground = color;
+    followScheme();
+}
+
+void TextControl::followScheme()
+{
+    // The selected verse has to be seen while the panel has the focus.
+    showScheme(*this, m_ground);
+    m_readable = isDark(QPalette()) ? std::make_unique<ReadableText>(*this) : nullptr;
 }
 
 int TextControl::textWidth() const

@@ -14,6 +14,8 @@
 
 namespace lumen {
 
+class ReadableText;
+
 /// The reader's text view and the text boxes of the panel: read-only, with a caret that the keys
 /// move. Positions are UTF-16 units from 0; a paragraph end is one position.
 class TextControl : public QTextEdit
@@ -88,8 +90,11 @@ private:
     void applySpacing(QTextDocument& content) const;
 
     void reportSelection();
+    void followScheme();
 
-    QTextDocument* m_content = nullptr; // a child; nullptr while the toolkit's own is shown
+    QTextDocument* m_content = nullptr;       // a child; nullptr while the toolkit's own is shown
+    std::unique_ptr<ReadableText> m_readable; // on a dark desktop
+    std::optional<RgbLong> m_ground;
     QTimer m_resizeTimer;
     std::pair<int, int> m_reported{0, 0}; // anchor and position last told
     int m_lastWidth = 0;
