@@ -10,6 +10,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lumen {
@@ -75,13 +77,40 @@ TwipsRect placeOf(const QWidget& window)
     return inTwips({normal.topLeft() - QPoint(frame.left(), frame.top()), normal.size()});
 }
 
+/// The place of a window as the screen that it stands on shows it whole: screens get smaller, and
+/// what lies below a panel or beyond the edge can't be dragged back by everyone.
+QRect whollyVisible(const QRect& window)
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    int most = 0;
+    for (const QScreen* one : QGuiApplication::screens()) {
+        const QRect shared = one->geometry().intersected(window);
+        if (!shared.isEmpty() && shared.width() * shared.height() > most) {
+            most = shared.width() * shared.height();
+            screen = one;
+        }
+    }
+    const QRect room = screen->availableGeometry();
+    QRect placed(window.topLeft(), window.size().boundedTo(room.size()));
+    placed.moveLeft(std::clamp(placed.left(), room.left(), room.right() + 1 - placed.width()));
+    placed.moveTop(std::clamp(placed.top(), room.top(), room.bottom() + 1 - placed.height()));
+    return placed;
+}
+
+QRect inPixels(const TwipsRect& place)
+{
+    return {toPixels(place.Left), toPixels(place.Top), toPixels(place.Width),
+            toPixels(place.Height)};
+}
+
 } // namespace
 
 void Proc시동크기위치설정(RegistryStore& registry, const GeometryRow& row, QWidget& window)
 {
     const TwipsRect place = readGeometry(registry, row, screens(), designOf(window));
-    window.resize(toPixels(place.Width), toPixels(place.Height));
-    window.move(toPixels(place.Left), toPixels(place.Top));
+    const QRect visible = whollyVisible(inPixels(place));
+    window.resize(visible.size());
+    window.move(visible.topLeft());
     if (readMaximized(registry, row))
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
     new FrameWatch(window);
@@ -90,7 +119,7 @@ void Proc시동크기위치설정(RegistryStore& registry, const GeometryRow& ro
 void restorePosition(RegistryStore& registry, const GeometryRow& row, QWidget& window)
 {
     const TwipsRect place = readPosition(registry, row, screens(), designOf(window));
-    window.move(toPixels(place.Left), toPixels(place.Top));
+    window.move(whollyVisible(inPixels(place)).topLeft());
 }
 
 void saveFormGeometry(RegistryStore& registry, const GeometryRow& row, const QWidget& window)

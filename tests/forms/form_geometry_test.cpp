@@ -59,6 +59,22 @@ TEST_F(FormGeometryTest, AWindowOnASecondScreenComesBackThere)
     EXPECT_EQ(next.geometry(), QRect(100, 130, 600, 450));
 }
 
+TEST_F(FormGeometryTest, AWindowOfALargerScreenComesBackWhollyVisible)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const QRect& former : {QRect(500, 600, 700, 500), QRect(1200, 900, 1900, 1000),
+                                QRect(-3, 700, 500, 450), QRect(700, 30, 600, 450)}) {
+        window.setGeometry(former);
+        saveFormGeometry(registry, geometry::kBibleSearch, window);
+        QWidget next;
+        Proc시동크기위치설정(registry, geometry::kBibleSearch, next);
+        const QRect place = next.geometry();
+        EXPECT_TRUE(screen.contains(place) ||
+                    QGuiApplication::screens().back()->availableGeometry().contains(place))
+            << place.x() << ' ' << place.y() << ' ' << place.width() << ' ' << place.height();
+    }
+}
+
 TEST_F(FormGeometryTest, AMaximisedWindowComesBackSoAndRestoresToWhereItStood)
 {
     Proc시동크기위치설정(registry, geometry::kBibleSearch, window);
