@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "platform/printing/print_page.h"
+
+#include <QPainter>
+
+namespace lumen {
+namespace {
+
+void paint(QPainter& painter, const PageText& text)
+{
+    for (const PageGlyphs& glyphs : text.glyphs) {
+        painter.setPen(glyphs.color);
+        painter.drawGlyphRun(text.origin, glyphs.run);
+    }
+}
+
+void paint(QPainter& painter, const PageFill& fill)
+{
+    painter.fillRect(fill.box, fill.color);
+}
+
+void paint(QPainter& painter, const PagePicture& picture)
+{
+    painter.drawImage(picture.box, picture.picture);
+}
+
+} // namespace
+
+QRectF boxOf(const PageItem& item)
+{
+    return std::visit([](const auto& shown) { return shown.box; }, item);
+}
+
+PageItem movedBy(PageItem item, const QPointF& offset)
+{
+    std::visit([&offset](auto& shown) { shown.box.translate(offset); }, item);
+    if (auto* const text = std::get_if<PageText>(&item))
+        text->origin += offset;
+    return item;
+}
+
+void paintPage(QPainter& painter, const PrintPage& page)
+{
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRectF visible = painter.hasClipping() ? painter.clipBoundingRect() : QRectF();
+    for (const PageItem& item : page.items)
+        if (visible.isEmpty() || boxOf(item).intersects(visible))
+            std::visit([&painter](const auto& shown) { paint(painter, shown); }, item);
+}
+
+} // namespace lumen
