@@ -12,9 +12,9 @@ World::World(DriveFolders folders)
       m_registry(settingsFile()), m_shell(m_drives),
       m_fonts(m_drives, programFontFolders(m_programFolder)),
       m_help(m_shell, helpFolders(m_programFolder)),
-      m_services{m_messages,  m_fileDialogs, m_modal, m_clock,     m_shell,
-                 m_clipboard, m_drives,      m_files, m_processes, m_fonts,
-                 m_help,      m_registry,    m_jet,   m_mail,      m_secrets}
+      m_services{m_messages, m_fileDialogs, m_modal,     m_clock,   m_shell, m_clipboard,
+                 m_drives,   m_files,       m_processes, m_fonts,   m_help,  m_registry,
+                 m_jet,      m_mail,        m_secrets,   m_printers}
 {
 }
 

@@ -16,6 +16,7 @@
 #include "platform/files/virtual_drives.h"
 #include "platform/mail/curl_mail_sender.h"
 #include "platform/mail/desktop_secret_store.h"
+#include "platform/printing/qt_printers.h"
 #include "platform/registry/registry_store.h"
 
 namespace lumen {
@@ -49,6 +50,7 @@ private:
     FileHtmlHelp m_help;
     CurlMailSender m_mail;
     DesktopSecretStore m_secrets;
+    QtPrinters m_printers;
     Services m_services;
 };
 

@@ -32,6 +32,17 @@ struct InstalledFlags
     bool hasVersion(int code) const { return versions.count(code) > 0; }
 };
 
+/// What a window hands over to the preview and its dialog.
+struct PrintState
+{
+    QString PrintSource;     ///< which document is laid out; kept after the preview has closed
+    bool PrintWhole = true;  ///< else the selected part alone
+    int PrintFromPage = 0;   ///< from 1; 0 stands for all pages
+    int PrintToPage = 0;
+    bool PrintAccepted = false; ///< the dialog was left by its print button
+    int PrintCopies = 1;
+};
+
 /// What the windows share; made in `Main` and passed by reference.
 struct AppState
 {
@@ -43,6 +54,7 @@ struct AppState
     FontSettings fonts = defaultFontSettings();
     /// True adds a blank line at the head of the text view.
     bool LanguageBarRunning = false;
+    PrintState print;
 };
 
 } // namespace lumen

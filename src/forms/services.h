@@ -14,6 +14,7 @@ class JetEngine;
 class MailSender;
 class MessageBoxes;
 class Modal;
+class Printers;
 class ProcessList;
 class RegistryStore;
 class SecretStore;
@@ -37,6 +38,7 @@ struct Services
     JetEngine& jet;
     MailSender& mail;
     SecretStore& secrets;
+    Printers& printers;
 };
 
 } // namespace lumen

@@ -50,9 +50,9 @@ QString TestFolders::data(const QString& name) const
 
 TestServices::TestServices(bool withDisc)
     : drives(driveFolders(folders, withDisc)), jet(drives, filePolicy, importOptions()),
-      files(drives, jet), services{messages,  fileDialogs, modal, clock,     shell,
-                                   clipboard, drives,      files, processes, fonts,
-                                   help,      registry,    jet,   mail,      secrets}
+      files(drives, jet), services{messages, fileDialogs, modal,     clock,   shell, clipboard,
+                                   drives,   files,       processes, fonts,   help,  registry,
+                                   jet,      mail,        secrets,   printers}
 {
     state.AppPath = drives.appPath();
     state.CdDrive = FindCdDrive(drives);

@@ -10,6 +10,7 @@
 #include "support/scripted_dialogs.h"
 #include "support/scripted_mail_sender.h"
 #include "support/scripted_message_boxes.h"
+#include "support/scripted_printers.h"
 #include "support/test_platform.h"
 
 #include <QString>
@@ -68,6 +69,7 @@ public:
     RecordingHelp help;
     ScriptedMailSender mail;
     MemorySecretStore secrets;
+    ScriptedPrinters printers;
     /// AppPath and CdDrive are set; installed is what CheckData makes of the folder when asked.
     AppState state;
 
