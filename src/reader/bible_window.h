@@ -129,6 +129,7 @@ private:
     void applyColors();
     void setBarVisible(QStringView barTool, bool visible);
     void openPage(QStringView file);
+    void printChapter();
     void copySelection(OriginalText originals);
     bool holdsVerses(const QWidget* control) const;
     bool editVerses(const QWidget* control, EditCommand command);

@@ -10,7 +10,9 @@
 #include "platform/dialogs/message_boxes.h"
 #include "platform/files/shell.h"
 #include "platform/registry/registry_store.h"
+#include "print/preview_window.h"
 #include "reader/bible_window.h"
+#include "reader/chapter_print.h"
 #include "reader/messages.h"
 #include "reader/move/hot_move_window.h"
 #include "reader/reader_tools.h"
@@ -152,6 +154,7 @@ void frm성서::bindTools()
     bindMoveTools();
     bindWindowTools();
 
+    m_tools.on(u"ID_인쇄", [this] { printChapter(); });
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_종료", [this] { close(); });
     m_editMenu.bind(m_tools);
@@ -259,6 +262,14 @@ void frm성서::bindWindowTools()
     for (const ReferencePage& page : kReferencePages)
         m_tools.on(page.tool, [this, file = page.file] { openPage(file); });
     bindHelpMenu(m_tools, m_services, this, u"Lumens_Intro.htm");
+}
+
+void frm성서::printChapter()
+{
+    PrintRequest request = chapterRequest(model.book(), model.chapter());
+    request.hasSelection = m_views.hasSelection();
+    request.layOut = [this](VSPrinter& vp, bool whole) { m_views.layOutForPrint(vp, whole); };
+    openPreview(m_services, m_state.print, std::move(request), this);
 }
 
 void frm성서::openHomePage()

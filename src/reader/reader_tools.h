@@ -23,7 +23,7 @@ inline constexpr EditToolIds kReaderEditTools{.copyUnicode = u"ID_UnicodeCopy"};
 inline constexpr std::array kReaderFileMenu{
     // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", u"", ToolState::Later},
+    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
     ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},

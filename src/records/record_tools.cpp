@@ -11,8 +11,8 @@ constexpr std::array kFileMenu{
     // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_저장", u"저장(&S)", ToolKind::Button, u"ID_파일", u"Ctrl+S", u"save"},
-    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", u"", ToolState::Later},
-    ToolRow{u"ID_전체자료인쇄", u"전체 자료 인쇄(&A)...", ToolKind::Button, u"ID_파일", u"", u"", ToolState::Later},
+    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},
+    ToolRow{u"ID_전체자료인쇄", u"전체 자료 인쇄(&A)...", ToolKind::Button, u"ID_파일"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
     ToolRow{u"ID_Export", u"추출(&E)", ToolKind::Menu, u"ID_파일"},
     ToolRow{u"ID_MS워드로추출", u"MS 워드로 추출(&W)...", ToolKind::Button, u"ID_Export"},

@@ -94,6 +94,11 @@ private:
     void changed(RecordPart part);
     void showPosition();
 
+    // record_window_print.cpp
+    void printRecord();
+    void printAllRecords();
+    void printEach(int count);
+
     // record_window_format.cpp: what the tools do to the current box
     void ProcUpdateToolBar();
     void Proc선택해제();

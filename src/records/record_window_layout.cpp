@@ -218,6 +218,8 @@ void RecordWindow::bindRecordTools()
     m_tools.on(tools.create.id, [this] { addRecord(); });
     m_tools.on(tools.remove.id, [this] { removeRecord(); });
     m_tools.on(u"ID_검색", [this] { openSearch(); });
+    m_tools.on(u"ID_인쇄", [this] { printRecord(); });
+    m_tools.on(u"ID_전체자료인쇄", [this] { printAllRecords(); });
     m_tools.on(u"ID_History", [this] { openHistory(); });
     m_tools.on(tools.list.id, [this] { openSearch().showAll(); });
     const std::pair<QStringView, RecordMove> moves[] = {

@@ -35,4 +35,10 @@ inline constexpr MessageText kShiftKeyOnly{u"안내",
                                            u"직접 키보드로 누르시기 바랍니다.",
                                            64};
 
+inline constexpr MessageText kPrintMany{u"확인",
+                                        u"현재 검색된 내용이 많아 이를 미리보기 및 인쇄하는데는 "
+                                        u"많은 시간이 소요됩니다. 시스템에 따라 수분 "
+                                        u"이상이 소요될 수도 있습니다. 인쇄를 하시겠습니까?",
+                                        52};
+
 } // namespace lumen::messages

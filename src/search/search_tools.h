@@ -17,8 +17,8 @@ inline constexpr EditToolIds kSearchEditTools{.paste = u"ID_붙여넣기"};
 inline constexpr std::array kSearchFileMenu{
     // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_미리보기", u"미리보기(&V)...", ToolKind::Button, u"ID_파일", u"Ctrl+Shift+P", u"", ToolState::Later},
-    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", u"", ToolState::Later},
+    ToolRow{u"ID_미리보기", u"미리보기(&V)...", ToolKind::Button, u"ID_파일", u"Ctrl+Shift+P"},
+    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
     ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},

@@ -91,6 +91,8 @@ void frm성서검색::addTools()
 
 void frm성서검색::bindTools()
 {
+    for (const QStringView id : {u"ID_미리보기", u"ID_인쇄"})
+        m_tools.on(id, [this] { printResult(); });
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_종료", [] { QApplication::closeAllWindows(); });
     m_editMenu.bind(m_tools);
@@ -289,6 +291,8 @@ void frm성서검색::showToolStates()
         atbar.tool(kScopes[static_cast<std::size_t>(index)].toolId)
             .setChecked(m_model.scope() == index);
     atbar.checkOnly(u"ID_대역본0-", u"ID_대역본0-"_s + QString::number(m_model.code()));
+    for (const QStringView id : {u"ID_미리보기", u"ID_인쇄"})
+        atbar.tool(id).setEnabled(tab != SearchTab::Parsing && m_model.count() > 0);
 }
 
 } // namespace lumen

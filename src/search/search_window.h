@@ -89,6 +89,10 @@ private:
     void showPage();
     void openVerse(const QString& reference);
 
+    // search_print.cpp
+    QString printedQuery() const;
+    void printResult();
+
     Services& m_services;
     AppState& m_state;
     ReaderPlace& m_reader;

@@ -199,15 +199,18 @@ void fitForPaper(QTextDocument& document, double width, double height)
 {
     std::vector<Change> changes;
     std::vector<int> hebrew; // positions of blocks
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        int letters = 0; // of Hebrew
         for (auto at = block.begin(); !at.atEnd(); ++at) {
             const QTextFragment fragment = at.fragment();
             if (const auto change = changeOf(fragment, document, width, height))
                 changes.push_back(*change);
-            if (isHebrewFamily(fragment.charFormat().fontFamilies().toStringList().value(0)) &&
-                at == block.begin())
-                hebrew.push_back(block.position());
+            if (isHebrewFamily(fragment.charFormat().fontFamilies().toStringList().value(0)))
+                letters += fragment.length();
         }
+        if (2 * letters > block.length())
+            hebrew.push_back(block.position());
+    }
     QTextCursor cursor(&document);
     for (const int position : hebrew) {
         cursor.setPosition(position);

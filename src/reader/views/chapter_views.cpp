@@ -3,6 +3,11 @@
 
 #include "platform/controls/grid/flex_grid.h"
 #include "platform/controls/text/text_control.h"
+#include "platform/printing/vs_printer.h"
+#include "reader/chapter_print.h"
+
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 using namespace Qt::StringLiterals;
 
@@ -29,17 +34,22 @@ void ChapterViews::show()
         m_model.text().empty() ? Shown() : Shown{m_model.book(), m_model.chapter(), m_model.view()};
 }
 
-void ChapterViews::showTable()
+QStringList ChapterViews::tableHeaders() const
 {
     QStringList headers;
     for (const ChapterSource& source : m_model.text()) {
         const VersionChoice& choice = m_model.choice(source.slot);
         headers << choice.items().at(choice.previousIndex()).label;
     }
+    return headers;
+}
+
+void ChapterViews::showTable()
+{
     if (m_model.text().empty())
         m_tableView.clear();
     else
-        m_tableView.show(m_model.text(), headers, tableStyle());
+        m_tableView.show(m_model.text(), tableHeaders(), tableStyle());
 }
 
 void ChapterViews::showPreview(TextControl& tx미리보기, const std::vector<ChapterSource>& sources)
@@ -47,6 +57,36 @@ void ChapterViews::showPreview(TextControl& tx미리보기, const std::vector<Ch
     ChapterStyle style = textStyle();
     style.kind = DocumentKind::Preview;
     TextView(tx미리보기).show(composeChapter(sources, style));
+}
+
+bool ChapterViews::hasSelection() const
+{
+    return isText() ? m_txCont.SelLength() > 0 : !m_tableView.selectedRange().empty();
+}
+
+void ChapterViews::layOutForPrint(VSPrinter& vp, bool whole)
+{
+    if (!isText()) {
+        std::set<int> verses;
+        for (const SelectedVerse& verse : whole ? std::vector<SelectedVerse>() : selectedVerses())
+            verses.insert(verse.verse);
+        layOutVerses(vp, chapterSheet(m_model.text(), tableHeaders(), tableStyle(), verses));
+        return;
+    }
+    if (!whole) {
+        QTextDocument part;
+        QTextCursor(&part).insertFragment(m_txCont.textCursor().selection());
+        vp.addDocument(part);
+        return;
+    }
+    ChapterStyle style = textStyle();
+    style.kind = DocumentKind::Preview;
+    style.languageBar = false;
+    // On paper Hebrew is Unicode, which finds its lines by itself.
+    style.divideHebrew = [](const QString& stored, const QString&, int, const VerseHead&) {
+        return stored;
+    };
+    vp.addRtf(composeChapter(m_model.text(), style).rtf);
 }
 
 int ChapterViews::currentVerse()

@@ -14,6 +14,7 @@ namespace lumen {
 
 class FlexGrid;
 class TextControl;
+class VSPrinter;
 
 /// The chapter in the view that the model names, in the look that the settings have. Another look
 /// of the same chapter keeps verse, selection and scroll place.
@@ -26,6 +27,9 @@ public:
 
     /// Paints what the model holds.
     void show();
+    /// The chapter on show for paper: all of it, or what the view holds selected.
+    void layOutForPrint(VSPrinter& vp, bool whole);
+    bool hasSelection() const;
     /// Fills a control with a chapter as the print preview takes it.
     void showPreview(TextControl& tx미리보기, const std::vector<ChapterSource>& sources);
 
@@ -63,6 +67,7 @@ private:
     ChapterStyle textStyle() const;
     TableStyle tableStyle() const;
     QString divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf) const;
+    QStringList tableHeaders() const;
     void showTable();
 
     TextControl& m_txCont;

@@ -10,7 +10,9 @@
 #include "platform/dialogs/message_boxes.h"
 #include "platform/files/clock.h"
 #include "platform/registry/registry_store.h"
+#include "print/preview_window.h"
 #include "records/messages.h"
+#include "records/record_print.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -33,7 +35,7 @@ constexpr int kNextFill = 8;
 constexpr std::array kFileMenu{
     // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
-    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P", u"", ToolState::Later},
+    ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},
     ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},
@@ -104,6 +106,7 @@ void RecordSearchWindow::addTools()
 
 void RecordSearchWindow::bindTools()
 {
+    m_tools.on(u"ID_인쇄", [this] { printResult(); });
     m_tools.on(u"ID_닫기", [this] { close(); });
     m_tools.on(u"ID_종료", [] { QApplication::closeAllWindows(); });
     m_editMenu.bind(m_tools);
@@ -351,6 +354,22 @@ void RecordSearchWindow::closeEvent(QCloseEvent* event)
     m_search.close();
     flex결과->setRows(1);
     QMainWindow::closeEvent(event);
+}
+
+void RecordSearchWindow::printResult()
+{
+    PrintRequest request;
+    request.source = m_profile.searchPrintSource.toString();
+    request.footerLeft = m_profile.caption.toString() + u" 검색 결과 "_s;
+    request.docName = m_profile.caption.toString() + u" 검색 결과"_s;
+    request.hasSelection = flex결과->Row() > 0;
+    request.layOut = [this](VSPrinter& vp, bool whole) {
+        const int last = std::max(flex결과->Row(), flex결과->RowSel());
+        const int first = std::min(flex결과->Row(), flex결과->RowSel());
+        layOutRecordList(vp, whole ? recordListSheet(m_profile, m_search, 0, m_search.count())
+                                   : recordListSheet(m_profile, m_search, first - 1, last));
+    };
+    openPreview(m_services, m_state.print, std::move(request), this);
 }
 
 } // namespace lumen

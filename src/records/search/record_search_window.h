@@ -68,6 +68,7 @@ private:
     void startSearch();
     void fillRows(int budgetMs);
     void openRow(int row);
+    void printResult();
 
     const RecordProfile& m_profile;
     Services& m_services;
