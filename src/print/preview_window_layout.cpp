@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScrollArea>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,16 @@ void setUpCentimetres(QDoubleSpinBox& spin)
     spin.setSingleStep(kSpinStep);
     spin.setSuffix(u" cm"_s);
     spin.setKeyboardTracking(false);
+}
+
+QPixmap sheetPicture(const QSize& sheet)
+{
+    QPixmap picture(sheet.width() + 1, sheet.height() + 1);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setBrush(Qt::white);
+    painter.drawRect(QRect({0, 0}, sheet));
+    return picture;
 }
 
 void addAll(ComboBox& combo, std::initializer_list<QStringView> texts)
@@ -50,9 +61,8 @@ QWidget* frm미리보기::makePaperBox()
     form->addRow(u"높이(&T)"_s, spnPaperSize(1));
     auto* turns = new QHBoxLayout;
     auto* group = new QButtonGroup(this);
-    constexpr std::array kPictures{u"▯", u"▭"};
     for (int i = 0; i < 2; ++i) {
-        imgOrient(i)->setText(QString::fromUtf16(kPictures[static_cast<std::size_t>(i)]));
+        imgOrient(i)->setPixmap(sheetPicture(i == 0 ? QSize(12, 16) : QSize(16, 12)));
         imgOrient(i)->setAccessibleName(i == 0 ? u"세로로 놓은 용지"_s : u"가로로 놓은 용지"_s);
         turns->addWidget(imgOrient(i));
     }

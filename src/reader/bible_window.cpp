@@ -40,7 +40,6 @@ namespace lumen {
 
 namespace {
 
-constexpr int kTabWidth = 350;       // twips: the indent behind the verse numbers
 constexpr int kSidePaneWidth = 2500; // twips: two buttons abreast
 
 // The splash window's bar at the steps of the start, percent.
@@ -107,7 +106,7 @@ void frm성서::layOut()
     tx미리보기->hide();
     hflex본문->hide();
     hflex본문->setSelectionMode(GridSelection::Rows);
-    txCont->setTabWidth(kTabWidth);
+    txCont->setTabWidth(kChapterTabWidth);
 
     auto* sideLayout = new QVBoxLayout(m_sidePane);
     sideLayout->setContentsMargins(0, 0, 0, 0);

@@ -3,6 +3,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace lumen {
 namespace {
 
@@ -16,7 +18,12 @@ void paint(QPainter& painter, const PageText& text)
 
 void paint(QPainter& painter, const PageFill& fill)
 {
-    painter.fillRect(fill.box, fill.color);
+    // A rule finer than the dots of a screen is a dot wide there.
+    const QTransform scale = painter.transform();
+    QRectF box = fill.box;
+    box.setWidth(std::max(box.width(), 1 / scale.m11()));
+    box.setHeight(std::max(box.height(), 1 / scale.m22()));
+    painter.fillRect(box, fill.color);
 }
 
 void paint(QPainter& painter, const PagePicture& picture)

@@ -94,13 +94,13 @@ struct ColoredRange
     QColor color;
 };
 
-PageText lineItem(const QTextLayout& layout, const QTextLine& line, const QPointF& origin,
+PageText lineItem(const QString& text, const QTextLine& line, const QPointF& origin,
                   const std::vector<ColoredRange>& colors)
 {
     PageText item;
     item.origin = origin;
     item.box = line.naturalTextRect().translated(origin);
-    item.text = layout.text().sliced(line.textStart(), line.textLength());
+    item.text = text.sliced(line.textStart(), line.textLength());
     const int end = line.textStart() + line.textLength();
     for (const ColoredRange& range : colors) {
         const int from = std::max(range.start, line.textStart());
@@ -139,7 +139,7 @@ void addParagraph(TextFlow& flow, const QString& text, const PrintLook& look, do
         const double top = flow.height + line.y();
         FlowBand band{top, top + line.height(), paragraph, {}};
         if (line.textLength() > 0)
-            band.items.emplace_back(lineItem(layout, line, {0, flow.height}, all));
+            band.items.emplace_back(lineItem(text, line, {0, flow.height}, all));
         flow.bands.push_back(std::move(band));
     }
     flow.height += y;
@@ -355,7 +355,7 @@ TextFlow flowOfDocument(QTextDocument& document, double width, double pageHeight
             const double top = origin.y() + line.y();
             FlowBand band{top, top + line.height(), paragraph, {}};
             if (line.textLength() > 0)
-                band.items.emplace_back(lineItem(*block.layout(), line, origin, colors));
+                band.items.emplace_back(lineItem(block.text(), line, origin, colors));
             flow.bands.push_back(std::move(band));
         }
     }
@@ -371,7 +371,7 @@ TextFlow flowOfDocument(QTextDocument& document, double width, double pageHeight
     return flow;
 }
 
-TextFlow flowOfRtf(const QString& rtf, double width, double pageHeight)
+TextFlow flowOfRtf(const QString& rtf, double width, double pageHeight, int tabWidth)
 {
     QTextDocument document;
     document.setUndoRedoEnabled(false);
@@ -379,7 +379,10 @@ TextFlow flowOfRtf(const QString& rtf, double width, double pageHeight)
     font.setPointSizeF(10);
     document.setDefaultFont(font);
     if (rtf.startsWith(u"{\\rtf"))
-        readRtf(toRtfBytes(rtf), document, {.lastPar = LastPar::EndsDocument});
+        readRtf(toRtfBytes(rtf), document,
+                {.tabWidth = tabWidth,
+                 .pixelsPerTwip = kPixelsPerTwip,
+                 .lastPar = LastPar::EndsDocument});
     else
         document.setPlainText(rtf);
     return flowOfDocument(document, width, pageHeight);

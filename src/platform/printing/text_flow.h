@@ -56,7 +56,7 @@ TextFlow flowOfText(const QString& text, const PrintLook& look, double width);
 /// Lays out a document, which is changed: what a page can't hold shrinks, and letters as above.
 /// `pageHeight` is the height of the room on a page, twips.
 TextFlow flowOfDocument(QTextDocument& document, double width, double pageHeight);
-/// The same of an RTF text as a database keeps it.
-TextFlow flowOfRtf(const QString& rtf, double width, double pageHeight);
+/// The same of an RTF text as a database keeps it. Tab stops in twips; 0: the text's own.
+TextFlow flowOfRtf(const QString& rtf, double width, double pageHeight, int tabWidth = 0);
 
 } // namespace lumen

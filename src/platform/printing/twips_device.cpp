@@ -9,6 +9,7 @@ namespace lumen {
 namespace {
 
 constexpr int kLargeSide = 1 << 24; // twips: no text is as long
+constexpr int kColorBits = 24;
 constexpr double kMmPerInch = 25.4;
 constexpr double kLeastWidth = 5; // twips: a quarter of a point, the finest rule that prints
 
@@ -28,9 +29,15 @@ int TwipsDevice::metric(PaintDeviceMetric metric) const
     case PdmPhysicalDpiX:
     case PdmPhysicalDpiY:
         return kTwipsPerInch;
-    default:
-        return QPaintDevice::metric(metric);
+    case PdmDevicePixelRatioScaled:
+        return static_cast<int>(devicePixelRatioFScale());
+    case PdmNumColors:
+    case PdmDepth:
+        return kColorBits;
+    case PdmDevicePixelRatio:
+        break;
     }
+    return 1;
 }
 
 void FillRecorder::updateState(const QPaintEngineState& now)

@@ -226,9 +226,9 @@ void VSPrinter::addText(const QString& text, const PrintLook& look)
     addFlow(flowOfText(text, look, bodyWidth()), MarginLeft);
 }
 
-void VSPrinter::addRtf(const QString& rtf)
+void VSPrinter::addRtf(const QString& rtf, int tabWidth)
 {
-    addFlow(flowOfRtf(rtf, bodyWidth(), bodyBottom() - bodyTop()), MarginLeft);
+    addFlow(flowOfRtf(rtf, bodyWidth(), bodyBottom() - bodyTop(), tabWidth), MarginLeft);
 }
 
 void VSPrinter::addDocument(QTextDocument& document)

@@ -84,7 +84,8 @@ public:
     double bodyBottom() const;
 
     void addText(const QString& text, const PrintLook& look);
-    void addRtf(const QString& rtf);
+    /// Tab stops in twips; 0: the text's own.
+    void addRtf(const QString& rtf, int tabWidth = 0);
     void addDocument(QTextDocument& document);
     void addTable(const PrintTable& table);
     /// Cells parted by the first sign of TableSep, rows by its second.

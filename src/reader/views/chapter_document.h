@@ -54,6 +54,9 @@ using HebrewDivider = std::function<QString(const QString& stored, const QString
 /// stand in square brackets.
 enum class DocumentKind { Reader, Preview };
 
+/// Twips: the indent behind the verse numbers.
+inline constexpr int kChapterTabWidth = 350;
+
 struct ChapterStyle
 {
     RtfSettings rtf;

@@ -86,7 +86,7 @@ void ChapterViews::layOutForPrint(VSPrinter& vp, bool whole)
     style.divideHebrew = [](const QString& stored, const QString&, int, const VerseHead&) {
         return stored;
     };
-    vp.addRtf(composeChapter(m_model.text(), style).rtf);
+    vp.addRtf(composeChapter(m_model.text(), style).rtf, kChapterTabWidth);
 }
 
 int ChapterViews::currentVerse()
