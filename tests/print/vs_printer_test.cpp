@@ -160,7 +160,7 @@ TEST_F(VsPrinterTest, RtfKeepsTablesPicturesAndTheUnicodeOfHebrew)
     PrintLook hebrew;
     hebrew.family = u"OrvaneHeb"_s;
     vp.StartDoc();
-    vp.addText(hebrewToCodes(u"בְּרֵאשִׁית", HebrewForm::Pointed).text, hebrew);
+    vp.addText(hebrewToCodes(u"בְּרֵאשִׁית", HebrewForm::Pointed).codes, hebrew);
     vp.EndDoc();
     static const QRegularExpression latin(u"[A-Za-z]"_s);
     EXPECT_FALSE(allText().contains(latin)) << allText().toStdString();
