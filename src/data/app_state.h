@@ -35,9 +35,9 @@ struct InstalledFlags
 /// What a window hands over to the preview and its dialog.
 struct PrintState
 {
-    QString PrintSource;     ///< which document is laid out; kept after the preview has closed
-    bool PrintWhole = true;  ///< else the selected part alone
-    int PrintFromPage = 0;   ///< from 1; 0 stands for all pages
+    QString PrintSource;    ///< which document is laid out; kept after the preview has closed
+    bool PrintWhole = true; ///< else the selected part alone
+    int PrintFromPage = 0;  ///< from 1; 0 stands for all pages
     int PrintToPage = 0;
     bool PrintAccepted = false; ///< the dialog was left by its print button
     int PrintCopies = 1;

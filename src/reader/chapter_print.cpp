@@ -16,8 +16,8 @@ PrintLook lookOf(const ChapterSource& source, const TableStyle& style)
     look.family = font.font;
     look.points = font.size > 0 ? font.size : look.points;
     look.color = toColor(source.slot == 0
-                              ? style.colors.DefVerColor
-                              : style.colors.verColors[static_cast<std::size_t>(source.slot - 1)]);
+                             ? style.colors.DefVerColor
+                             : style.colors.verColors[static_cast<std::size_t>(source.slot - 1)]);
     return look;
 }
 
