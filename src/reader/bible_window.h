@@ -13,6 +13,7 @@
 #include "platform/controls/named.h"
 #include "platform/controls/splitter.h"
 #include "platform/controls/text/text_control.h"
+#include "print/print_request.h"
 #include "reader/bookmarks/bookmark_file.h"
 #include "reader/bookmarks/bookmark_pane.h"
 #include "reader/move/quick_move_pane.h"
@@ -49,6 +50,8 @@ public:
 
     /// Shows the text that the model holds, in the look that the settings have.
     void FillBibleText();
+    /// The chapter on show, as the preview asks for it.
+    PrintRequest printRequest();
     /// Fills tx미리보기 with the chapter as the print preview takes it.
     void Proc텍스트미리보기채우기();
 

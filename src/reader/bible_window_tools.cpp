@@ -264,12 +264,17 @@ void frm성서::bindWindowTools()
     bindHelpMenu(m_tools, m_services, this, u"Lumens_Intro.htm");
 }
 
-void frm성서::printChapter()
+PrintRequest frm성서::printRequest()
 {
     PrintRequest request = chapterRequest(model.book(), model.chapter());
     request.hasSelection = m_views.hasSelection();
     request.layOut = [this](VSPrinter& vp, bool whole) { m_views.layOutForPrint(vp, whole); };
-    openPreview(m_services, m_state.print, std::move(request), this);
+    return request;
+}
+
+void frm성서::printChapter()
+{
+    openPreview(m_services, m_state.print, printRequest(), this);
 }
 
 void frm성서::openHomePage()
