@@ -31,13 +31,15 @@ constexpr double kPixelsPerTwip = 96.0 / kTwipsPerInch;
 // What touches by rounding doesn't overlap.
 constexpr double kSlack = 1;
 
-/// The letters of the modules' own fonts are codes; on paper, too, stands what others can read.
+/// The letters of the modules' own fonts are codes; on paper, too, stands what others can read. The
+/// fonts are such whose every glyph has a character: where two letters become one glyph, a PDF file
+/// can't give them back.
 QString paperFamily(const QString& family)
 {
     if (family == u"OrvaneHeb" || family == u"OrvaneHebC")
-        return u"Ezra SIL"_s;
+        return u"Noto Serif Hebrew"_s;
     if (family == u"OrvaneGrk")
-        return u"Galatia SIL"_s;
+        return u"Noto Serif"_s;
     return family;
 }
 
