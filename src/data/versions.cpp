@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace lumen {
 namespace {
 
@@ -144,6 +146,25 @@ const VersionRow& versionRow(int code)
 {
     const auto row = std::ranges::find(kRows, code, &VersionRow::code);
     return row == kRows.end() ? unknownRow(code) : *row;
+}
+
+QString versionLanguage(int code)
+{
+    constexpr int kVulgate = 214;
+    const VersionRow& row = versionRow(code);
+    if (row.script == Script::Hebrew)
+        return u"히브리어"_s;
+    if (row.script == Script::Greek)
+        return u"헬라어"_s;
+    if (row.group == VersionGroup::Korean || row.face == &typeface::kUserKorean)
+        return u"한국어"_s;
+    if (row.group == VersionGroup::User || row.name.isEmpty())
+        return {};
+    if (code == kVulgate)
+        return u"라틴어"_s;
+    // The names of versions in other languages than English begin with theirs.
+    const QString first = row.name.toString().section(u' ', 0, 0);
+    return first.endsWith(u'어') ? first : u"영어"_s;
 }
 
 int versionFor(VersionDuty duty)

@@ -92,6 +92,8 @@ struct VersionRow
 std::span<const VersionRow> versionRows();
 /// The row of a code. A code outside the catalogue has a row without a name.
 const VersionRow& versionRow(int code);
+/// The language of a version as a reader would name it; "" of a user slot that takes any.
+QString versionLanguage(int code);
 /// The code of the version that has a duty.
 int versionFor(VersionDuty duty);
 

@@ -281,6 +281,34 @@ TEST_F(EveryWindowTest, EveryControlHasANameAndARole)
     });
 }
 
+TEST_F(EveryWindowTest, VersesAreSpokenWithTheirNumbersAndLanguages)
+{
+    reader.atbar.tool(u"ID_대역본1-301").action()->trigger();
+    QAccessibleInterface* const page = QAccessible::queryAccessibleInterface(reader.txCont);
+    QAccessibleTextInterface* const text = page->textInterface();
+    ASSERT_NE(text, nullptr);
+    EXPECT_TRUE(text->text(0, text->characterCount()).contains(TinyData::text(101, 0, 1, 2)));
+    EXPECT_EQ(page->text(QAccessible::Description),
+              u"창세기 1장: 개역한글, 한국어; 대역본1 - BHS, 히브리어"_s);
+
+    reader.atbar.tool(u"ID_테이블형식").action()->trigger();
+    QAccessibleInterface* const grid = QAccessible::queryAccessibleInterface(reader.hflex본문);
+    int hebrew = 0;
+    for (int row = 0; row < grid->tableInterface()->rowCount(); ++row) {
+        const auto spoken = [&](int col, QAccessible::Text what) {
+            return grid->tableInterface()->cellAt(row, col)->text(what);
+        };
+        const int verse = spoken(1, QAccessible::Name).toInt();
+        if (verse == 0)
+            continue; // a heading
+        EXPECT_EQ(spoken(2, QAccessible::Description), u"%1절, 개역한글, 한국어"_s.arg(verse));
+        EXPECT_TRUE(spoken(2, QAccessible::Name).contains(TinyData::text(101, 0, 1, verse)));
+        for (const QChar letter : spoken(3, QAccessible::Name))
+            hebrew += letter.script() == QChar::Script_Hebrew;
+    }
+    EXPECT_GT(hebrew, 100) << "not the codes of its font";
+}
+
 TEST_F(EveryWindowTest, NoTextIsCut)
 {
     lookAtAll([](QWidget& window) {

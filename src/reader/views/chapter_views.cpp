@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "reader/views/chapter_views.h"
 
+#include "canon/canon_table.h"
 #include "platform/controls/grid/flex_grid.h"
 #include "platform/controls/text/text_control.h"
 #include "platform/printing/vs_printer.h"
@@ -26,7 +27,7 @@ void ChapterViews::show()
     if (kept.verse == 0)
         m_grid.setTag(u"1"_s);
     if (isText())
-        m_textView.show(composeChapter(m_model.text(), textStyle()));
+        showText();
     else
         showTable();
     keepPlace(kept);
@@ -34,22 +35,34 @@ void ChapterViews::show()
         m_model.text().empty() ? Shown() : Shown{m_model.book(), m_model.chapter(), m_model.view()};
 }
 
-QStringList ChapterViews::tableHeaders() const
+QStringList ChapterViews::versionNames() const
 {
-    QStringList headers;
+    QStringList names;
     for (const ChapterSource& source : m_model.text()) {
         const VersionChoice& choice = m_model.choice(source.slot);
-        headers << choice.items().at(choice.previousIndex()).label;
+        names << choice.items().at(choice.previousIndex()).label;
     }
-    return headers;
+    return names;
+}
+
+void ChapterViews::showText()
+{
+    m_textView.show(composeChapter(m_model.text(), textStyle()));
+    const QStringList names = versionNames();
+    QStringList spoken;
+    for (std::size_t at = 0; at < m_model.text().size(); ++at)
+        spoken << spokenVersion(names[qsizetype(at)], m_model.text()[at].code);
+    m_txCont.setAccessibleDescription(
+        u"%1 %2장: "_s.arg(bookName(m_model.book())).arg(m_model.chapter()) + spoken.join(u"; "));
 }
 
 void ChapterViews::showTable()
 {
+    const QStringList headers = versionNames();
     if (m_model.text().empty())
         m_tableView.clear();
     else
-        m_tableView.show(m_model.text(), tableHeaders(), tableStyle());
+        m_tableView.show(m_model.text(), headers, tableStyle());
 }
 
 void ChapterViews::showPreview(TextControl& tx미리보기, const std::vector<ChapterSource>& sources)
@@ -70,7 +83,7 @@ void ChapterViews::layOutForPrint(VSPrinter& vp, bool whole)
         std::set<int> verses;
         for (const SelectedVerse& verse : whole ? std::vector<SelectedVerse>() : selectedVerses())
             verses.insert(verse.verse);
-        layOutVerses(vp, chapterSheet(m_model.text(), tableHeaders(), tableStyle(), verses));
+        layOutVerses(vp, chapterSheet(m_model.text(), versionNames(), tableStyle(), verses));
         return;
     }
     if (!whole) {

@@ -67,7 +67,8 @@ private:
     ChapterStyle textStyle() const;
     TableStyle tableStyle() const;
     QString divideHebrew(const QString& stored, const HebrewTarget& target, bool asRtf) const;
-    QStringList tableHeaders() const;
+    QStringList versionNames() const;
+    void showText();
     void showTable();
 
     TextControl& m_txCont;

@@ -38,6 +38,12 @@ int textSize(const TableStyle& style, int code)
 
 } // namespace
 
+QString spokenVersion(const QString& name, int code)
+{
+    const QString language = versionLanguage(code);
+    return language.isEmpty() ? name : u"%1, %2"_s.arg(name, language);
+}
+
 TableView::TableView(FlexGrid& hflex본문) : m_grid(hflex본문)
 {
     clear();
@@ -132,9 +138,22 @@ void TableView::show(const std::vector<ChapterSource>& sources, const QStringLis
     if (!sources.empty())
         for (const ChapterVerse& base : sources.front().verses)
             addVerse(sources, base, style);
+    describeCells(sources, headers);
     m_grid.AutoSize();
     if (m_grid.Rows() > 1)
         markRow(qBound(1, m_grid.Tag().toInt(), m_grid.Rows() - 1));
+}
+
+void TableView::describeCells(const std::vector<ChapterSource>& sources, const QStringList& headers)
+{
+    QStringList versions;
+    for (std::size_t at = 0; at < sources.size(); ++at)
+        versions << spokenVersion(headers.value(static_cast<qsizetype>(at)), sources[at].code);
+    m_grid.setDescription([rows = m_verseOfRow, versions](int row, int col) {
+        const QString version = versions.value(col - kFirstVersionColumn);
+        const int verse = row >= 0 && row < int(rows.size()) ? rows[std::size_t(row)] : 0;
+        return verse == 0 || version.isEmpty() ? version : u"%1절, %2"_s.arg(verse).arg(version);
+    });
 }
 
 int TableView::verseRowFrom(int row) const

@@ -27,6 +27,9 @@ struct TableStyle
         divideHebrew;
 };
 
+/// A version as a screen reader names it: with its language.
+QString spokenVersion(const QString& name, int code);
+
 /// The chapter as a table in `hflex본문`: a mark, the verse number and a column for each open
 /// version. The row of the current verse is the grid's Tag.
 class TableView
@@ -76,6 +79,8 @@ private:
                      const TableStyle& style) const;
     void setUpColumns(const std::vector<ChapterSource>& sources, const QStringList& headers,
                       const TableStyle& style);
+
+    void describeCells(const std::vector<ChapterSource>& sources, const QStringList& headers);
 
     FlexGrid& m_grid;
     std::vector<int> m_verseOfRow; // by grid row; 0 for the header and the heading rows

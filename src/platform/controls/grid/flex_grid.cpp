@@ -212,6 +212,11 @@ void FlexGrid::setBackColorAlternate(RgbLong color)
     viewport()->update();
 }
 
+void FlexGrid::setDescription(std::function<QString(int row, int col)> describe)
+{
+    m_model->setDescribe(std::move(describe));
+}
+
 int FlexGrid::ColWidth(int col) const
 {
     return toTwips(columnWidth(col));

@@ -66,6 +66,9 @@ public:
     /// The ground of every other row below the header.
     void setBackColorAlternate(RgbLong color);
 
+    /// What a screen reader says of a cell besides its text.
+    void setDescription(std::function<QString(int row, int col)> describe);
+
     int ColWidth(int col) const;
     void setColWidth(int col, int twips);
     bool ColHidden(int col) const;

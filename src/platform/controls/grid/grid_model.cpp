@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/controls/grid/grid_model.h"
 
+#include "data/version_font.h"
 #include "platform/controls/colors.h"
 
 #include <algorithm>
@@ -301,8 +302,11 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     const int row = index.row() + m_fixedRows;
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::AccessibleTextRole:
         return text(row, index.column());
+    case Qt::AccessibleTextRole: // the codes of the Hebrew and Greek fonts would be spelled out
+        return unicodeOfFont(text(row, index.column()), style(row, index.column()).family);
+    case Qt::AccessibleDescriptionRole:
+        return m_describe ? m_describe(row, index.column()) : QString();
     case Qt::FontRole:
         return font(row, index.column());
     case Qt::TextAlignmentRole:

@@ -7,7 +7,9 @@
 #include <QFont>
 #include <QString>
 
+#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace lumen {
@@ -57,6 +59,9 @@ public:
     /// Cell, then column, then grid; complete but for the colours.
     CellStyle style(int row, int col) const;
     QFont font(int row, int col) const;
+    /// What a screen reader says of a cell besides its text.
+    using Describe = std::function<QString(int row, int col)>;
+    void setDescribe(Describe describe) { m_describe = std::move(describe); }
     void setBaseFont(const QFont& font) { m_baseFont = font; }
 
     /// The first column of a row's merged stretch, -1 when it has none.
@@ -76,6 +81,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    Describe m_describe;
     struct Cell
     {
         QString text;
