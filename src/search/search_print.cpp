@@ -28,16 +28,16 @@ VerseSheet emptySheet(int code, const QString& version, const FontSettings& font
 
 QString frm성서검색::printedQuery() const
 {
-    const QString range = m_model.scopeText();
+    const QString range = m_model.scopeText(); // names itself
     if (m_model.tab() == SearchTab::Power) {
         QStringList terms;
         for (const QLineEdit* const box : {power->txPSearch1, power->txPSearch2, power->txPSearch3})
             if (!box->text().trimmed().isEmpty())
                 terms << box->text().trimmed();
-        return u"검색 조건: "_s + terms.join(u' ') + u" (검색 범위: "_s + range + u')';
+        return u"검색 조건: "_s + terms.join(u' ') + u" ("_s + range + u')';
     }
     const QString query = easy->tx검색->text().trimmed();
-    return u"검색 조건: "_s + query + u" (검색 범위: "_s + range + u')';
+    return u"검색 조건: "_s + query + u" ("_s + range + u')';
 }
 
 void frm성서검색::printResult()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "data/data_store.h"
 #include "platform/controls/twips.h"
+#include "print/preview_window.h"
 #include "records/history/history_dialog.h"
 #include "records/record_window.h"
 #include "support/active_window.h"
@@ -458,6 +459,49 @@ TEST_F(QuietTimeWindowTest, IsTheSameWindowWithWordsOfItsOwn)
     EXPECT_TRUE(window->close());
     EXPECT_EQ(stored(u"적용"_s, 0), u"적용할 것"_s);
     EXPECT_TRUE(QFile::exists(services.folders.root() + u"/OrvaneBackup/QT.mdb"_s));
+}
+
+TEST_F(RecordWindowTest, TheRecordOnTheScreenIsPrintedAndAllGoToThePrinter)
+{
+    open();
+    make({u"첫 설교"_s, u"둘째 설교"_s, u"셋째 설교"_s});
+    write(2, u"포도원 이야기"_s); // not stored yet
+    box(2).select(0, 3);
+    const auto textsOf = [](const std::vector<PrintPage>& pages) {
+        QStringList texts;
+        for (const PrintPage& page : pages)
+            for (const PageItem& item : page.items)
+                if (const auto* const text = std::get_if<PageText>(&item))
+                    texts << text->text;
+        return texts;
+    };
+    services.modal.expect([&](QDialog& shown) {
+        auto& preview = dynamic_cast<frm미리보기&>(shown);
+        const QStringList texts = textsOf(preview.printer.pages());
+        EXPECT_TRUE(texts.contains(u"셋째 설교"_s));
+        EXPECT_TRUE(texts.contains(u"포도원 이야기"_s));
+        preview.Op선택->click();
+        EXPECT_TRUE(textsOf(preview.printer.pages()).contains(u"포도원"_s));
+    });
+    run(u"ID_인쇄"_s);
+
+    services.messages.expect(
+        u"전체 자료 인쇄"_s,
+        u"설교 매니저 데이터 베이스에 수록되어 있는 모든 자료를 인쇄합니다.계속하시겠습니까?"_s,
+        49);
+    run(u"ID_전체자료인쇄"_s);
+    ASSERT_EQ(services.printers.jobs.size(), 3u);
+    EXPECT_EQ(services.printers.jobs[0].title, u"첫 설교"_s);
+    EXPECT_TRUE(textsOf(services.printers.jobs[2].pages).contains(u"포도원 이야기"_s));
+    EXPECT_EQ(status(), u"3/3"_s);
+
+    services.printers.jobs.clear();
+    services.printers.devices = {{services.printers.file, {{}, true}}};
+    services.messages.expectAny(u"전체 자료 인쇄"_s, 49);
+    services.fileDialogs.answerSave(services.folders.root() + u"/all.pdf"_s);
+    run(u"ID_전체자료인쇄"_s);
+    ASSERT_EQ(services.printers.jobs.size(), 1u);
+    EXPECT_EQ(services.printers.jobs[0].pages.size(), 3u);
 }
 
 } // namespace

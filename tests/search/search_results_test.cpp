@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "print/preview_window.h"
 #include "search/search_fixture.h"
 #include "text/original/original_unicode.h"
 #include "text/rtf/rtf_reader.h"
 
+#include <QSet>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -144,6 +146,40 @@ TEST_F(SearchResultsTest, LongHebrewVersesAreDividedButCopiedWhole)
                               hebrewToUnicode(verse.trimmed()));
     EXPECT_EQ(rtfToPlainText(copy.rtf).trimmed(), QString(copy.plain).remove(u'\r'));
     EXPECT_TRUE(copy.html.contains(u"dir=\"rtl\""));
+}
+
+TEST_F(SearchResultsTest, TheResultIsPrintedWholeOrAsTheSelectedRows)
+{
+    open();
+    EXPECT_FALSE(window->atbar.tool(u"ID_인쇄"_s).action()->isEnabled());
+    typeAndEnter(u"tx검색"_s, u"은혜"_s);
+    control<FlexGrid>(u"hflex결과"_s).select(3, 2);
+    const auto printed = [](const VSPrinter& vp) {
+        QStringList texts;
+        for (const PrintPage& page : vp.pages())
+            for (const PageItem& item : page.items)
+                if (const auto* const text = std::get_if<PageText>(&item))
+                    texts << text->text;
+        return texts;
+    };
+    test.modal.expect([&](QDialog& shown) {
+        auto& preview = dynamic_cast<frm미리보기&>(shown);
+        const QStringList texts = printed(preview.printer);
+        EXPECT_EQ(texts.first(), u"개역한글 성서 검색 결과"_s);
+        EXPECT_TRUE(texts.contains(u"검색 조건: 은혜 (검색 범위: 전체)"_s))
+            << texts[3].toStdString();
+        const QStringList all = plainScan(korean, u"은혜"_s);
+        EXPECT_EQ(QSet<QString>(all.begin(), all.end()) - QSet<QString>(texts.begin(), texts.end()),
+                  QSet<QString>());
+        preview.Op선택->click();
+        const QStringList part = printed(preview.printer);
+        EXPECT_TRUE(part.contains(references()[1]));
+        EXPECT_TRUE(part.contains(references()[2]));
+        EXPECT_FALSE(part.contains(references()[0]));
+        EXPECT_FALSE(part.contains(references()[3]));
+    });
+    window->atbar.tool(u"ID_인쇄"_s).action()->trigger();
+    EXPECT_EQ(test.modal.shown, QStringList{u"frm미리보기"_s});
 }
 
 } // namespace
