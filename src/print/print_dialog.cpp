@@ -111,7 +111,11 @@ void frm인쇄::layOut()
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(OKButton, QDialogButtonBox::AcceptRole);
     buttons->addButton(CancelButton, QDialogButtonBox::RejectRole);
+    // Enter prints, wherever the focus stands.
+    cmd설정->setAutoDefault(false);
+    CancelButton->setAutoDefault(false);
     OKButton->setDefault(true);
+    OKButton->setFocus();
     auto* form = new QFormLayout(this);
     form->addRow(u"프린터"_s, printer);
     form->addRow(u"인쇄 품질(&Q)"_s, cb인쇄품질);

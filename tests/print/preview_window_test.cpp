@@ -172,7 +172,7 @@ TEST_F(PreviewWindowTest, CopiesRangeAndPartReachThePrinter)
     world.modal.expect([](QDialog& shown) {
         auto& dialog = dynamic_cast<frm인쇄&>(shown);
         dialog.opt선택->click();
-        dialog.OKButton->click();
+        QTest::keyClick(dialog.tx인쇄매수, Qt::Key_Return);
     });
     preview.cmd인쇄->click();
     ASSERT_EQ(world.printers.jobs.size(), 2u);
