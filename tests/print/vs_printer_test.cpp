@@ -164,6 +164,7 @@ TEST_F(VsPrinterTest, RtfKeepsTablesPicturesAndTheUnicodeOfHebrew)
     vp.EndDoc();
     static const QRegularExpression latin(u"[A-Za-z]"_s);
     EXPECT_FALSE(allText().contains(latin)) << allText().toStdString();
+    EXPECT_NEAR(boxOf(vp.pages()[0].items[0]).right(), body().right(), 2);
 }
 
 TEST_F(VsPrinterTest, HeadAndFootKeepTheirRoomWhereMarginsLeaveNone)

@@ -327,6 +327,9 @@ TextFlow flowOfText(const QString& text, const PrintLook& look, double width)
     const QString readable = unicodeOfFont(text, look.family);
     PrintLook shown = look;
     shown.rightToLeft = look.rightToLeft || isHebrewFamily(look.family);
+    // A layout takes sides as they are named, whichever way its text runs.
+    if (shown.rightToLeft && shown.align == Qt::AlignLeft)
+        shown.align = Qt::AlignRight;
     for (const QString& paragraph : readable.split(u'\n'))
         addParagraph(flow, paragraph, shown, std::max(width, kTwipsPerPoint));
     return flow;
