@@ -38,9 +38,11 @@ bool isDrawnHere(const QString& path)
     return reader.text(kMarkKey) == kMark;
 }
 
-QByteArray pngOf(QImage picture)
+QByteArray pngOf(const DrawnMap& map)
 {
+    QImage picture = map.picture;
     picture.setText(kMarkKey, kMark);
+    picture.setText(kMapNamesKey, mapNamesText(map.names));
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
@@ -55,16 +57,10 @@ Result<std::vector<GeoLine>> landOf(const MapSources& maps)
 
 bool addPlaces(const MapTables& tables, const MapSheet& sheet, ModuleStore& store)
 {
-    const MapProjection projection(sheet.box);
-    for (const MapPlace& place : tables.places) {
-        if (!place.weights.contains(sheet.number))
-            continue;
-        const QPoint at = projection.at(place.at).toPoint();
-        if (!store.addRow(u"BibleMapPlace"_s,
-                          {sheet.number, DES::ScrambleField(place.name), at.x(), at.y()}))
-            return false;
-    }
-    return true;
+    return std::ranges::all_of(tables.places, [&](const MapPlace& place) {
+        return !place.weights.contains(sheet.number) ||
+               store.addRow(u"BibleMapPlace"_s, {sheet.number, DES::ScrambleField(place.name)});
+    });
 }
 
 void removeOthers(QDir& folder, const MapTables& tables)
@@ -87,10 +83,7 @@ Result<ModuleReport> fillMaps(const MapSources& maps, ModuleStore& store)
     store.createTable(
         {u"BibleMap"_s, {memoColumn(u"Title"_s), {u"FileNum"_s, FieldType::Short}}, {}});
     store.createTable({u"BibleMapPlace"_s,
-                       {{u"FileNum"_s, FieldType::Short},
-                        memoColumn(u"Name"_s),
-                        {u"Left"_s, FieldType::Short},
-                        {u"Top"_s, FieldType::Short}},
+                       {{u"FileNum"_s, FieldType::Short}, memoColumn(u"Name"_s)},
                        {{u"number"_s, {u"FileNum"_s}}}});
     store.expect(tables.value().sheets.size() + tables.value().places.size());
     for (const MapSheet& sheet : tables.value().sheets)
@@ -137,7 +130,7 @@ Result<QStringList> writeMapFiles(const MapSources& maps, const QString& moduleF
         const DrawnMap map = drawMap(tables.value(), sheet, land.value());
         for (const QString& name : map.leftOut)
             remarks << u"%1: 자리가 없어 쓰지 못한 이름: %2"_s.arg(sheet.title, name);
-        if (const auto written = writeSafely(path, pngOf(map.picture)); !written)
+        if (const auto written = writeSafely(path, pngOf(map)); !written)
             return written.failure();
     }
     removeOthers(folder, tables.value());

@@ -14,13 +14,13 @@ struct MapSources
     QString land{};   ///< fine outlines; where the file is missing, coarse ones of the tables serve
 };
 
-/// The list of the maps, and where their places stand in the pictures, in pixels.
+/// The list of the maps, and the places on each.
 Result<ModuleReport> fillMaps(const MapSources& maps, ModuleStore& store);
 
 /// Whether each map has its picture.
 bool mapFilesAreThere(const MapSources& maps, const QString& moduleFolder);
 
-/// Draws "maps/k<number>.map", PNG, for each map and removes those made here before of other
+/// Draws "maps/k<number>.map", PNG with the names on it as text, for each map and removes those made here before of other
 /// numbers. A picture that the user has put there stays. Yields lines for the report: pictures
 /// that stay, names that found no room. NotFound without a font that has Hangul.
 Result<QStringList> writeMapFiles(const MapSources& maps, const QString& moduleFolder);

@@ -88,6 +88,7 @@ private:
     QImage m_picture;
     QPainter m_painter;
     QList<QRectF> m_furniture; ///< what stands on the map and is not of it
+    std::vector<MapName> m_names;
     QStringList m_leftOut;
 };
 
@@ -254,6 +255,7 @@ void MapPainter::drawPlaces()
         if (!wishes[i].across)
             drawMark(m_painter, shown[i]->kind, wishes[i].at);
         writeName(*shown[i], wishes[i].weight, *rooms[i]);
+        m_names.push_back({shown[i]->name, wishes[i].at.toPoint(), rooms[i]->toAlignedRect()});
     }
 }
 
@@ -270,7 +272,7 @@ DrawnMap MapPainter::draw(const std::vector<GeoLine>& land)
     drawFrame(m_painter, m_projection);
     writeTitle(m_painter, m_projection, m_sheet.title, m_sheet.note);
     m_painter.end();
-    return {m_picture, m_leftOut};
+    return {m_picture, m_names, m_leftOut};
 }
 
 } // namespace

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "data/map_names.h"
 #include "map/map_tables.h"
 
 #include <QImage>
 
 namespace lumen {
 
-/// A drawn map and the names that found no room on it.
+/// A drawn map, the names on it and those that found no room.
 struct DrawnMap
 {
     QImage picture;
+    std::vector<MapName> names;
     QStringList leftOut;
 };
 

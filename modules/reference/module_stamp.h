@@ -6,7 +6,7 @@
 namespace lumen {
 
 /// The version of the rules by which modules are made; a module of other rules is made anew.
-inline constexpr int kBuilderVersion = 9;
+inline constexpr int kBuilderVersion = 10;
 
 /// The keys of the origin lines that hold the stamp and the version of the rules.
 inline constexpr QStringView kStampKey = u"stamp";

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "data/map_names.h"
 #include "map/label_layout.h"
 #include "map/land.h"
 #include "map/map_painter.h"
@@ -83,15 +84,21 @@ TEST_F(MapModuleTest, TablesBecomeAListPicturesAndPlacesInThem)
         EXPECT_TRUE(isWater(map, box, point)) << point.lat << ' ' << point.lon;
 
     const auto places =
-        storeRows(module, u"select Name, Left, Top from BibleMapPlace where FileNum = 3"_s);
+        storeRows(module, u"select Name from BibleMapPlace where FileNum = 3"_s);
     ASSERT_EQ(places.size(), 2U);
     EXPECT_EQ(DES::UnscrambleField(places[0][0].toString()), u"가 마을"_s);
+    const std::vector<MapName> names = mapNamesOf(map.text(kMapNamesKey));
+    ASSERT_EQ(names.size(), 2U);
+    EXPECT_EQ(names[0].name, u"가 마을"_s);
     // 2,500 pixels for three degrees east, at the eleventh degree, from the north-west corner (80,
     // 150).
-    EXPECT_EQ(places[1][1].toInt(), 2163);
-    EXPECT_EQ(places[1][2].toInt(), 574);
-    const QColor mark = map.pixelColor(places[0][1].toInt(), places[0][2].toInt());
-    EXPECT_GT(mark.red(), 2 * mark.green()) << "the mark of a town stands where the row says";
+    EXPECT_EQ(names[1].at, QPoint(2163, 574));
+    const QColor mark = map.pixelColor(names[0].at);
+    EXPECT_GT(mark.red(), 2 * mark.green()) << "the mark of a town stands where the text says";
+    int letters = 0;
+    for (int x = names[0].label.left(); x <= names[0].label.right(); ++x)
+        letters += map.pixelColor(x, names[0].label.center().y()).lightness() < 60;
+    EXPECT_GT(letters, 10) << "the name is written where the text says";
 }
 
 TEST_F(MapModuleTest, AUsersOwnPictureStaysAndOursAreRenewed)
