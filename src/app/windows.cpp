@@ -14,6 +14,7 @@
 #include "tools/about_window.h"
 #include "tools/extract_dialog.h"
 #include "tools/insert_dialog.h"
+#include "tools/map/map_window.h"
 #include "tools/preferences_dialog.h"
 #include "tools/user_version_dialog.h"
 
@@ -79,6 +80,8 @@ void Windows::open(WindowId window)
         return;
     case WindowId::MailSettings:
         return runModally<dlog전자우편환경설정>(m_services);
+    case WindowId::Map:
+        return raise(m_map, m_services, m_state, m_reader->model, *this);
     }
 }
 
@@ -118,6 +121,8 @@ bool Windows::closeAll()
     if (m_illustrations && !m_illustrations->close())
         return false;
     if (m_strongList && !m_strongList->close())
+        return false;
+    if (m_map && !m_map->close())
         return false;
     return !m_search || m_search->close();
 }

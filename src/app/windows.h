@@ -18,6 +18,7 @@ class RecordWindow;
 class frm예화사전;
 class frm전자우편주소록;
 class frm설교문발송;
+class frm성서지도;
 struct AppState;
 struct Services;
 
@@ -61,6 +62,7 @@ private:
     std::unique_ptr<frm예화사전> m_illustrations;
     std::unique_ptr<frm전자우편주소록> m_addresses;
     std::unique_ptr<frm설교문발송> m_sending;
+    std::unique_ptr<frm성서지도> m_map;
 };
 
 } // namespace lumen

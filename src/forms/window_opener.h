@@ -22,7 +22,8 @@ enum class WindowId {
     Illustrations,
     AddressBook,
     SendSermon,
-    MailSettings
+    MailSettings,
+    Map
 };
 
 /// Opens, raises or runs a window, so that windows need not know each other.

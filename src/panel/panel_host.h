@@ -25,6 +25,8 @@ struct PanelHost
     std::function<Database*()> baseModule = {};
     /// The verses of a Strong's number are asked for.
     std::function<void(const QString& language, const QString& number)> openStrongList = {};
+    /// The window is not the reader: what opens a verse there brings the reader to the front.
+    bool isBesideReader = false;
     /// The menu was asked for on what can be copied, at a place of the screen.
     std::function<void(const QPoint& at)> popUpEditMenu = {};
 };

@@ -47,6 +47,7 @@ constexpr std::array kWindowTools{
     WindowTool{u"ID_설교매니저", WindowId::Sermons},
     WindowTool{u"ID_QT매니저", WindowId::QuietTime},
     WindowTool{u"ID_예화사전", WindowId::Illustrations},
+    WindowTool{u"ID_성서지도", WindowId::Map},
     WindowTool{u"ID_환경설정", WindowId::Preferences},
     WindowTool{u"ID_사용자역본환경설정", WindowId::UserVersionPreferences},
     WindowTool{u"ID_루멘스크립트에대하여", WindowId::About},

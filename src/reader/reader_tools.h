@@ -75,7 +75,7 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_설교매니저", u"설교 매니저(&M)...", ToolKind::Button, u"ID_도구", u"F5"},
     ToolRow{u"ID_QT매니저", u"QT 매니저(&Q)...", ToolKind::Button, u"ID_도구", u"F6"},
     ToolRow{u"ID_예화사전", u"예화 사전(&I)...", ToolKind::Button, u"ID_도구", u"F7"},
-    ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_도구", u"Ctrl+Shift+P", u"", ToolState::Later},
+    ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_도구", u"Ctrl+Shift+P"},
     ToolRow{u"ID_인터넷", u"홈페이지(&H)", ToolKind::Button, u"ID_도구"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_도구"},
     ToolRow{u"ID_환경설정", u"환경 설정(&O)...", ToolKind::Button, u"ID_도구", u"Ctrl+,", u"preferences"},

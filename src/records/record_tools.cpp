@@ -58,7 +58,7 @@ constexpr std::array kToolMenu{
     ToolRow{u"ID_검색", u"검색(&S)...", ToolKind::Button, u"ID_mn도구", u"Ctrl+F", u"search"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_mn도구"},
     ToolRow{u"ID_성서", u"성서(&B)", ToolKind::Button, u"ID_mn도구", u"Ctrl+Shift+B"},
-    ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_mn도구", u"", u"", ToolState::Later},
+    ToolRow{u"ID_성서지도", u"성서 지도(&P)...", ToolKind::Button, u"ID_mn도구"},
     ToolRow{u"ID_예화사전", u"예화 사전(&Y)...", ToolKind::Button, u"ID_mn도구", u"F7"},
 };
 constexpr std::array kMailMenu{

@@ -192,6 +192,7 @@ void RecordWindow::bindTools()
         if (!m_profile.lacksTool(id))
             m_tools.on(id, [this, window = window] { m_windows.open(window); });
     m_tools.on(u"ID_예화사전", [this] { m_windows.open(WindowId::Illustrations); });
+    m_tools.on(u"ID_성서지도", [this] { m_windows.open(WindowId::Map); });
     m_tools.on(u"ID_인터넷", [this] { m_windows.openHomePage(); });
     m_tools.on(m_profile.tools.otherManager.id, [this] {
         m_windows.open(m_profile.hasPreachedDay() ? WindowId::QuietTime : WindowId::Sermons);

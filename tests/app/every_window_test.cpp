@@ -121,7 +121,7 @@ protected:
         lookAtReader(look);
         for (const WindowId window :
              {WindowId::Search, WindowId::Sermons, WindowId::QuietTime, WindowId::Illustrations,
-              WindowId::AddressBook, WindowId::SendSermon}) {
+              WindowId::AddressBook, WindowId::SendSermon, WindowId::Map}) {
             const QWidgetList before = visibleWindows();
             windows.open(window);
             QWidget* shown = nullptr;

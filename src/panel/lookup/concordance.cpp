@@ -136,6 +136,11 @@ void ConcordanceLookup::clear()
         tell(QString());
 }
 
+bool ConcordanceLookup::hasModule() const
+{
+    return moduleExists(m_services.files, m_state, versionFile(code(), u"c"));
+}
+
 void ConcordanceLookup::search(QString& word)
 {
     if (word.isEmpty())
@@ -143,8 +148,7 @@ void ConcordanceLookup::search(QString& word)
     word = cleanedConcordanceWord(word, code());
     m_controls.word.setText(word);
     showFonts();
-    const QString relative = versionFile(code(), u"c");
-    if (!moduleExists(m_services.files, m_state, relative)) {
+    if (!hasModule()) {
         const QString name = versionTable();
         m_controls.version.setListIndex(m_firstChoice);
         m_services.messages.show(&m_controls.page, messages::kNoConcordance, {name});
@@ -238,22 +242,25 @@ void ConcordanceLookup::tellFound()
         tell(text);
 }
 
-Concordance::Concordance(const PanelHost& host)
-    : m_host(host), m_page(new QWidget), m_lookup(host.services, host.state,
-                                                  {.page = *m_page,
-                                                   .version = *cbConcVer,
-                                                   .word = *tx성구사전검색어,
-                                                   .holds = *op성구포함,
-                                                   .search = *cmd성구사전검색,
-                                                   .words = *flex성구결과,
-                                                   .verses = *lst성구인덱스,
-                                                   .text = *tx성구본문})
+Concordance::Concordance(const PanelHost& host, QStringView versionBox)
+    : m_host(host), m_page(new QWidget), cbConcVer(named<ComboBox>(versionBox, u"역본")),
+      m_lookup(host.services, host.state,
+               {.page = *m_page,
+                .version = *cbConcVer,
+                .word = *tx성구사전검색어,
+                .holds = *op성구포함,
+                .search = *cmd성구사전검색,
+                .words = *flex성구결과,
+                .verses = *lst성구인덱스,
+                .text = *tx성구본문})
 {
     op성구시작->setChecked(true);
     layOut();
     m_lookup.tell = [this](const QString& status) { setStatus(status); };
     m_lookup.onVerse = [this](const VersePlace& place) {
         m_host.reader.goTo(place.book, place.chapter, place.verse);
+        if (m_host.isBesideReader)
+            m_host.reader.bringToFront();
     };
 }
 
@@ -282,13 +289,16 @@ void Concordance::layOut()
 
 void Concordance::enter()
 {
-    // The first time with the reader's base version.
-    if (!m_filled) {
-        m_filled = true;
-        m_lookup.fillVersions(indexOfVersion(SetClassicCombo(m_host.state.installed, 0),
-                                             m_host.reader.versionCode(0)));
-    }
+    if (!m_filled)
+        fillVersions(indexOfVersion(SetClassicCombo(m_host.state.installed, 0),
+                                    m_host.reader.versionCode(0)));
     setStatus(m_lookup.status());
+}
+
+void Concordance::fillVersions(int index)
+{
+    m_filled = true;
+    m_lookup.fillVersions(index);
 }
 
 } // namespace lumen

@@ -43,6 +43,8 @@ public:
 
     /// Fills the combo with the versions and chooses one by its place in the lists.
     void fillVersions(int index);
+    /// Whether the chosen version has a concordance.
+    bool hasModule() const;
     /// `word` comes back cleaned. May throw a JetError.
     void search(QString& word);
     /// The count of the words on show, "" without any.
@@ -78,13 +80,19 @@ private:
 class Concordance : public PanelTab
 {
 public:
-    explicit Concordance(const PanelHost& host);
+    /// The name of the versions' list differs from window to window.
+    explicit Concordance(const PanelHost& host, QStringView versionBox = u"cbConcVer");
 
     QStringView caption() const override { return panel_caption::kConcordance; }
     QWidget* page() override { return m_page; }
     void enter() override;
     void showPlace() override {}
 
+    /// Lists the versions and chooses one by its place in the lists. Without it the first enter()
+    /// chooses the reader's base version.
+    void fillVersions(int index);
+    /// False where a lookup could only tell that the version has no concordance.
+    bool hasModule() const { return m_lookup.hasModule(); }
     /// `word` comes back as it was looked up.
     void Proc성구사전검색(QString& word) { m_lookup.search(word); }
 
@@ -93,7 +101,7 @@ private:
     QWidget* m_page; // before the controls, which it takes over
 
 public:
-    ComboBox* cbConcVer = named<ComboBox>(u"cbConcVer", u"역본");
+    ComboBox* cbConcVer; ///< under the name that the window gives it
     QLineEdit* tx성구사전검색어 = named<QLineEdit>(u"tx성구사전검색어", u"검색어");
     QRadioButton* op성구시작 = named<QRadioButton>(u"op성구시작", u"시작");
     QRadioButton* op성구포함 = named<QRadioButton>(u"op성구포함", u"포함");
