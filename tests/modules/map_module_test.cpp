@@ -83,8 +83,7 @@ TEST_F(MapModuleTest, TablesBecomeAListPicturesAndPlacesInThem)
     for (const GeoPoint& point : water)
         EXPECT_TRUE(isWater(map, box, point)) << point.lat << ' ' << point.lon;
 
-    const auto places =
-        storeRows(module, u"select Name from BibleMapPlace where FileNum = 3"_s);
+    const auto places = storeRows(module, u"select Name from BibleMapPlace where FileNum = 3"_s);
     ASSERT_EQ(places.size(), 2U);
     EXPECT_EQ(DES::UnscrambleField(places[0][0].toString()), u"가 마을"_s);
     const std::vector<MapName> names = mapNamesOf(map.text(kMapNamesKey));
