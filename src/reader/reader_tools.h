@@ -21,7 +21,7 @@ inline constexpr EditToolIds kReaderEditTools{.copyUnicode = u"ID_UnicodeCopy"};
 /// The reader's tools. The version tools ("ID_대역본0-101"), the book tools ("ID_성서책0") and the
 /// book buttons ("ID_0") are generated from the catalogue and the canon when the window is made.
 inline constexpr std::array kReaderFileMenu{
-    // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},

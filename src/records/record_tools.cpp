@@ -8,7 +8,7 @@ namespace {
 
 // clang-format off
 constexpr std::array kFileMenu{
-    // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_저장", u"저장(&S)", ToolKind::Button, u"ID_파일", u"Ctrl+S", u"save"},
     ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},
@@ -97,9 +97,8 @@ void addRecordMenu(std::vector<ToolRow>& rows, const RecordTools& tools)
 {
     constexpr QStringView kMenu = u"ID_Record";
     const ToolRow separator{u"", u"", ToolKind::Separator, kMenu};
-    const auto button = [](const RecordTool& tool, QStringView key, QStringView icon = {},
-                           ToolState state = ToolState::Ready) {
-        return ToolRow{tool.id, tool.caption, ToolKind::Button, kMenu, key, icon, state};
+    const auto button = [](const RecordTool& tool, QStringView key, QStringView icon = {}) {
+        return ToolRow{tool.id, tool.caption, ToolKind::Button, kMenu, key, icon};
     };
     rows.push_back({kMenu, tools.menu, ToolKind::Menu, kMenuBar});
     rows.push_back(button(tools.create, u"Ctrl+N", u"new-record"));

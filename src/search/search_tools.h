@@ -15,7 +15,7 @@ inline constexpr EditToolIds kSearchEditTools{.paste = u"ID_붙여넣기"};
 /// The tools of the search window. The scope tools are made from the scope table, the version tools
 /// ("ID_대역본0-101") from the catalogue.
 inline constexpr std::array kSearchFileMenu{
-    // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_미리보기", u"미리보기(&V)...", ToolKind::Button, u"ID_파일", u"Ctrl+Shift+P"},
     ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},

@@ -24,7 +24,7 @@ constexpr std::array kTools{
     ToolRow{u"ID_글자크기3", u"보통", ToolKind::Toggle, u"ID_글자크기"},
     ToolRow{u"ID_복사", u"복사", ToolKind::Button, u"ID_편집", u"Ctrl+Shift+C"},
     ToolRow{{}, {}, ToolKind::Separator, u"ID_편집"},
-    ToolRow{u"ID_지도", u"지도", ToolKind::Button, u"ID_편집", {}, u"", ToolState::Later},
+    ToolRow{u"ID_지도", u"지도", ToolKind::Button, u"ID_편집"},
     ToolRow{u"ID_다음장", u"다음 장(&N)", ToolKind::Button, u"이동 도구", u"Ctrl+Right"},
     ToolRow{u"ID_cb장", u"장", ToolKind::Combo, u"이동 도구"},
     ToolRow{u"ID_복사", u"복사", ToolKind::Button, u"표준 도구"},

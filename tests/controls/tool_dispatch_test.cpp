@@ -41,7 +41,6 @@ constexpr std::array kRows{
     ToolRow{u"ID_보기", u"보기", ToolKind::Menu, kMenuBar},
     ToolRow{{}, {}, ToolKind::Separator, u"ID_보기"},
     ToolRow{u"ID_검색", u"검색", ToolKind::Button, u"ID_보기"},
-    ToolRow{u"ID_지도", u"지도", ToolKind::Button, u"ID_보기", {}, u"", ToolState::Later},
     ToolRow{u"ID_글자크기1", u"작게", ToolKind::Toggle, u"ID_보기"},
     ToolRow{u"ID_cb장", u"장", ToolKind::Combo, u"이동"},
 };
@@ -51,7 +50,6 @@ TEST(UnpairedToolsTest, NothingIsAmissWhenAllFits)
     ToolDispatch clicks;
     ToolDispatch combos;
     clicks.on(u"ID_검색", [] {});
-    clicks.on(u"ID_지도", [] {});
     clicks.onNumbered(u"ID_글자크기", [](int) {});
     combos.on(u"ID_cb장", [] {});
     const ToolFaults faults = unpairedTools(kRows, clicks, combos);

@@ -36,7 +36,7 @@ constexpr int kCategoryRole = kNumRole + 1; // of a category's node
 
 // clang-format off
 constexpr std::array kFileMenu{
-    // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_닫기", u"닫기(&C)", ToolKind::Button, u"ID_파일", u"Ctrl+W", u"close"},
     ToolRow{u"ID_종료", u"종료(&X)", ToolKind::Button, u"ID_파일", u"Ctrl+Q"},

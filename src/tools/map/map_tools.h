@@ -13,7 +13,7 @@ inline constexpr EditToolIds kMapEditTools{};
 
 // clang-format off
 inline constexpr std::array kMapFileMenu{
-    // id, caption, kind, bar or menu that it stands on, shortcut, icon, state
+    // id, caption, kind, bar or menu that it stands on, shortcut, icon
     ToolRow{u"ID_파일", u"파일(&F)", ToolKind::Menu, kMenuBar},
     ToolRow{u"ID_인쇄", u"인쇄(&P)...", ToolKind::Button, u"ID_파일", u"Ctrl+P"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_파일"},

@@ -19,9 +19,6 @@ using namespace Qt::StringLiterals;
 namespace lumen {
 namespace {
 
-// A dynamic property of the actions of Later tools.
-constexpr char kLaterProperty[] = "laterTool";
-
 constexpr int kPackedMargin = 3; // pixels on either side of a packed button's text
 
 QString tipFor(const QString& caption, const QKeySequence& shortcut)
@@ -45,9 +42,8 @@ bool Tool::enabled() const
 
 void Tool::setEnabled(bool enabled)
 {
-    if (!m_action || m_action->property(kLaterProperty).toBool())
-        return;
-    m_action->setEnabled(enabled);
+    if (m_action)
+        m_action->setEnabled(enabled);
 }
 
 bool Tool::checked() const
@@ -115,7 +111,6 @@ struct ActiveToolBars::Entry
     QString shortcut;
     QString icon;
     ToolKind kind = ToolKind::Button;
-    ToolState state = ToolState::Ready;
     QAction* action = nullptr;
     QMenu* menu = nullptr;
     ComboBox* combo = nullptr;
@@ -150,7 +145,6 @@ ActiveToolBars::Entry& ActiveToolBars::entryFor(const ToolRow& row)
     entry.shortcut = row.shortcut.toString();
     entry.icon = row.icon.toString();
     entry.kind = row.kind;
-    entry.state = row.state;
     if (row.kind == ToolKind::Menu)
         makeMenu(entry);
     else if (row.kind != ToolKind::Combo)
@@ -186,10 +180,6 @@ void ActiveToolBars::finishAction(Entry& entry)
 {
     entry.action->setObjectName(entry.id);
     entry.action->setToolTip(tipFor(entry.caption, entry.action->shortcut()));
-    if (entry.state == ToolState::Later) {
-        entry.action->setProperty(kLaterProperty, true);
-        entry.action->setEnabled(false);
-    }
 }
 
 void ActiveToolBars::addRow(const ToolRow& row)
@@ -322,8 +312,8 @@ std::vector<ToolRow> ActiveToolBars::rows() const
     std::vector<ToolRow> all;
     all.reserve(m_order.size());
     std::transform(m_order.begin(), m_order.end(), std::back_inserter(all), [](const Entry* entry) {
-        return ToolRow{entry->id,       entry->caption, entry->kind, entry->place,
-                       entry->shortcut, entry->icon,    entry->state};
+        return ToolRow{entry->id,    entry->caption,  entry->kind,
+                       entry->place, entry->shortcut, entry->icon};
     });
     return all;
 }

@@ -29,7 +29,6 @@ public:
     bool exists() const { return m_action != nullptr; }
 
     bool enabled() const;
-    /// A Later tool stays disabled.
     void setEnabled(bool enabled);
     bool checked() const;
     /// No click is reported.

@@ -15,8 +15,7 @@ bool isNumber(QStringView text)
 
 bool needsHandler(const ToolRow& row)
 {
-    return row.state == ToolState::Ready && row.kind != ToolKind::Menu &&
-           row.kind != ToolKind::Separator;
+    return row.kind != ToolKind::Menu && row.kind != ToolKind::Separator;
 }
 
 QStringList unreached(const ToolDispatch& dispatch, const std::set<QString>& reached)

@@ -50,7 +50,7 @@ struct ToolFaults
 };
 
 /// Pairs a window's tools with its two dispatches: `combos` answers the Combo tools, `clicks` all
-/// others. Later tools are exempt from both lists, Menus and Separators need no handler.
+/// others. Menus and Separators need no handler.
 ToolFaults unpairedTools(std::span<const ToolRow> rows, const ToolDispatch& clicks,
                          const ToolDispatch& combos = {});
 

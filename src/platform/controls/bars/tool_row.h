@@ -9,17 +9,14 @@ namespace lumen {
 /// a Combo is a list on a bar, a Separator only parts its neighbours (its id stays empty).
 enum class ToolKind { Button, Toggle, Menu, Combo, Separator };
 
-/// Ready tools work. A Later one is on its bar, disabled until its window is there.
-enum class ToolState { Ready, Later };
-
 /// The place of the menus of a window's menu bar.
 inline constexpr QStringView kMenuBar = u"메뉴 모음";
 /// The place of tools that stand nowhere: menus that only pop up, commands that only have a key.
 inline constexpr QStringView kNowhere = u"";
 
 /// One tool in one place. The place is the caption of a bar, the id of a Menu, kMenuBar or
-/// kNowhere. Two rows with one id are one tool in two places; its caption, kind, shortcut, icon and
-/// state are those of the first row.
+/// kNowhere. Two rows with one id are one tool in two places; its caption, kind, shortcut and icon
+/// are those of the first row.
 struct ToolRow
 {
     QStringView id;
@@ -28,7 +25,6 @@ struct ToolRow
     QStringView place;
     QStringView shortcut = {}; ///< "Ctrl+F"
     QStringView icon = {};     ///< the drawing's name, "" for a caption alone
-    ToolState state = ToolState::Ready;
 };
 
 } // namespace lumen
