@@ -29,15 +29,17 @@ VerseSheet emptySheet(int code, const QString& version, const FontSettings& font
 QString frm성서검색::printedQuery() const
 {
     const QString range = m_model.scopeText(); // names itself
+    // On paper Hebrew and Greek stand in their letters.
+    const QString font = GetVersionFont(m_model.resultCode(), m_state.fonts).font;
     if (m_model.tab() == SearchTab::Power) {
         QStringList terms;
         for (const QLineEdit* const box : {power->txPSearch1, power->txPSearch2, power->txPSearch3})
             if (!box->text().trimmed().isEmpty())
                 terms << box->text().trimmed();
-        return u"검색 조건: "_s + terms.join(u' ') + u" ("_s + range + u')';
+        return u"검색 조건: "_s + unicodeOfFont(terms.join(u' '), font) + u" ("_s + range + u')';
     }
     const QString query = easy->tx검색->text().trimmed();
-    return u"검색 조건: "_s + query + u" ("_s + range + u')';
+    return u"검색 조건: "_s + unicodeOfFont(query, font) + u" ("_s + range + u')';
 }
 
 void frm성서검색::printResult()
