@@ -28,7 +28,14 @@ void paint(QPainter& painter, const PageFill& fill)
 
 void paint(QPainter& painter, const PagePicture& picture)
 {
-    painter.drawImage(picture.box, picture.picture);
+    // The painter takes one dot of several, which breaks lines and letters of a picture that is
+    // shown much smaller than it is; on paper it hardly ever is.
+    const QSize shown = painter.combinedTransform().mapRect(picture.box).size().toSize();
+    if (shown.width() * 2 < picture.picture.width() && !shown.isEmpty())
+        painter.drawImage(picture.box, picture.picture.scaled(shown, Qt::IgnoreAspectRatio,
+                                                              Qt::SmoothTransformation));
+    else
+        painter.drawImage(picture.box, picture.picture);
 }
 
 } // namespace
