@@ -77,8 +77,21 @@ TwipsRect placeOf(const QWidget& window)
     return inTwips({normal.topLeft() - QPoint(frame.left(), frame.top()), normal.size()});
 }
 
+/// The frame that the desktop puts around windows, as those on show have it; none before the
+/// first.
+QMargins usualFrame()
+{
+    QMargins frame;
+    for (const QWindow* window : QGuiApplication::topLevelWindows())
+        if (window->isVisible() && window->windowStates() == Qt::WindowNoState &&
+            window->frameMargins().top() > frame.top())
+            frame = window->frameMargins();
+    return frame;
+}
+
 /// The place of a window as the screen that it stands on shows it whole: screens get smaller, and
-/// what lies below a panel or beyond the edge can't be dragged back by everyone.
+/// what lies below a panel or beyond the edge can't be dragged back by everyone. The position is
+/// that of the frame, the size the one inside.
 QRect whollyVisible(const QRect& window)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -90,7 +103,9 @@ QRect whollyVisible(const QRect& window)
             screen = one;
         }
     }
-    const QRect room = screen->availableGeometry();
+    QRect room = screen->availableGeometry();
+    const QMargins frame = usualFrame();
+    room.setSize(room.size() - QSize(frame.left() + frame.right(), frame.top() + frame.bottom()));
     QRect placed(window.topLeft(), window.size().boundedTo(room.size()));
     placed.moveLeft(std::clamp(placed.left(), room.left(), room.right() + 1 - placed.width()));
     placed.moveTop(std::clamp(placed.top(), room.top(), room.bottom() + 1 - placed.height()));

@@ -435,8 +435,10 @@ TEST_F(RecordWindowTest, EachToolHasItsCommand)
     EXPECT_EQ(faults.withoutTool, QStringList());
     run(u"ID_QT매니저"_s);
     run(u"ID_성서"_s);
+    run(u"ID_성서지도"_s);
     run(u"ID_인터넷"_s);
-    EXPECT_EQ(opener.opened, (std::vector<WindowId>{WindowId::QuietTime, WindowId::Reader}));
+    EXPECT_EQ(opener.opened,
+              (std::vector<WindowId>{WindowId::QuietTime, WindowId::Reader, WindowId::Map}));
     EXPECT_EQ(opener.homePages, 1);
 }
 
