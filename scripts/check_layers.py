@@ -34,10 +34,11 @@ LAYERS = {
     "forms": CONTROLS,
     "print": ["forms"],
     "panel": ["forms"],
+    "palette": ["forms"],
     "records": ["print"],
     "search": ["panel", "print"],
     "tools": ["panel", "print"],
-    "reader": ["panel", "print"],
+    "reader": ["palette", "panel", "print"],
     "app": ["reader", "search", "tools", "records"],
 }
 # The builder of data modules: folders below modules/.

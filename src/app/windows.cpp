@@ -85,6 +85,12 @@ void Windows::open(WindowId window)
     }
 }
 
+void Windows::search(int version, const QString& words)
+{
+    open(WindowId::Search);
+    m_search->searchFor(version, words);
+}
+
 void Windows::openStrongList(const QString& language, const QString& number)
 {
     if (!m_strongList)

@@ -34,6 +34,7 @@ public:
     /// before anything is opened.
     void setReader(frm성서& reader);
     void open(WindowId window) override;
+    void search(int version, const QString& words) override;
     void openStrongList(const QString& language, const QString& number) override;
     void openVerseInsertion(QWidget* parent,
                             const std::function<void(const QString&)>& insert) override;

@@ -176,7 +176,7 @@ Numbers numbersAt(const QRegularExpressionMatch& match, int group)
             match.capturedView(group + 2).toInt()};
 }
 
-bool isPossible(const VerseRange& range)
+bool isPossible(const PlaceRange& range)
 {
     const auto inCanon = [](const VersePlace& place) {
         return place.chapter >= 1 && place.chapter <= chapterCount(place.book) &&
@@ -194,7 +194,7 @@ class PlaceReader
 public:
     // A number alone behind a comma is a verse, if the part before named one; behind a semicolon
     // it is a chapter.
-    std::optional<VerseRange> read(const QString& part, bool behindSemicolon)
+    std::optional<PlaceRange> read(const QString& part, bool behindSemicolon)
     {
         static const QRegularExpression withBook(
             u"^((?:[123]\\s*)?[\\p{L}][\\p{L} .]*?)\\s*(?=\\d)(.*)$"_s);
@@ -210,7 +210,7 @@ public:
     }
 
 private:
-    std::optional<VerseRange> readNumbers(const QString& text)
+    std::optional<PlaceRange> readNumbers(const QString& text)
     {
         static const QRegularExpression form(u"^(\\d{1,3})(\\s*:\\s*(\\d{1,3})?)?"
                                              "(?:\\s*-\\s*(\\d{1,3})(\\s*:\\s*(\\d{1,3})?)?)?$"_s);
@@ -230,7 +230,7 @@ private:
         const VersePlace last = isRange ? placeOf(to, areChapters) : first;
         m_leansOnVerse = last.verse > 0;
         m_chapter = last.chapter;
-        const VerseRange range{first, last};
+        const PlaceRange range{first, last};
         return isPossible(range) ? std::optional(range) : std::nullopt;
     }
 
@@ -256,11 +256,11 @@ private:
 
 } // namespace
 
-QList<VerseRange> parsePlaces(const QString& typed)
+QList<PlaceRange> parsePlaces(const QString& typed)
 {
     static const QRegularExpression separator(u"[,;]"_s);
     const QString text = inOneSpelling(typed);
-    QList<VerseRange> places;
+    QList<PlaceRange> places;
     PlaceReader reader;
     qsizetype start = 0;
     while (start <= text.size()) {

@@ -32,6 +32,8 @@ class WindowOpener
 public:
     virtual ~WindowOpener() = default;
     virtual void open(WindowId window) = 0;
+    /// Brings the search window up and searches words in the version of this code.
+    virtual void search(int version, const QString& words) = 0;
     /// Lists the verses in which a Strong's number occurs; the language is "히브리어" or "헬라어".
     virtual void openStrongList(const QString& language, const QString& number) = 0;
     /// Lets the user take verses for a text: onto the clipboard, or through `insert` to its caret.

@@ -6,6 +6,7 @@
 #include "forms/edit_menu.h"
 #include "forms/results/verse_copy.h"
 #include "forms/services.h"
+#include "palette/verse_texts.h"
 #include "panel/reference_panel.h"
 #include "platform/controls/bars/active_tool_bars.h"
 #include "platform/controls/bars/tool_dispatch.h"
@@ -144,6 +145,7 @@ private:
     WindowOpener& m_windows;
     ReaderSettings m_settings; ///< as they are in use now
     ChapterViews m_views{*txCont, *hflex본문, model, m_settings, m_state};
+    VerseTexts m_verses;     ///< of the base version, for the palette
     DataControl m_dacRefTab; ///< shared by the tabs of the panel, which point it anew
     BookmarkFile m_bookmarkFile;
     EditMenu m_editMenu{*this, atbar, m_services.clipboard, kReaderEditTools};

@@ -7,6 +7,7 @@
 #include "forms/versions/book_combo.h"
 #include "forms/versions/version_combo.h"
 #include "forms/window_opener.h"
+#include "palette/palette_window.h"
 #include "platform/dialogs/message_boxes.h"
 #include "platform/files/shell.h"
 #include "platform/registry/registry_store.h"
@@ -235,6 +236,11 @@ void frm성서::bindMoveTools()
         m_sidePane->show();
         atbar.tool(u"ID_SidePane").setChecked(true);
         quickMove->startTyping();
+    });
+    m_tools.on(u"ID_Palette", [this] {
+        runPalette(
+            {m_services, m_state, *this, atbar, model, m_verses,
+             [this](const QString& words) { m_windows.search(model.versionCode(0), words); }});
     });
     m_tools.on(u"ID_ToText", [this] { shownView().setFocus(); });
     m_tools.on(u"ID_AddBookmark", [this] { bookmarks->cmd책갈피추가_Click(); });

@@ -57,6 +57,7 @@ inline constexpr std::array kReaderTools{
     ToolRow{u"ID_이전장", u"이전 장(&P)", ToolKind::Button, u"ID_Move", u"Ctrl+Left", u"previous-chapter"},
     ToolRow{u"ID_다음장", u"다음 장(&N)", ToolKind::Button, u"ID_Move", u"Ctrl+Right", u"next-chapter"},
     ToolRow{u"ID_QuickMove", u"즉석 이동(&G)", ToolKind::Button, u"ID_Move", u"Ctrl+G", u"quick-move"},
+    ToolRow{u"ID_Palette", u"명령과 구절 찾기(&K)...", ToolKind::Button, u"ID_Move", u"Ctrl+K"},
     ToolRow{u"ID_ToText", u"본문으로(&X)", ToolKind::Button, u"ID_Move", u"Ctrl+T"},
     ToolRow{u"ID_AddBookmark", u"책갈피 추가(&B)", ToolKind::Button, u"ID_Move", u"Ctrl+D", u"bookmark"},
     ToolRow{u"", u"", ToolKind::Separator, u"ID_Move"},

@@ -9,6 +9,7 @@
 #include "search/verses/book_selection_dialog.h"
 #include "search/verses/easy_search.h"
 #include "text/basic_text.h"
+#include "text/original/original_unicode.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,17 @@ bool isOriginalLanguage(int code)
     constexpr int kBelow = 300;
     constexpr int kAbove = 400;
     return code > kBelow && code < kAbove;
+}
+
+// As the box of a version takes words.
+QString storedText(int version, const QString& words)
+{
+    if (isHebrewVersion(version))
+        return hebrewToCodes(words, GetVersionFont(version, {}).font == typeface::kConsonants.family
+                                        ? HebrewForm::Consonants
+                                        : HebrewForm::Pointed)
+            .codes;
+    return scriptOf(version) == Script::Greek ? greekToCodes(words).codes : words;
 }
 
 } // namespace
@@ -79,6 +91,15 @@ void frm성서검색::sstSearch_Click(SearchTab tab)
     }
     QLineEdit* box = tab == SearchTab::Easy ? easy->tx검색 : power->txPSearch1;
     box->setFocus();
+}
+
+void frm성서검색::searchFor(int version, const QString& words)
+{
+    if (const int index = m_model.versions().indexOf(version); index >= 0)
+        m_model.chooseVersion(index);
+    sstSearch->setTab(static_cast<int>(SearchTab::Easy));
+    easy->tx검색->setText(storedText(version, words));
+    cmd검색_Click();
 }
 
 void frm성서검색::startSearch()

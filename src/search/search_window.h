@@ -39,6 +39,9 @@ public:
     /// Fills the window afresh; the opener calls it before it shows the window.
     void Form_Load();
     void atbar_event9(const QString& toolId);
+    /// Searches words in the version of a code, as if they had been typed on the first tab; Hebrew
+    /// and Greek are given as Unicode.
+    void searchFor(int version, const QString& words);
     const ToolDispatch& toolClicks() const { return m_tools; }
     /// The module and the query behind the open result.
     const DataControl& dacSearch() const { return m_model.lookUps().dacSearch; }

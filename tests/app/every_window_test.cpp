@@ -91,6 +91,8 @@ protected:
     }
     void lookAtDialogs(const Look& look)
     {
+        services.modal.expect([&](QDialog& palette) { look(palette); });
+        reader.atbar.tool(u"ID_Palette").action()->trigger();
         for (const WindowId dialog :
              {WindowId::Extract, WindowId::Preferences, WindowId::UserVersionPreferences,
               WindowId::About, WindowId::MailSettings}) {

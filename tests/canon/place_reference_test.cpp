@@ -12,10 +12,10 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // "요3:16-요3:18" for each range, blanks between them.
-QString shown(const QList<VerseRange>& ranges)
+QString shown(const QList<PlaceRange>& ranges)
 {
     QStringList texts;
-    for (const VerseRange& range : ranges)
+    for (const PlaceRange& range : ranges)
         texts << u"%1%2:%3-%4:%5"_s.arg(bookAbbreviation(range.first.book))
                      .arg(range.first.chapter)
                      .arg(range.first.verse)

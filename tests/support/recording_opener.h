@@ -14,6 +14,10 @@ class RecordingOpener : public WindowOpener
 {
 public:
     void open(WindowId window) override { opened.push_back(window); }
+    void search(int version, const QString& words) override
+    {
+        searches << QString::number(version) + u' ' + words;
+    }
     void openStrongList(const QString& language, const QString& number) override
     {
         strongLists << language + u' ' + number;
@@ -28,6 +32,7 @@ public:
 
     std::vector<WindowId> opened;
     QStringList strongLists;
+    QStringList searches;
     QString verses;
     int homePages = 0;
     int ends = 0;
